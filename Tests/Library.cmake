@@ -1,0 +1,1 @@
+scheduler_add_test(tst_NotNull)

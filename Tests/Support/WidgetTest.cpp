@@ -1,0 +1,90 @@
+#include "WidgetTest.h"
+
+#include <QApplication>
+#include <QToolTip>
+
+#include <glog/logging.h>
+
+namespace Zentor::Tests {
+namespace {
+
+struct Warnings {
+    QStringList unexpected;
+    QList<QRegularExpression> allowed;
+    QtMessageHandler next = nullptr;
+};
+
+Warnings& CurrentWarnings()
+{
+    static Warnings warnings;
+    return warnings;
+}
+
+bool IsAllowed(const QString& message)
+{
+    // What the offscreen platform says of itself.
+    static const QRegularExpression ofPlatform(
+        QStringLiteral("^This plugin does not support (propagateSizeHints|raise)\\(\\)"));
+    const auto& allowed = CurrentWarnings().allowed;
+    return ofPlatform.match(message).hasMatch()
+        || std::any_of(allowed.begin(), allowed.end(),
+                       [&](const auto& pattern) { return pattern.match(message).hasMatch(); });
+}
+
+void CollectWarning(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    auto& warnings = CurrentWarnings();
+    if ((type == QtWarningMsg || type == QtCriticalMsg) && !IsAllowed(message)) {
+        warnings.unexpected << message;
+    }
+    if (warnings.next != nullptr) {
+        warnings.next(type, context, message);
+    }
+}
+
+QStringList RemainingTopLevelWidgets()
+{
+    QStringList names;
+    const auto widgets = QApplication::topLevelWidgets();
+    for (const QWidget* widget : widgets) {
+        // Qt keeps the label of its tool tips for itself.
+        if (!widget->inherits("QTipLabel")) {
+            names << QStringLiteral("%1 \"%2\"")
+                         .arg(QString::fromLatin1(widget->metaObject()->className()),
+                              widget->objectName());
+        }
+    }
+    return names;
+}
+
+} // namespace
+
+void WidgetTest::AllowWarning(const QString& pattern)
+{
+    CurrentWarnings().allowed << QRegularExpression(pattern);
+}
+
+void WidgetTest::init()
+{
+    CurrentWarnings() = {};
+    CurrentWarnings().next = qInstallMessageHandler(CollectWarning);
+}
+
+void WidgetTest::cleanup()
+{
+    QToolTip::hideText();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    qInstallMessageHandler(CurrentWarnings().next);
+    QCOMPARE(CurrentWarnings().unexpected.join(QLatin1String(" | ")), QString());
+    QCOMPARE(RemainingTopLevelWidgets().join(QLatin1String(" | ")), QString());
+}
+
+int RunTest(int argc, char** argv, QObject& test)
+{
+    google::InitGoogleLogging(argv[0]);
+    FLAGS_logtostderr = true;
+    QLocale::setDefault(QLocale::c());
+    return QTest::qExec(&test, argc, argv);
+}
+
+} // namespace Zentor::Tests

@@ -1,0 +1,36 @@
+# What every target of this project has in common.
+#
+#   zentor_target_defaults(<target>)              language level, warnings, visibility, sanitizers
+#   zentor_target_moc(<target> <header>...)       runs moc on the headers, without AUTOMOC
+
+function(zentor_target_defaults target)
+    set_target_properties(${target} PROPERTIES
+        AUTOMOC OFF
+        AUTOUIC OFF
+        AUTORCC OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        CXX_EXTENSIONS OFF)
+    target_compile_features(${target} PUBLIC cxx_std_17)
+    target_compile_definitions(${target} PRIVATE
+        QT_DEPRECATED_WARNINGS
+        QT_NO_CAST_FROM_ASCII
+        QT_NO_CAST_TO_ASCII
+        QT_NO_KEYWORDS)
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+        $<$<BOOL:${SCHEDULER_WARNINGS_AS_ERRORS}>:-Werror>)
+    if(SCHEDULER_SANITIZE)
+        set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all
+            -fno-omit-frame-pointer)
+        target_compile_options(${target} PRIVATE ${sanitizers})
+        target_link_options(${target} PUBLIC ${sanitizers})
+    endif()
+endfunction()
+
+# CMake 3.25 drops AUTOMOC's output of an object library that is reached through
+# $<TARGET_OBJECTS>, so the libraries name their moc output as ordinary sources.
+function(zentor_target_moc target)
+    qt5_wrap_cpp(moc_sources ${ARGN})
+    target_sources(${target} PRIVATE ${moc_sources})
+endfunction()
