@@ -1,1 +1,3 @@
 scheduler_add_test(tst_NotNull)
+scheduler_add_test(tst_DurationClamp
+    SOURCES "${PROJECT_SOURCE_DIR}/Lib/UI/SchedulerWidgets/DurationClamp.cpp")
