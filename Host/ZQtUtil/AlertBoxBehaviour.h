@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QDialogButtonBox>
+#include <QHash>
+#include <QMessageBox>
+
+namespace Zentor::Util {
+
+/// Has Escape and closing reject a message box, also one without a button for that.
+class RejectOnClose final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Starts watching \a box, which becomes the owner.
+    explicit RejectOnClose(QMessageBox* box);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QMessageBox* m_box;
+};
+
+/// Keeps the texts that were given to standard buttons when the language changes. Buttons with
+/// their standard text are translated as ever.
+class KeptButtonLabels final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Starts watching \a buttonBox, which becomes the owner.
+    explicit KeptButtonLabels(QDialogButtonBox* buttonBox);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    using Texts = QHash<QAbstractButton*, QString>;
+
+    Texts GivenTexts() const;
+
+    QDialogButtonBox* m_buttonBox;
+    /// The texts that standard buttons have in the current language.
+    QHash<int, QString> m_standardTexts;
+    bool m_isPassingOn = false;
+};
+
+} // namespace Zentor::Util

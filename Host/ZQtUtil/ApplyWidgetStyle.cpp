@@ -1,0 +1,24 @@
+#include <QApplication>
+#include <QStyle>
+#include <QVariant>
+
+#include "HostInterfaces.h"
+
+namespace Zentor::Util {
+
+void ApplyWidgetStyle(QWidget* widget, const QString& style, const char* property)
+{
+    const QVariant current = widget->property(property);
+    if (current.isValid() && current.toString() == style) {
+        return;
+    }
+    widget->setProperty(property, style);
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
+    // Frames take the paddings and borders of the sheet over when they hear of the change.
+    QEvent change(QEvent::StyleChange);
+    QApplication::sendEvent(widget, &change);
+    widget->update();
+}
+
+} // namespace Zentor::Util

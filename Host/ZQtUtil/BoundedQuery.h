@@ -1,0 +1,39 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "HostInterfaces.h"
+
+namespace Zentor::Util {
+
+/// Asks questions that may hang in the operating system and gives up when that takes too long.
+///
+/// Each question runs on a thread of its own. One that hangs keeps its thread until it is answered;
+/// so that such threads do not pile up, its subject is not asked about again meanwhile, and only a
+/// few subjects may hang at a time.
+class ZENTOR_HOST_API BoundedQuery {
+public:
+    /// Answers with a number, negative when there is no answer. Must not throw.
+    using Question = std::function<std::int64_t()>;
+
+    /// Waits up to \a patience for each answer.
+    explicit BoundedQuery(std::chrono::milliseconds patience);
+    ~BoundedQuery();
+    BoundedQuery(const BoundedQuery&) = delete;
+    BoundedQuery& operator=(const BoundedQuery&) = delete;
+
+    /// The answer to \a question, negative when it did not come in time or was not asked.
+    /// \a question may still be running after the return, and after the end of this object.
+    std::int64_t Ask(const std::string& subject, Question question);
+
+private:
+    class Subjects;
+    std::chrono::milliseconds m_patience;
+    std::shared_ptr<Subjects> m_subjects;
+};
+
+} // namespace Zentor::Util

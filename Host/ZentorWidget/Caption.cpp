@@ -1,0 +1,76 @@
+#include "Caption.h"
+
+#include <utility>
+
+#include <QAbstractButton>
+#include <QMouseEvent>
+
+#include "HostInterfaces.h"
+
+namespace Zentor {
+
+QString AccessibleNameFrom(const QLabel& caption)
+{
+    QString name = caption.text();
+    const QChar mark = QLatin1Char('&');
+    for (int at = name.indexOf(mark); at >= 0; at = name.indexOf(mark, at + 1)) {
+        // Of a doubled mark, which stands for the character itself, one stays.
+        name.remove(at, 1);
+    }
+    return name;
+}
+
+CaptionClicks::CaptionClicks(QWidget* caption, QAbstractButton* button)
+    : QObject(caption)
+    , m_caption(caption)
+    , m_button(button)
+{
+    caption->installEventFilter(this);
+}
+
+bool CaptionClicks::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto type = event->type();
+    if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonDblClick
+        && type != QEvent::MouseButtonRelease) {
+        return QObject::eventFilter(watched, event);
+    }
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    if (mouse->button() != Qt::LeftButton) {
+        return QObject::eventFilter(watched, event);
+    }
+    if (type != QEvent::MouseButtonRelease) {
+        m_isPressed = true;
+    } else if (std::exchange(m_isPressed, false) && m_caption->rect().contains(mouse->pos())) {
+        ClickButton();
+    }
+    return true;
+}
+
+void CaptionClicks::ClickButton()
+{
+    if (m_button == nullptr || !m_button->isEnabled()) {
+        return;
+    }
+    if ((m_button->focusPolicy() & Qt::ClickFocus) != 0) {
+        m_button->setFocus(Qt::MouseFocusReason);
+    }
+    // A click may ask a question and wait for its answer; meanwhile the caption, the button and
+    // this object can go. Nothing is touched after it.
+    m_button->click();
+}
+
+namespace Util {
+
+void bindWidgets(QWidget* label, QAbstractButton* button)
+{
+    new CaptionClicks(label, button);
+    if (auto* caption = qobject_cast<QLabel*>(label)) {
+        caption->setBuddy(button);
+        button->setAccessibleName(AccessibleNameFrom(*caption));
+    }
+}
+
+} // namespace Util
+
+} // namespace Zentor
