@@ -1,3 +1,5 @@
+set(library Zentor::PXUiSchedulerWidgetsStatic Zentor::ReferenceHost)
+
 scheduler_add_test(tst_NotNull)
-scheduler_add_test(tst_DurationClamp
-    SOURCES "${PROJECT_SOURCE_DIR}/Lib/UI/SchedulerWidgets/DurationClamp.cpp")
+scheduler_add_test(tst_DurationClamp LIBRARIES ${library})
+scheduler_add_test(tst_ScheduleRecordTableWidget LIBRARIES ${library})

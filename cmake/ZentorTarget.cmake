@@ -1,9 +1,11 @@
 # What every target of this project has in common.
 #
-#   zentor_target_defaults(<target>)              language level, warnings, visibility, sanitizers
-#   zentor_target_moc(<target> <header>...)       runs moc on the headers, without AUTOMOC
+#   zentor_target_defaults(<target> [ALLOW_ASCII])  language level, warnings, visibility, sanitizers;
+#                                                   ALLOW_ASCII: QString from and to char texts
+#   zentor_target_moc(<target> <header>...)         runs moc on the headers, without AUTOMOC
 
 function(zentor_target_defaults target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "ALLOW_ASCII" "" "")
     set_target_properties(${target} PROPERTIES
         AUTOMOC OFF
         AUTOUIC OFF
@@ -14,9 +16,10 @@ function(zentor_target_defaults target)
     target_compile_features(${target} PUBLIC cxx_std_17)
     target_compile_definitions(${target} PRIVATE
         QT_DEPRECATED_WARNINGS
-        QT_NO_CAST_FROM_ASCII
-        QT_NO_CAST_TO_ASCII
         QT_NO_KEYWORDS)
+    if(NOT arg_ALLOW_ASCII)
+        target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+    endif()
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wconversion -Wshadow
         $<$<BOOL:${SCHEDULER_WARNINGS_AS_ERRORS}>:-Werror>)
