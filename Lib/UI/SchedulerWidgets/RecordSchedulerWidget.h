@@ -1,0 +1,78 @@
+#pragma once
+
+#include <memory>
+
+#include "HostInterfaces.h"
+#include "SchedulerWidgetsExport.h"
+
+namespace Zentor::PX::Scheduler::UI {
+
+class ModalQuestion;
+struct RecordSchedulerWidgetUi;
+
+/// The panel on which the user decides how recording is timed: not at all, stop after a duration
+/// and then act, or a list of scheduled tasks.
+///
+/// The host places it among its settings pages, calls the four setters and then RestoreSettings().
+/// From then on every change that the user makes goes to the settings watcher at once; there is
+/// nothing to apply. The panel reads its settings in RestoreSettings() only.
+///
+/// The style sheet is half of the panel: sizes, distances and the look of the empty frames come
+/// from it, and without one the rows of the schedule are not shown.
+class PXUISCHEDULERWIDGETS_API RecordSchedulerWidget : public ZFrame {
+    Q_OBJECT
+
+public:
+    /// Creates the panel with no mode chosen.
+    /// \a settingsManager keeps the answers that the user wants remembered.
+    /// \throws std::logic_error when one of the two managers is null.
+    RecordSchedulerWidget(const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel,
+                          const std::shared_ptr<App::ISettingsManager>& settingsManager,
+                          QWidget* parent);
+
+    /// Refuses a question that is on screen. The shares of the settings objects are released.
+    ~RecordSchedulerWidget() override;
+
+    /// Each setter replaces the object that the panel had a share of, and does nothing else.
+    void SetSchedulerSettings(const NotNull<std::shared_ptr<SchedulerSettings>>& settings);
+    void SetCaptureFinishActionSettings(
+        const NotNull<std::shared_ptr<CaptureFinishActionSettings>>& settings);
+    void SetPathSettings(const NotNull<std::shared_ptr<PathsSettings>>& settings);
+
+    /// The watcher must be set before anything can change the schedule, RestoreSettings() included.
+    void SetSettingsWatcher(const NotNull<std::shared_ptr<ISettingsWatcher>>& watcher);
+
+    /// Fills the controls from the scheduler settings and the finish action settings, which must
+    /// have been set. The controls report what they are given to the watcher, as if the user had
+    /// entered it. A stored duration that is no time of day (negative, or 24 hours and more) is
+    /// passed over.
+    void RestoreSettings();
+
+Q_SIGNALS:
+    /// The user wants to choose another place for the recordings: the host shows its file settings.
+    void OpenFilesSettingsRequested();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void ConnectControls();
+    void Retranslate();
+
+    void OnLimitedModeToggled();
+    void OnScheduledModeToggled();
+    void OnLimitedDurationChanged();
+    void OnScheduleChanged();
+    QMessageBox::StandardButton AskToLeaveSchedule();
+    void ReturnToScheduledMode();
+
+    std::unique_ptr<RecordSchedulerWidgetUi> m_ui;
+    std::shared_ptr<SchedulerSettings> m_schedulerSettings;
+    std::shared_ptr<CaptureFinishActionSettings> m_captureFinishActionSettings;
+    std::shared_ptr<PathsSettings> m_pathsSettings;
+    std::shared_ptr<ISettingsWatcher> m_settingsWatcher;
+    std::unique_ptr<ModalQuestion> m_leaveScheduleQuestion;
+};
+
+} // namespace Zentor::PX::Scheduler::UI

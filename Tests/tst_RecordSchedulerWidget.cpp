@@ -1,0 +1,870 @@
+#include <QAccessible>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QTimeEdit>
+#include <QToolButton>
+#include <QTranslator>
+
+#include "Boxes.h"
+#include "HostInterfaces.h"
+#include "RecordSchedulerWidget.h"
+#include "Samples.h"
+#include "ScheduleRecordTableWidget.h"
+#include "StandIns.h"
+#include "WidgetTest.h"
+
+namespace Zentor::Tests {
+namespace {
+
+using PX::Scheduler::UI::RecordSchedulerWidget;
+using PX::Scheduler::UI::ScheduleRecordTableWidget;
+using std::chrono::hours;
+using std::chrono::microseconds;
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+
+/// Puts "tr:" before every text of the panel; clock readings get another format.
+class MarkingTranslator final : public QTranslator {
+public:
+    QString translate(const char* context, const char* source, const char* /*comment*/,
+                      int /*count*/) const override
+    {
+        if (qstrcmp(context, "RecordSchedulerWidget") != 0) {
+            return {};
+        }
+        const auto text = QString::fromLatin1(source);
+        return text == QLatin1String("hh:mm:ss") ? QStringLiteral("hh.mm.ss") : "tr:" + text;
+    }
+
+    bool isEmpty() const override { return false; }
+};
+
+/// The panel in a window of its own with settings and a watcher, and short ways to its parts.
+struct Panel {
+    Panel()
+        : window(std::make_unique<QWidget>())
+        , widget(new RecordSchedulerWidget(lookAndFeel, settingsManager, window.get()))
+    {
+        widget->SetSchedulerSettings(settings);
+        widget->SetCaptureFinishActionSettings(finishAction);
+        widget->SetPathSettings(paths);
+        widget->SetSettingsWatcher(watcher);
+    }
+
+    template <typename Widget> Widget* Find(const char* name) const
+    {
+        return widget->findChild<Widget*>(QString::fromLatin1(name));
+    }
+
+    QRadioButton* None() const { return Find<QRadioButton>("disableScheduledCaptureRadioButton"); }
+    QRadioButton* Limited() const
+    {
+        return Find<QRadioButton>("limitedCaptureDurationRadioButton");
+    }
+    QRadioButton* Scheduled() const { return Find<QRadioButton>("scheduledCaptureRadioButton"); }
+    QWidget* LimitedValues() const { return Find<QWidget>("limitedCaptureDurationSettingsFrame"); }
+    QStackedWidget* Stack() const { return Find<QStackedWidget>("scheduledCaptureStackedWidget"); }
+    QTimeEdit* Duration() const
+    {
+        return Find<QTimeEdit>("limitedCaptureDurationSettingsCaptureDuration");
+    }
+    QComboBox* FinishAction() const
+    {
+        return Find<QComboBox>("limitedCaptureDurationSettingsActionOnFinishBox");
+    }
+    ScheduleRecordTableWidget* Table() const
+    {
+        return widget->findChild<ScheduleRecordTableWidget*>();
+    }
+
+    QString Titles() const
+    {
+        QStringList titles;
+        for (const auto& record : Table()->GetPreparedSchedule()) {
+            titles << record.title;
+        }
+        return titles.join(QLatin1Char(','));
+    }
+
+    /// Which mode buttons are checked and what is visible, as in "limited+values".
+    QString Mode() const
+    {
+        QStringList parts;
+        const auto add = [&](bool condition, const char* name) {
+            if (condition) {
+                parts << QString::fromLatin1(name);
+            }
+        };
+        add(None()->isChecked(), "none");
+        add(Limited()->isChecked(), "limited");
+        add(Scheduled()->isChecked(), "scheduled");
+        add(!LimitedValues()->isHidden(), "values");
+        add(!Stack()->isHidden(), "stack");
+        return parts.join(QLatin1Char('+'));
+    }
+
+    /// The styles of the limited and the scheduled row, as in "Active/Inactive"; "-" for none.
+    QString Styles() const
+    {
+        const auto style = [&](const char* name) {
+            const auto value = Find<QWidget>(name)->property("SubStyle");
+            return value.isValid() ? value.toString() : QStringLiteral("-");
+        };
+        return style("limitedCaptureDurationRadioButtonFrame") + '/'
+            + style("scheduledCaptureRadioButtonFrame");
+    }
+
+    /// Restores \a titles as one task an hour in the scheduled mode, and forgets the calls.
+    void RestoreScheduled(const QStringList& titles)
+    {
+        settings->scheduled = true;
+        for (int i = 0; i < titles.size(); ++i) {
+            settings->schedule.push_back(
+                Record(titles.at(i), At("10:00") + hours(i), std::chrono::minutes(1)));
+        }
+        widget->RestoreSettings();
+        watcher->TakeCalls();
+    }
+
+    std::shared_ptr<FakeLookAndFeelManager> lookAndFeel =
+        std::make_shared<FakeLookAndFeelManager>();
+    std::shared_ptr<FakeSettingsManager> settingsManager = std::make_shared<FakeSettingsManager>();
+    std::shared_ptr<FakeSchedulerSettings> settings = std::make_shared<FakeSchedulerSettings>();
+    std::shared_ptr<FakeFinishActionSettings> finishAction =
+        std::make_shared<FakeFinishActionSettings>();
+    std::shared_ptr<FakePathsSettings> paths = std::make_shared<FakePathsSettings>();
+    std::shared_ptr<RecordingWatcher> watcher = std::make_shared<RecordingWatcher>();
+    std::unique_ptr<QWidget> window;
+    RecordSchedulerWidget* widget;
+};
+
+/// One cell of a layout, as "name row,column aligned".
+QStringList Describe(QLayout* layout)
+{
+    QStringList items;
+    for (int i = 0; i < layout->count(); ++i) {
+        auto* item = layout->itemAt(i);
+        QString text =
+            item->widget() != nullptr ? item->widget()->objectName() : QStringLiteral("stretch");
+        if (const auto* grid = qobject_cast<QGridLayout*>(layout)) {
+            int row = 0;
+            int column = 0;
+            int rowSpan = 0;
+            int columnSpan = 0;
+            grid->getItemPosition(i, &row, &column, &rowSpan, &columnSpan);
+            text += QStringLiteral(" %1,%2").arg(row).arg(column);
+        }
+        if (item->alignment() == Qt::AlignLeft) {
+            text += QStringLiteral(" left");
+        }
+        items << text;
+    }
+    return items;
+}
+
+/// Without a text, only the indicator of a radio button takes clicks.
+void ClickIndicator(QRadioButton* button)
+{
+    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(6, button->height() / 2));
+}
+
+void Type(QWidget* widget, const char* keys)
+{
+    QTest::keyClicks(widget, QString::fromLatin1(keys));
+}
+
+} // namespace
+
+class tst_RecordSchedulerWidget : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void declaresOneSignalAndNothingElse()
+    {
+        const auto& meta = RecordSchedulerWidget::staticMetaObject;
+        QCOMPARE(meta.className(), "Zentor::PX::Scheduler::UI::RecordSchedulerWidget");
+        QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
+        QCOMPARE(meta.method(meta.methodOffset()).methodSignature(),
+                 QByteArray("OpenFilesSettingsRequested()"));
+    }
+
+    void refusesToBeBuiltWithoutSettingsManager()
+    {
+        QWidget window;
+        try {
+            const RecordSchedulerWidget panel(std::make_shared<FakeLookAndFeelManager>(), nullptr,
+                                              &window);
+            QFAIL("no exception");
+        } catch (const std::logic_error& error) {
+            QCOMPARE(error.what(), "NotNull can not initialized by null");
+        }
+        QVERIFY(window.children().isEmpty());
+    }
+
+    void buildsItsTree_data()
+    {
+        QTest::addColumn<QString>("className");
+        QTest::addColumn<QString>("parent");
+        const auto row = [](const char* name, const char* className, const char* parent) {
+            QTest::newRow(name) << QString::fromLatin1(className) << QString::fromLatin1(parent);
+        };
+        row("timerTypeRadioButtonGroup", "QButtonGroup", "panel");
+        row("disableScheduledCaptureRadioButtonFrame", "Zentor::ZFrame", "panel");
+        row("disableScheduledCaptureRadioButton", "QRadioButton",
+            "disableScheduledCaptureRadioButtonFrame");
+        row("disableScheduledCaptureLabel", "Zentor::ZLabel",
+            "disableScheduledCaptureRadioButtonFrame");
+        row("limitedCaptureDurationFrame", "Zentor::ZFrame", "panel");
+        row("limitedCaptureDurationRadioButtonFrame", "Zentor::ZFrame",
+            "limitedCaptureDurationFrame");
+        row("limitedCaptureDurationRadioButton", "QRadioButton",
+            "limitedCaptureDurationRadioButtonFrame");
+        row("limitedCaptureDurationLabel", "Zentor::ZLabel",
+            "limitedCaptureDurationRadioButtonFrame");
+        row("limitedCaptureDurationSettingsFrame", "Zentor::ZFrame", "limitedCaptureDurationFrame");
+        row("limitedCaptureDurationSettingsDurationLabel", "Zentor::ZLabel",
+            "limitedCaptureDurationSettingsFrame");
+        row("limitedCaptureDurationSettingsCaptureDuration", "QTimeEdit",
+            "limitedCaptureDurationSettingsFrame");
+        row("limitedCaptureDurationSettingsActionOnFinishLabel", "Zentor::ZLabel",
+            "limitedCaptureDurationSettingsFrame");
+        row("limitedCaptureDurationSettingsActionOnFinishBox", "QComboBox",
+            "limitedCaptureDurationSettingsFrame");
+        row("scheduledCaptureFrame", "Zentor::ZFrame", "panel");
+        row("scheduledCaptureRadioButtonFrame", "Zentor::ZFrame", "scheduledCaptureFrame");
+        row("scheduledCaptureRadioButton", "QRadioButton", "scheduledCaptureRadioButtonFrame");
+        row("scheduledCaptureLabel", "Zentor::ZLabel", "scheduledCaptureRadioButtonFrame");
+        row("scheduledCaptureStackedWidget", "QStackedWidget", "scheduledCaptureFrame");
+        row("scheduledCaptureRecordTablePage", "Zentor::ZFrame", "scheduledCaptureStackedWidget");
+        row("scheduledCaptureSettingsRecordTableWidget",
+            "Zentor::PX::Scheduler::UI::ScheduleRecordTableWidget",
+            "scheduledCaptureRecordTablePage");
+        row("scheduledCaptureSettingsRecordTableWidgetBorder", "QFrame",
+            "scheduledCaptureRecordTablePage");
+        row("scheduledCaptureSettingsAddRecordButtonFrame", "Zentor::ZFrame",
+            "scheduledCaptureRecordTablePage");
+        row("scheduledCaptureSettingsAddRecordButton", "QPushButton",
+            "scheduledCaptureSettingsAddRecordButtonFrame");
+    }
+
+    void buildsItsTree()
+    {
+        const Panel panel;
+        panel.widget->setObjectName(QStringLiteral("panel"));
+        const auto found =
+            panel.widget->findChildren<QObject*>(QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE(found.size(), 1);
+        QTEST(QString::fromLatin1(found.first()->metaObject()->className()), "className");
+        QTEST(found.first()->parent()->objectName(), "parent");
+    }
+
+    void laysOut_data()
+    {
+        QTest::addColumn<QStringList>("items");
+        const auto row = [](const char* owner, const char* items) {
+            QTest::newRow(owner) << QString::fromLatin1(items).split(QLatin1String(", "));
+        };
+        row("panel",
+            "disableScheduledCaptureRadioButtonFrame, limitedCaptureDurationFrame, "
+            "scheduledCaptureFrame, stretch");
+        row("disableScheduledCaptureRadioButtonFrame",
+            "disableScheduledCaptureRadioButton, disableScheduledCaptureLabel");
+        row("limitedCaptureDurationFrame",
+            "limitedCaptureDurationRadioButtonFrame, limitedCaptureDurationSettingsFrame");
+        row("limitedCaptureDurationRadioButtonFrame",
+            "limitedCaptureDurationRadioButton, limitedCaptureDurationLabel");
+        row("limitedCaptureDurationSettingsFrame",
+            "limitedCaptureDurationSettingsDurationLabel 0,0 left, "
+            "limitedCaptureDurationSettingsCaptureDuration 0,1 left, "
+            "limitedCaptureDurationSettingsActionOnFinishLabel 1,0 left, "
+            "limitedCaptureDurationSettingsActionOnFinishBox 1,1 left");
+        row("scheduledCaptureFrame",
+            "scheduledCaptureRadioButtonFrame, scheduledCaptureStackedWidget");
+        row("scheduledCaptureRadioButtonFrame",
+            "scheduledCaptureRadioButton, scheduledCaptureLabel");
+        row("scheduledCaptureRecordTablePage",
+            "scheduledCaptureSettingsRecordTableWidget, "
+            "scheduledCaptureSettingsRecordTableWidgetBorder, "
+            "scheduledCaptureSettingsAddRecordButtonFrame left, stretch");
+        row("scheduledCaptureSettingsAddRecordButtonFrame",
+            "scheduledCaptureSettingsAddRecordButton");
+    }
+
+    void laysOut()
+    {
+        const Panel panel;
+        const auto name = QString::fromLatin1(QTest::currentDataTag());
+        const QWidget* owner =
+            name == QLatin1String("panel") ? panel.widget : panel.widget->findChild<QWidget*>(name);
+        QTEST(Describe(owner->layout()), "items");
+        QCOMPARE(owner->layout()->contentsMargins(), QMargins());
+        QCOMPARE(owner->layout()->spacing(), 0);
+    }
+
+    void ordersPagesAndModeButtons()
+    {
+        const Panel panel;
+        QCOMPARE(panel.Stack()->widget(0)->objectName(),
+                 QString("scheduledCaptureRecordTablePage"));
+        const auto* group = panel.Find<QButtonGroup>("timerTypeRadioButtonGroup");
+        QVERIFY(group->exclusive());
+        QCOMPARE(group->buttons(),
+                 QList<QAbstractButton*>({panel.None(), panel.Limited(), panel.Scheduled()}));
+        for (const auto* button : group->buttons()) {
+            QVERIFY(button->text().isEmpty());
+        }
+    }
+
+    void isFreshBeforeItIsRestored()
+    {
+        const Panel panel;
+        QCOMPARE(panel.Mode(), QString());
+        QCOMPARE(panel.Styles(), QString("-/-"));
+        QCOMPARE(panel.Duration()->time(), QTime(0, 0, 5));
+        QCOMPARE(panel.FinishAction()->count(), int(PX::ShutDown) + 1);
+        QCOMPARE(panel.FinishAction()->currentIndex(), -1);
+        QCOMPARE(panel.Stack()->currentIndex(), 0);
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList());
+    }
+
+    void setsItsTexts_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("disableScheduledCaptureLabel") << "Do not schedule capture";
+        QTest::newRow("limitedCaptureDurationLabel") << "Stop capture after";
+        QTest::newRow("scheduledCaptureLabel") << "Record on schedule";
+        QTest::newRow("scheduledCaptureSettingsAddRecordButton") << "Add record event";
+        QTest::newRow("limitedCaptureDurationSettingsDurationLabel")
+            << "Capture duration in limited capture:";
+        QTest::newRow("limitedCaptureDurationSettingsActionOnFinishLabel") << "When capture ends:";
+    }
+
+    void setsItsTexts()
+    {
+        QFETCH(QString, text);
+        const Panel panel;
+        const auto* widget = panel.Find<QWidget>(QTest::currentDataTag());
+        QCOMPARE(widget->property("text").toString(), text);
+        MarkingTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(widget->property("text").toString(), "tr:" + text);
+        QCoreApplication::removeTranslator(&translator);
+    }
+
+    void keepsItsStateInALanguageChange()
+    {
+        Panel panel;
+        panel.finishAction->action = PX::Hibernate;
+        panel.settings->limited = true;
+        panel.settings->duration = hours(2);
+        panel.widget->RestoreSettings();
+        panel.watcher->TakeCalls();
+        QCOMPARE(panel.Duration()->displayFormat(), QString("hh:mm:ss"));
+
+        MarkingTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(panel.Duration()->displayFormat(), QString("hh.mm.ss"));
+        QCOMPARE(panel.Duration()->time(), QTime(2, 0));
+        QCOMPARE(panel.FinishAction()->currentIndex(), int(PX::Hibernate));
+        QCOMPARE(panel.FinishAction()->count(), int(PX::ShutDown) + 1);
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList());
+        QCoreApplication::removeTranslator(&translator);
+    }
+
+    void restores_data()
+    {
+        QTest::addColumn<bool>("limited");
+        QTest::addColumn<bool>("scheduled");
+        QTest::addColumn<QString>("mode");
+        QTest::addColumn<QString>("styles");
+        QTest::addColumn<QStringList>("calls");
+        QTest::newRow("neither") << false << false << "none"
+                                 << "-/-" << QStringList();
+        QTest::newRow("limited") << true << false << "limited+values"
+                                 << "Active/-" << QStringList("LimitedState true");
+        QTest::newRow("scheduled") << false << true << "scheduled+stack"
+                                   << "-/Active" << QStringList();
+        QTest::newRow("both: the schedule wins")
+            << true << true << "scheduled+stack"
+            << "Inactive/Active" << QStringList({"LimitedState true", "LimitedState false"});
+    }
+
+    void restores()
+    {
+        QFETCH(bool, limited);
+        QFETCH(bool, scheduled);
+        Panel panel;
+        panel.settings->limited = limited;
+        panel.settings->scheduled = scheduled;
+        panel.widget->RestoreSettings();
+        QTEST(panel.Mode(), "mode");
+        QTEST(panel.Styles(), "styles");
+        QFETCH(QStringList, calls);
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList("FinishAction 0") + calls);
+    }
+
+    void restoresValuesInOrder()
+    {
+        Panel panel;
+        panel.finishAction->action = PX::Sleep;
+        panel.settings->duration = hours(1);
+        panel.settings->limited = true;
+        panel.settings->scheduled = true;
+        panel.settings->schedule = {Record("B", "11:00"), Record("A", "10:00"),
+                                    Record("A", "12:00"), Record("C", "12:00")};
+        panel.widget->RestoreSettings();
+        QCOMPARE(panel.watcher->TakeCalls(),
+                 QStringList({"FinishAction 2", "LimitedDuration 3600000000", "Schedule B",
+                              "ScheduleState true", "Schedule A,B", "ScheduleState true",
+                              "Schedule A,B,C", "ScheduleState true", "LimitedState true",
+                              "LimitedState false"}));
+        QCOMPARE(panel.FinishAction()->currentIndex(), 2);
+        QCOMPARE(panel.Duration()->time(), QTime(1, 0));
+    }
+
+    void restoresWhatItShowsAlreadyWithoutACall()
+    {
+        Panel panel;
+        panel.widget->RestoreSettings();
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList("FinishAction 0"));
+        panel.widget->RestoreSettings();
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList());
+    }
+
+    void restoresADuration_data()
+    {
+        QTest::addColumn<qint64>("stored");
+        QTest::addColumn<QTime>("shown");
+        QTest::addColumn<QStringList>("calls");
+        const auto row = [](const char* name, qint64 stored, const QTime& shown, qint64 reported) {
+            QTest::newRow(name) << stored << shown
+                                << (reported < 0 ? QStringList()
+                                                 : QStringList("LimitedDuration "
+                                                               + QString::number(reported)));
+        };
+        row("zero", 0, QTime(0, 0, 5), 5000000);
+        row("below the minimum", 4999999, QTime(0, 0, 5), 5000000);
+        row("the minimum, shown already", 5000000, QTime(0, 0, 5), -1);
+        row("above the minimum", 6000000, QTime(0, 0, 6), 6000000);
+        row("cut to milliseconds", 6000999, QTime(0, 0, 6), 6000000);
+        row("23:59:59", 86399000000, QTime(23, 59, 59), 86399000000);
+        row("24 hours is no time of day", 86400000000, QTime(0, 0, 5), -1);
+        row("a year", 31536000000000, QTime(0, 0, 5), -1);
+        row("narrowed to int it would be seven seconds", (1LL << 32) * 1000 + 7000000,
+            QTime(0, 0, 5), -1);
+        row("negative", -1000000, QTime(0, 0, 5), -1);
+    }
+
+    void restoresADuration()
+    {
+        QFETCH(qint64, stored);
+        Panel panel;
+        panel.settings->duration = microseconds(stored);
+        panel.widget->RestoreSettings();
+        QTEST(panel.Duration()->time(), "shown");
+        QTEST(panel.watcher->TakeCalls().filter(QStringLiteral("Limited")), "calls");
+    }
+
+    void switchesModes()
+    {
+        Panel panel;
+        panel.widget->RestoreSettings();
+        panel.watcher->TakeCalls();
+        panel.Limited()->click();
+        QCOMPARE(panel.Mode(), QString("limited+values"));
+        QCOMPARE(panel.Styles(), QString("Active/-"));
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList("LimitedState true"));
+
+        panel.Scheduled()->click();
+        QCOMPARE(panel.Mode(), QString("scheduled+stack"));
+        QCOMPARE(panel.Styles(), QString("Inactive/Active"));
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList("LimitedState false"));
+
+        const ExpectedBox noBox(QMessageBox::Cancel);
+        panel.None()->click();
+        QCOMPARE(panel.Mode(), QString("none"));
+        QCOMPARE(panel.Styles(), QString("Inactive/Inactive"));
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList());
+        QVERIFY(!noBox.Came());
+    }
+
+    void switchesModesByCaption()
+    {
+        const Panel panel;
+        panel.widget->RestoreSettings();
+        panel.window->show();
+        QTest::mouseClick(panel.Find<QWidget>("limitedCaptureDurationLabel"), Qt::LeftButton);
+        QCOMPARE(panel.Mode(), QString("limited+values"));
+        QTest::mouseClick(panel.Find<QWidget>("scheduledCaptureLabel"), Qt::LeftButton);
+        QCOMPARE(panel.Mode(), QString("scheduled+stack"));
+        QTest::mouseClick(panel.Find<QWidget>("disableScheduledCaptureLabel"), Qt::LeftButton);
+        QCOMPARE(panel.Mode(), QString("none"));
+    }
+
+    void asksBeforeTheScheduleIsLeft()
+    {
+        Panel panel;
+        panel.RestoreScheduled({"A", "B"});
+        ExpectedBox box([&](QMessageBox& question) {
+            QCOMPARE(question.text(),
+                     QString("All tasks will be permanently deleted from the recording schedule. "
+                             "Are you sure you want to continue?"));
+            QCOMPARE(question.windowTitle(), QString());
+            QCOMPARE(question.standardButtons(), QMessageBox::Ok | QMessageBox::Cancel);
+            QCOMPARE(question.button(QMessageBox::Ok)->text(), QString("Continue"));
+            QCOMPARE(question.icon(), QMessageBox::Information);
+            QCOMPARE(question.parentWidget(), panel.window.get());
+            QVERIFY(question.windowFlags().testFlag(Qt::MSWindowsFixedSizeDialogHint));
+            QCOMPARE(panel.watcher->TakeCalls(), QStringList());
+            question.button(QMessageBox::Ok)->click();
+        });
+        panel.Limited()->click();
+        QVERIFY(box.Came());
+        QCOMPARE(panel.Mode(), QString("limited+values"));
+        QCOMPARE(panel.Styles(), QString("Active/Inactive"));
+        QCOMPARE(panel.Titles(), QString());
+        QCOMPARE(panel.watcher->TakeCalls(),
+                 QStringList({"Schedule ", "ScheduleState false", "LimitedState true"}));
+    }
+
+    void staysInTheScheduleWhenTheAnswerIsNo_data()
+    {
+        QTest::addColumn<bool>("toLimited");
+        QTest::addColumn<int>("way");
+        QTest::addColumn<QStringList>("calls");
+        const QStringList limitedCalls{"LimitedState false", "LimitedState false"};
+        QTest::newRow("to limited, Cancel") << true << 0 << limitedCalls;
+        QTest::newRow("to limited, Escape") << true << 1 << limitedCalls;
+        QTest::newRow("to limited, closed") << true << 2 << limitedCalls;
+        QTest::newRow("to none, Cancel") << false << 0 << QStringList();
+        QTest::newRow("to none, Escape") << false << 1 << QStringList();
+        QTest::newRow("to none, closed") << false << 2 << QStringList();
+    }
+
+    void staysInTheScheduleWhenTheAnswerIsNo()
+    {
+        QFETCH(bool, toLimited);
+        QFETCH(int, way);
+        Panel panel;
+        panel.RestoreScheduled({"A", "B"});
+        ExpectedBox box([way](QMessageBox& question) {
+            if (way == 0) {
+                question.button(QMessageBox::Cancel)->click();
+            } else if (way == 1) {
+                PressEscape(question);
+            } else {
+                question.close();
+            }
+        });
+        (toLimited ? panel.Limited() : panel.None())->click();
+        QVERIFY(box.Came());
+        QCOMPARE(panel.Mode(), QString("scheduled+stack"));
+        QCOMPARE(panel.Styles(), toLimited ? QString("Inactive/Active") : QString("-/Active"));
+        QCOMPARE(panel.Titles(), QString("A,B"));
+        QTEST(panel.watcher->TakeCalls(), "calls");
+    }
+
+    void doesNotDeleteByEnterInTheQuestion()
+    {
+        Panel panel;
+        panel.RestoreScheduled({"A"});
+        ExpectedBox box([](QMessageBox& question) { QTest::keyClick(&question, Qt::Key_Return); });
+        panel.None()->click();
+        QVERIFY(box.Came());
+        QCOMPARE(panel.Titles(), QString("A"));
+    }
+
+    void keepsItsLabelInALanguageChange()
+    {
+        Panel panel;
+        panel.RestoreScheduled({"A"});
+        MarkingTranslator translator;
+        ExpectedBox box([&](QMessageBox& question) {
+            QCoreApplication::installTranslator(&translator);
+            QCoreApplication::sendPostedEvents();
+            QCOMPARE(question.button(QMessageBox::Ok)->text(), QString("Continue"));
+            question.reject();
+        });
+        panel.None()->click();
+        QVERIFY(box.Came());
+        QCOMPARE(panel.Titles(), QString("A"));
+        QCoreApplication::removeTranslator(&translator);
+    }
+
+    void survivesItsEndWhileItAsks_data()
+    {
+        QTest::addColumn<QString>("victim");
+        QTest::addColumn<QString>("moment");
+        QTest::addColumn<QString>("input");
+        for (const char* victim : {"panel", "window", "box"}) {
+            for (const char* moment : {"timer", "queued"}) {
+                for (const char* input : {"click", "key", "caption", "program"}) {
+                    QTest::addRow("%s deleted, %s, %s", victim, moment, input)
+                        << victim << moment << input;
+                }
+            }
+        }
+    }
+
+    void survivesItsEndWhileItAsks()
+    {
+        QFETCH(QString, victim);
+        QFETCH(QString, moment);
+        QFETCH(QString, input);
+        Panel panel;
+        panel.RestoreScheduled({"A", "B"});
+        panel.window->show();
+        panel.window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(panel.window.get()));
+        const auto end = [&](QMessageBox* question) {
+            if (victim == QLatin1String("panel")) {
+                delete panel.widget;
+            } else if (victim == QLatin1String("window")) {
+                panel.window.reset();
+            } else {
+                delete question;
+            }
+        };
+        ExpectedBox box([&](QMessageBox& question) {
+            if (moment == QLatin1String("timer")) {
+                end(&question);
+            } else {
+                QTimer::singleShot(0, qApp, [&] { end(&question); });
+            }
+        });
+        if (input == QLatin1String("click")) {
+            ClickIndicator(panel.Limited());
+        } else if (input == QLatin1String("key")) {
+            panel.Scheduled()->setFocus();
+            QTest::keyClick(panel.Scheduled(), Qt::Key_Up);
+        } else if (input == QLatin1String("caption")) {
+            QTest::mouseClick(panel.Find<QWidget>("limitedCaptureDurationLabel"), Qt::LeftButton);
+        } else {
+            panel.Limited()->setChecked(true);
+        }
+        QVERIFY(box.Came());
+        QVERIFY(!IsBoxOpen());
+        if (victim == QLatin1String("box")) {
+            QCOMPARE(panel.Mode(), QString("scheduled+stack"));
+            QCOMPARE(panel.Titles(), QString("A,B"));
+        }
+        QCOMPARE(panel.watcher->TakeCalls().filter(QLatin1String("Schedule")), QStringList());
+    }
+
+    void refusesWhenTheApplicationQuits()
+    {
+        Panel panel;
+        panel.RestoreScheduled({"A"});
+        ExpectedBox box([](QMessageBox&) { QCoreApplication::quit(); });
+        QTimer::singleShot(0, panel.None(), [&] { panel.None()->click(); });
+        QCoreApplication::exec();
+        QVERIFY(box.Came());
+        QCOMPARE(panel.Mode(), QString("scheduled+stack"));
+        QCOMPARE(panel.Titles(), QString("A"));
+    }
+
+    void typesADuration_data()
+    {
+        QTest::addColumn<QTime>("before");
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QTime>("after");
+        QTest::addColumn<QStringList>("calls");
+        const auto calls = [](std::initializer_list<qint64> secondsReported) {
+            QStringList result;
+            for (const auto value : secondsReported) {
+                result << QStringLiteral("LimitedDuration %1").arg(value * 1000000);
+            }
+            return result;
+        };
+        QTest::newRow("two minutes at one hour")
+            << QTime(1, 0) << "000200" << QTime(0, 2) << calls({5, 125, 120});
+        QTest::newRow("three seconds")
+            << QTime(0, 0, 7) << "000003" << QTime(0, 0, 5) << calls({5});
+        QTest::newRow("longest") << QTime(0, 0, 5) << "235959" << QTime(23, 59, 59)
+                                 << calls({82805, 86345, 86399});
+        QTest::newRow("ten seconds at one hour")
+            << QTime(1, 0) << "000010" << QTime(0, 0, 10) << calls({5, 10});
+    }
+
+    void typesADuration()
+    {
+        QFETCH(QTime, before);
+        QFETCH(QString, keys);
+        Panel panel;
+        panel.settings->limited = true;
+        panel.settings->duration = microseconds(milliseconds(before.msecsSinceStartOfDay()));
+        panel.widget->RestoreSettings();
+        panel.window->show();
+        panel.watcher->TakeCalls();
+        panel.Duration()->setFocus();
+        panel.Duration()->setSelectedSection(QDateTimeEdit::HourSection);
+        Type(panel.Duration(), keys.toLatin1().constData());
+        QTEST(panel.Duration()->time(), "after");
+        QTEST(panel.watcher->TakeCalls(), "calls");
+    }
+
+    void neverChangesTheBlockingOfItsControls()
+    {
+        Panel panel;
+        panel.Duration()->setTime(QTime(0, 0, 1));
+        QVERIFY(!panel.Duration()->signalsBlocked());
+        QCOMPARE(panel.Duration()->time(), QTime(0, 0, 5));
+        QEvent languageChange(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(panel.widget, &languageChange);
+        QVERIFY(!panel.FinishAction()->signalsBlocked());
+        panel.FinishAction()->blockSignals(true);
+        QCoreApplication::sendEvent(panel.widget, &languageChange);
+        QVERIFY(panel.FinishAction()->signalsBlocked());
+    }
+
+    void reportsTheFinishAction()
+    {
+        Panel panel;
+        panel.FinishAction()->setCurrentIndex(0);
+        panel.watcher->TakeCalls();
+        panel.FinishAction()->setCurrentIndex(PX::ShutDown);
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList("FinishAction 5"));
+        panel.FinishAction()->setCurrentIndex(PX::ShutDown);
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList());
+    }
+
+    void worksWithoutAWatcherWhereItMay()
+    {
+        QWidget window;
+        const auto settings = std::make_shared<FakeSchedulerSettings>();
+        settings->limited = true;
+        settings->duration = hours(1);
+        RecordSchedulerWidget panel(std::make_shared<FakeLookAndFeelManager>(),
+                                    std::make_shared<FakeSettingsManager>(), &window);
+        panel.SetSchedulerSettings(settings);
+        panel.SetCaptureFinishActionSettings(std::make_shared<FakeFinishActionSettings>());
+        panel.RestoreSettings();
+        QCOMPARE(panel.findChild<QTimeEdit*>()->time(), QTime(1, 0));
+        panel.findChild<QRadioButton*>(QStringLiteral("disableScheduledCaptureRadioButton"))
+            ->click();
+    }
+
+    void reportsDeletionsOfTasks()
+    {
+        Panel panel;
+        panel.RestoreScheduled({"A", "B"});
+        panel.settingsManager->SetConfirmed(QStringLiteral("remove_schedule_record_always"), true);
+        panel.Table()->findChild<QToolButton*>()->click();
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList({"Schedule B", "ScheduleState true"}));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        panel.Table()->findChild<QToolButton*>()->click();
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList({"Schedule ", "ScheduleState false"}));
+    }
+
+    void sharesItsSettingsObjects()
+    {
+        Panel panel;
+        QCOMPARE(panel.watcher.use_count(), 2L);
+        const auto next = std::make_shared<RecordingWatcher>();
+        panel.widget->SetSettingsWatcher(next);
+        QCOMPARE(panel.watcher.use_count(), 1L);
+        QCOMPARE(next.use_count(), 2L);
+        QVERIFY_EXCEPTION_THROWN(
+            panel.widget->SetSettingsWatcher(std::shared_ptr<RecordingWatcher>()),
+            std::logic_error);
+        QCOMPARE(next.use_count(), 2L);
+        delete panel.widget;
+        QCOMPARE(next.use_count(), 1L);
+        QCOMPARE(panel.settings.use_count(), 1L);
+        QCOMPARE(panel.finishAction.use_count(), 1L);
+        QCOMPARE(panel.paths.use_count(), 1L);
+        QCOMPARE(panel.settingsManager.use_count(), 1L);
+    }
+
+    void returnsToTheTableWhenShown()
+    {
+        const Panel panel;
+        auto* otherPage = new QWidget;
+        panel.Stack()->addWidget(otherPage);
+        panel.window->show();
+        panel.Stack()->setCurrentWidget(otherPage);
+        panel.window->hide();
+        QCOMPARE(panel.Stack()->currentWidget(), otherPage);
+        panel.window->show();
+        QCOMPARE(panel.Stack()->currentIndex(), 0);
+    }
+
+    void keepsItsPageWhenTheWindowIsRestored()
+    {
+        const Panel panel;
+        auto* otherPage = new QWidget;
+        panel.Stack()->addWidget(otherPage);
+        panel.window->show();
+        panel.Stack()->setCurrentWidget(otherPage);
+        QShowEvent restored;
+        QSpontaneKeyEvent::setSpontaneous(&restored);
+        qApp->notify(panel.widget, &restored);
+        QCOMPARE(panel.Stack()->currentWidget(), otherPage);
+    }
+
+    void namesItsControlsForScreenReaders_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("disableScheduledCaptureRadioButton") << "Do not schedule capture";
+        QTest::newRow("limitedCaptureDurationRadioButton") << "Stop capture after";
+        QTest::newRow("scheduledCaptureRadioButton") << "Record on schedule";
+        QTest::newRow("limitedCaptureDurationSettingsCaptureDuration")
+            << "Capture duration in limited capture:";
+        QTest::newRow("limitedCaptureDurationSettingsActionOnFinishBox") << "When capture ends:";
+        QTest::newRow("scheduledCaptureSettingsAddRecordButton") << "Add record event";
+    }
+
+    void namesItsControlsForScreenReaders()
+    {
+        QFETCH(QString, name);
+        const Panel panel;
+        auto* interface =
+            QAccessible::queryAccessibleInterface(panel.Find<QWidget>(QTest::currentDataTag()));
+        QCOMPARE(interface->text(QAccessible::Name), name);
+        MarkingTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(interface->text(QAccessible::Name), "tr:" + name);
+        QCoreApplication::removeTranslator(&translator);
+    }
+
+    void restoresAThousandTasksQuickly()
+    {
+        Panel panel;
+        panel.window->setStyleSheet(
+            QStringLiteral("#recordTableScrollArea { qproperty-widgetResizable: true; }"
+                           "#titleLabel { color: #202020; padding: 2px; }"));
+        panel.settings->scheduled = true;
+        for (int i = 0; i < 1000; ++i) {
+            panel.settings->schedule.push_back(Record("Task " + QString::number(i),
+                                                      At("00:00") + std::chrono::minutes(i),
+                                                      std::chrono::minutes(1)));
+        }
+        panel.window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(panel.window.get()));
+        QElapsedTimer timer;
+        timer.start();
+        panel.widget->RestoreSettings();
+        QCoreApplication::sendPostedEvents();
+        const auto elapsed = timer.elapsed();
+        qInfo("1000 tasks restored in %lld ms", elapsed);
+        QCOMPARE(panel.watcher->TakeCalls().size(), 2001);
+#ifdef NDEBUG
+        QVERIFY(elapsed < 1000);
+#endif
+    }
+};
+
+} // namespace Zentor::Tests
+
+SCHEDULER_TEST_MAIN(Zentor::Tests::tst_RecordSchedulerWidget)
+
+#include "tst_RecordSchedulerWidget.moc"
