@@ -1,6 +1,7 @@
 set(library Zentor::PXUiSchedulerWidgetsStatic Zentor::ReferenceHost)
 
 scheduler_add_test(tst_NotNull)
+scheduler_add_test(tst_DefaultTaskName LIBRARIES ${library})
 scheduler_add_test(tst_DurationClamp LIBRARIES ${library})
 scheduler_add_test(tst_ScheduleRecordTableWidget LIBRARIES ${library})
 scheduler_add_test(tst_RecordSchedulerWidget LIBRARIES ${library})

@@ -12,6 +12,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "DefaultTaskName.h"
 #include "DurationClamp.h"
 #include "ModalQuestion.h"
 #include "ScheduleRecordTableUi.h"
@@ -237,6 +238,11 @@ bool ScheduleRecordTableWidget::DoesCaptureTimeIntersected(const RecordTime& rec
 bool ScheduleRecordTableWidget::IsScheduleEmpty() const
 {
     return d->schedulerHelper.GetRecordCount() == 0;
+}
+
+QString ScheduleRecordTableWidget::GetDefaultTaskName() const
+{
+    return DefaultTaskName(d->schedulerHelper.GetPreparedSchedule());
 }
 
 bool ScheduleRecordTableWidget::eventFilter(QObject* watched, QEvent* event)

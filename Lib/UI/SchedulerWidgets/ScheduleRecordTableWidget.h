@@ -53,6 +53,10 @@ public:
 
     bool IsScheduleEmpty() const;
 
+    /// A title for the next task: the translated "Task " and the next free number.
+    /// \throws std::runtime_error as DefaultTaskName() does, for a title such as "Task 09".
+    QString GetDefaultTaskName() const;
+
     /// Restyles a row while the mouse is over it. The event is never consumed.
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -1,0 +1,55 @@
+#include "DefaultTaskName.h"
+
+#include <algorithm>
+#include <string>
+
+#include <boost/multiprecision/cpp_int.hpp>
+
+#include <QCoreApplication>
+#include <QRegExp>
+
+namespace Zentor::PX::Scheduler::UI {
+namespace {
+
+using boost::multiprecision::cpp_int;
+
+/// Reads octal digits in pieces that fit one word of the number: in one go, Boost 1.74 reads an
+/// unset word when a digit lies across two of them.
+cpp_int ParseOctal(const std::string& digits)
+{
+    constexpr std::size_t pieceLength = 20;
+    constexpr unsigned bitsPerDigit = 3;
+    cpp_int number = 0;
+    for (std::size_t position = 0; position < digits.size(); position += pieceLength) {
+        const auto piece = digits.substr(position, pieceLength);
+        number <<= bitsPerDigit * static_cast<unsigned>(piece.size());
+        number += cpp_int("0" + piece);
+    }
+    return number;
+}
+
+cpp_int ParseNumber(const std::string& digits)
+{
+    return digits.front() == '0' ? ParseOctal(digits) : cpp_int(digits);
+}
+
+} // namespace
+
+QString DefaultTaskName(const std::vector<RecordTime>& records)
+{
+    const auto prefix = QCoreApplication::translate("ScheduleRecordTableWidget", "Task ");
+    const QRegExp number(QStringLiteral("^\\d+$"));
+    cpp_int highest = 0;
+    for (const auto& record : records) {
+        if (!record.title.startsWith(prefix)) {
+            continue;
+        }
+        const auto rest = record.title.mid(prefix.length());
+        if (number.indexIn(rest) >= 0) {
+            highest = std::max(highest, ParseNumber(rest.toStdString()));
+        }
+    }
+    return prefix + QString::fromStdString(cpp_int(highest + 1).str());
+}
+
+} // namespace Zentor::PX::Scheduler::UI
