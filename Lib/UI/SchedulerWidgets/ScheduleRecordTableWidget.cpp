@@ -60,7 +60,7 @@ struct ScheduleRecordTableWidget::Private {
     ZFrame* CreateStubRow();
     void UpdateStubRow();
     std::unique_ptr<Zentor::Util::AlertBox> CreateDeletionBox() const;
-    void ConfirmAndRemoveRecord(ZFrame* row, const QString& title);
+    void ConfirmAndRemoveRecord(ZFrame* row, QString title);
     void RemoveAtOnce(QWidget* row);
 
     const std::unique_ptr<ScheduleRecordTableUi> ui;
@@ -155,12 +155,11 @@ ScheduleRecordTableWidget::Private::CreateDeletionBox() const
     return box;
 }
 
-void ScheduleRecordTableWidget::Private::ConfirmAndRemoveRecord(ZFrame* row, const QString& title)
+void ScheduleRecordTableWidget::Private::ConfirmAndRemoveRecord(ZFrame* row, QString title)
 {
     // Both may be destroyed while the question is on screen.
     const QPointer<ScheduleRecordTableWidget> table(owner);
     const QPointer<ZFrame> clickedRow(row);
-    const QString clickedTitle(title);
     const auto answer = ModalQuestion::Ask(deletionQuestion, CreateDeletionBox(), owner);
     if (answer != QMessageBox::Ok || table.isNull() || clickedRow.isNull()) {
         return;
@@ -168,7 +167,7 @@ void ScheduleRecordTableWidget::Private::ConfirmAndRemoveRecord(ZFrame* row, con
     ui->recordLayout->removeWidget(clickedRow);
     clickedRow->hide();
     clickedRow->deleteLater();
-    schedulerHelper.RemoveRecord(clickedTitle);
+    schedulerHelper.RemoveRecord(title);
     UpdateStubRow();
     Q_EMIT owner->ScheduleChanged();
 }
