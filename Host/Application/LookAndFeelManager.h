@@ -1,0 +1,22 @@
+#pragma once
+
+#include "HostInterfaces.h"
+
+namespace Zentor::App {
+
+/// Holds the language of the interface: at first the system's.
+class ZENTOR_HOST_API LookAndFeelManager final : public ILookAndFeelManager {
+public:
+    LookAndFeelManager();
+
+    std::string GetLanguage() const override;
+
+    /// \a language is a name that QLocale understands. Set it before the translations of the new
+    /// language are installed: widgets ask for it while they retranslate themselves.
+    void SetLanguage(const std::string& language);
+
+private:
+    std::string m_language;
+};
+
+} // namespace Zentor::App

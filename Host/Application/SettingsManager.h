@@ -1,0 +1,23 @@
+#pragma once
+
+#include "PXUserSettings/SettingsStore.h"
+
+namespace Zentor::App {
+
+/// Keeps the answers that were given for good in the settings store.
+class ZENTOR_HOST_API SettingsManager final : public ISettingsManager {
+public:
+    /// \a store must not be null.
+    explicit SettingsManager(std::shared_ptr<PX::SettingsStore> store);
+
+    bool IsConfirmed(const QString& confirmationId) const override;
+    void SetConfirmed(const QString& confirmationId, bool confirmed) override;
+
+    /// Has every question asked again.
+    void ForgetAll();
+
+private:
+    std::shared_ptr<PX::SettingsStore> m_store;
+};
+
+} // namespace Zentor::App

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <functional>
+
+#include <QJsonObject>
+#include <QLockFile>
+#include <QObject>
+#include <QTimer>
+
+#include "UserSettings.h"
+
+namespace Zentor::PX {
+
+/// Keeps the user's settings in a file.
+///
+/// The file is replaced as a whole, so that at any moment it holds either the old settings or the
+/// new ones. Changes are gathered: those of one pass of the event loop are one write. What cannot
+/// be saved stays in memory and is tried again with the next change, every few seconds, and at the
+/// end of the application.
+///
+/// A second store, also one of another process, cannot open the file meanwhile.
+class ZENTOR_HOST_API SettingsStore final : public QObject {
+    Q_OBJECT
+
+public:
+    /// A store that keeps its settings in \a filePath. Open() starts it; until then the settings
+    /// are the defaults and nothing is saved.
+    explicit SettingsStore(const QString& filePath, QObject* parent = nullptr);
+
+    /// Saves what has not been saved yet, and frees the file for others.
+    ~SettingsStore() override;
+
+    /// Reads the file. Where there is none the defaults count; folders that are missing are
+    /// created.
+    ///
+    /// A file that cannot be understood, or of which some values are unusable, is first kept under
+    /// another name beside it (its own with ".damaged-", date and time added); the log says so in
+    /// one line.
+    ///
+    /// Returns false, with the reason for the user in \a error, when the file can be neither read
+    /// nor created, when another store has it open, and when a damaged one cannot be kept.
+    bool Open(QString* error);
+
+    const QString& FilePath() const { return m_filePath; }
+
+    /// The settings as they are now, whether or not they have been saved.
+    const UserSettings& Settings() const { return m_settings; }
+
+    /// Lets \a change alter the settings, at once, and has them saved in the next pass of the event
+    /// loop.
+    void Change(const std::function<void(UserSettings&)>& change);
+
+    /// Saves now what has not been saved yet. Whether everything is saved.
+    bool Flush();
+
+Q_SIGNALS:
+    /// The settings were altered by Change(). Not sent by Open().
+    void Changed();
+    /// The file was written.
+    void Saved();
+    /// The settings cannot be saved for \a reason, which names the file. Not sent again when trying
+    /// once more fails for the same reason.
+    void SaveFailed(const QString& reason);
+
+private:
+    QString Lock();
+    QString Load();
+    QString KeepDamaged(const QByteArray& content, const QStringList& problems) const;
+    QString Write();
+
+    const QString m_filePath;
+    QLockFile m_lock;
+    UserSettings m_settings;
+    /// What the file holds beside the settings that are known.
+    QJsonObject m_fields;
+    /// Fires in the next pass of the event loop after a change.
+    QTimer m_saveTimer;
+    /// Fires some time after a failure.
+    QTimer m_retryTimer;
+    bool m_isOpen = false;
+    bool m_isDirty = false;
+    /// Why saving failed last; empty after a success.
+    QString m_failure;
+};
+
+} // namespace Zentor::PX

@@ -1,0 +1,14 @@
+#include "UserSettings.h"
+
+#include <QDir>
+#include <QStandardPaths>
+
+namespace Zentor::PX {
+
+QString DefaultResultsFolderPath()
+{
+    const QString videos = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
+    return videos.isEmpty() ? QDir::homePath() : videos;
+}
+
+} // namespace Zentor::PX
