@@ -1,0 +1,163 @@
+#include "Application.h"
+
+#include <cstdio>
+#include <memory>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <glog/logging.h>
+
+#include "Application/LookAndFeelManager.h"
+#include "CommandLine.h"
+#include "Languages.h"
+#include "MainWindow.h"
+#include "PXUserSettings/SettingsStore.h"
+#include "ScreenshotTour.h"
+#include "Theme.h"
+#include "TourScript.h"
+
+// Q_INIT_RESOURCE has to stand outside every namespace.
+static void InitializeResources()
+{
+    Q_INIT_RESOURCE(px_scheduler);
+    Q_INIT_RESOURCE(icons);
+}
+
+namespace Zentor::App {
+namespace {
+
+constexpr int failed = 1;
+constexpr int refused = 2;
+
+void PrintLine(FILE* stream, const QString& text)
+{
+    std::fprintf(stream, "%s\n", qUtf8Printable(text));
+}
+
+int Refuse(const QString& reason)
+{
+    PrintLine(stderr, QStringLiteral("px-scheduler: %1").arg(reason));
+    return refused;
+}
+
+CommandLine ReadCommandLine(int& argc, char** argv)
+{
+    // Without widgets, so that it needs no display.
+    const QCoreApplication application(argc, argv);
+    return ParseCommandLine(QCoreApplication::arguments());
+}
+
+QString DefaultSettingsFile()
+{
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation))
+        .filePath(QStringLiteral("settings.json"));
+}
+
+/// Gives the application the look and the language that the command line, else the settings, else
+/// the desktop asks for.
+void ApplyAppearance(const CommandLine& line, const PX::UserSettings& settings,
+                     Translations& translations, LookAndFeelManager& lookAndFeel)
+{
+    const Theme ofDesktop = ThemeOf(QApplication::palette());
+    ApplyTheme(ThemeFromName(line.theme, ThemeFromName(settings.theme, ofDesktop)));
+    QApplication::setWindowIcon(ThemedIcon(QStringLiteral("px-scheduler")));
+
+    const QString language = BestLanguage(QStringList{line.language, settings.language}
+                                          + QLocale::system().uiLanguages());
+    translations.Use(language);
+    lookAndFeel.SetLanguage(language.toStdString());
+}
+
+int RunTour(MainWindow& window, const QString& folder)
+{
+    // Pictures of the same state are the same: no blinking cursor, no half-way animation.
+    QApplication::setCursorFlashTime(0);
+    QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
+    QString problem;
+    ScreenshotTour tour(window, folder);
+    WriteTourScript(tour);
+    QObject::connect(&tour, &ScreenshotTour::Finished, &window, [&](const QString& reason) {
+        problem = reason;
+        QCoreApplication::exit(reason.isEmpty() ? 0 : failed);
+    }, Qt::QueuedConnection);
+    tour.Start();
+    const int result = QApplication::exec();
+    if (!problem.isEmpty()) {
+        PrintLine(stderr, QStringLiteral("px-scheduler: %1").arg(problem));
+    }
+    return result;
+}
+
+/// Runs the window on the settings in \a file, whatever they are.
+int RunOn(const QString& file, const CommandLine& line)
+{
+    const auto store = std::make_shared<PX::SettingsStore>(file);
+    QString reason;
+    if (!store->Open(&reason)) {
+        return Refuse(reason);
+    }
+    const auto lookAndFeel = std::make_shared<LookAndFeelManager>();
+    Translations translations;
+    ApplyAppearance(line, store->Settings(), translations, *lookAndFeel);
+    MainWindow window(store, lookAndFeel);
+    if (!line.screenshotsFolder.isEmpty()) {
+        return RunTour(window, line.screenshotsFolder);
+    }
+    window.show();
+    return QApplication::exec();
+}
+
+/// Runs the tour on a copy: it deletes tasks, which it must not do to the user's own.
+int RunOnCopy(const CommandLine& line)
+{
+    const QString original = line.settingsFile.isEmpty() ? QStringLiteral(":/samples/settings.json")
+                                                         : line.settingsFile;
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(QStringLiteral("settings.json"));
+    QFile source(original);
+    if (!source.copy(copy)) {
+        return Refuse(QStringLiteral("cannot copy the settings file %1: %2")
+                          .arg(original, source.errorString()));
+    }
+    QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
+    return RunOn(copy, line);
+}
+
+} // namespace
+
+void RegisterResources()
+{
+    InitializeResources();
+}
+
+int RunApplication(int argc, char** argv)
+{
+    RegisterResources();
+    QCoreApplication::setApplicationName(QStringLiteral("px-scheduler"));
+    const CommandLine line = ReadCommandLine(argc, argv);
+    if (line.task == CommandLine::Task::Refuse) {
+        PrintLine(stderr, line.message);
+        return refused;
+    }
+    if (line.task == CommandLine::Task::Print) {
+        PrintLine(stdout, line.message);
+        return 0;
+    }
+    google::InitGoogleLogging(argv[0]);
+    FLAGS_logtostderr = true;
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QApplication application(argc, argv);
+    if (!line.screenshotsFolder.isEmpty()) {
+        return RunOnCopy(line);
+    }
+    return RunOn(line.settingsFile.isEmpty() ? DefaultSettingsFile() : line.settingsFile, line);
+}
+
+} // namespace Zentor::App

@@ -1,0 +1,14 @@
+#pragma once
+
+namespace Zentor::App {
+
+/// Registers the style sheet, icons and samples that are part of the program. RunApplication() does
+/// so by itself.
+void RegisterResources();
+
+/// Runs the application from its command line to its end and returns its exit code: 0 when all went
+/// well, 1 when the screenshot tour failed, 2 when the command line or the settings file cannot be
+/// used.
+int RunApplication(int argc, char** argv);
+
+} // namespace Zentor::App

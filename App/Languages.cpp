@@ -1,0 +1,80 @@
+#include "Languages.h"
+
+#include <QGuiApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+namespace Zentor::App {
+
+QStringList LanguageCodes()
+{
+    return {QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("fr"), QStringLiteral("es"),
+            QStringLiteral("it"), QStringLiteral("pt_BR"), QStringLiteral("pl"),
+            QStringLiteral("ru"), QStringLiteral("tr"), QStringLiteral("ja"), QStringLiteral("ko"),
+            QStringLiteral("zh_CN"), QStringLiteral("ar"), QStringLiteral("he")};
+}
+
+bool IsLanguage(const QString& code)
+{
+    return LanguageCodes().contains(code);
+}
+
+QString BestLanguage(const QStringList& wanted)
+{
+    const QStringList codes = LanguageCodes();
+    for (QString name : wanted) {
+        name.replace(QLatin1Char('-'), QLatin1Char('_'));
+        const QLocale locale(name);
+        if (locale.language() == QLocale::C) {
+            continue;
+        }
+        // QLocale knows that "zh_Hans" is at home in China and "pt" in Brazil.
+        const QString withRegion = locale.name();
+        const QString withoutRegion = withRegion.section(QLatin1Char('_'), 0, 0);
+        for (const QString& code : {name, withRegion, withoutRegion}) {
+            if (codes.contains(code)) {
+                return code;
+            }
+        }
+    }
+    return codes.constFirst();
+}
+
+Translations::Translations() = default;
+
+Translations::~Translations()
+{
+    Remove();
+}
+
+void Translations::Use(const QString& code)
+{
+    Remove();
+    const QLocale locale(code);
+    QLocale::setDefault(locale);
+    const QString ofQt = QStringLiteral("qtbase");
+    const QString ofApplication = QStringLiteral("px-scheduler");
+    const QString separator = QStringLiteral("_");
+    const std::pair<QString, QString> sources[] = {
+        {ofQt, QLibraryInfo::location(QLibraryInfo::TranslationsPath)},
+        {ofApplication, QStringLiteral(":/translations")}};
+    for (const auto& [name, folder] : sources) {
+        auto translator = std::make_unique<QTranslator>();
+        if (translator->load(locale, name, separator, folder)) {
+            QCoreApplication::installTranslator(translator.get());
+            m_translators.push_back(std::move(translator));
+        }
+    }
+    QGuiApplication::setLayoutDirection(locale.textDirection());
+}
+
+void Translations::Remove()
+{
+    for (const auto& translator : m_translators) {
+        QCoreApplication::removeTranslator(translator.get());
+    }
+    m_translators.clear();
+}
+
+} // namespace Zentor::App

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <QString>
+#include <QStringList>
+
+class QTranslator;
+
+namespace Zentor::App {
+
+/// Codes of the languages that the application offers, as QLocale names: "en", "de", "pt_BR", ...
+QStringList LanguageCodes();
+
+/// Whether \a code is one of LanguageCodes().
+bool IsLanguage(const QString& code);
+
+/// The first of \a wanted (names such as "de-AT" or "pt_BR", best first) that is offered, or "en".
+/// A region that is not offered falls back on its language: "de-AT" gives "de".
+QString BestLanguage(const QStringList& wanted);
+
+/// The translations that are in use; takes them out of use when it is destroyed.
+class Translations {
+public:
+    Translations();
+    ~Translations();
+    Translations(const Translations&) = delete;
+    Translations& operator=(const Translations&) = delete;
+
+    /// Replaces what was in use by \a code, one of LanguageCodes(): the texts of Qt and of the
+    /// application, the default locale and the direction of writing. Every widget receives
+    /// QEvent::LanguageChange. A text that has no translation stays English.
+    void Use(const QString& code);
+
+private:
+    void Remove();
+
+    std::vector<std::unique_ptr<QTranslator>> m_translators;
+};
+
+} // namespace Zentor::App

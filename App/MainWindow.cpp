@@ -1,0 +1,236 @@
+#include "MainWindow.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QStatusBar>
+
+#include "Application/SettingsManager.h"
+#include "FilesPage.h"
+#include "Page.h"
+#include "PXUserSettings/SettingsStore.h"
+#include "PXUserSettings/StoredSettings.h"
+#include "RecordSchedulerWidget.h"
+#include "Theme.h"
+
+namespace Zentor::App {
+namespace {
+
+constexpr QSize firstSize(980, 700);
+constexpr QSize smallestSize(480, 320);
+constexpr int messageMilliseconds = 5000;
+
+QString ScheduleId()
+{
+    return QStringLiteral("schedule");
+}
+
+QString FilesId()
+{
+    return QStringLiteral("files");
+}
+
+} // namespace
+
+MainWindow::MainWindow(std::shared_ptr<PX::SettingsStore> store,
+                       std::shared_ptr<ILookAndFeelManager> lookAndFeel, QWidget* parent)
+    : QMainWindow(parent)
+    , m_store(std::move(store))
+    , m_lookAndFeel(std::move(lookAndFeel))
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    BuildWidgets();
+    Connect();
+    Retranslate();
+    UpdateIcons();
+    RestorePlace();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::BuildWidgets()
+{
+    auto* center = new QWidget(this);
+    auto* sidebar = new QFrame(center);
+    sidebar->setObjectName(QStringLiteral("sidebar"));
+    m_pageList = new QListWidget(sidebar);
+    m_pageList->setObjectName(QStringLiteral("pageList"));
+    m_pageList->setIconSize(QSize(20, 20));
+    m_pageList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* sidebarLayout = new QVBoxLayout(sidebar);
+    sidebarLayout->setContentsMargins(0, 0, 0, 0);
+    sidebarLayout->addWidget(m_pageList);
+
+    auto* layout = new QHBoxLayout(center);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(sidebar);
+    layout->addWidget(CreatePageColumn(center), 1);
+    setCentralWidget(center);
+    setMinimumSize(smallestSize);
+}
+
+QWidget* MainWindow::CreatePageColumn(QWidget* parent)
+{
+    auto* pageColumn = new QFrame(parent);
+    pageColumn->setObjectName(QStringLiteral("pageColumn"));
+    m_pages = new QStackedWidget(pageColumn);
+    m_pages->setObjectName(QStringLiteral("pages"));
+    AddPage(CreateSchedulePage());
+    AddPage(CreateFilesPage());
+
+    m_statusBar = new QStatusBar(pageColumn);
+    m_statusBar->setSizeGripEnabled(false);
+    m_saveProblemLabel = new QLabel(m_statusBar);
+    m_saveProblemLabel->setObjectName(QStringLiteral("saveProblemLabel"));
+    m_saveProblemLabel->setTextFormat(Qt::PlainText);
+    m_saveProblemLabel->hide();
+    m_statusBar->addWidget(m_saveProblemLabel, 1);
+
+    auto* layout = new QVBoxLayout(pageColumn);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_pages, 1);
+    layout->addWidget(m_statusBar);
+    return pageColumn;
+}
+
+void MainWindow::AddPage(Page* page)
+{
+    m_pages->addWidget(page);
+    m_pageList->addItem(new QListWidgetItem);
+}
+
+Page* MainWindow::CreateSchedulePage()
+{
+    m_panel = new PX::Scheduler::UI::RecordSchedulerWidget(
+        m_lookAndFeel, std::make_shared<SettingsManager>(m_store), m_pages);
+    m_panel->setObjectName(QStringLiteral("recordSchedulerWidget"));
+    m_panel->SetSchedulerSettings(std::make_shared<PX::StoredSchedulerSettings>(m_store));
+    m_panel->SetCaptureFinishActionSettings(
+        std::make_shared<PX::StoredCaptureFinishActionSettings>(m_store));
+    m_panel->SetPathSettings(std::make_shared<PX::StoredPathsSettings>(m_store));
+    m_panel->SetSettingsWatcher(std::make_shared<PX::StoringSettingsWatcher>(m_store));
+    m_panel->RestoreSettings();
+    return new Page(ScheduleId(), m_panel, m_pages);
+}
+
+Page* MainWindow::CreateFilesPage()
+{
+    m_filesPage = new FilesPage(m_store, m_pages);
+    return new Page(FilesId(), m_filesPage, m_pages);
+}
+
+void MainWindow::Connect()
+{
+    connect(m_pageList, &QListWidget::currentRowChanged, m_pages, &QStackedWidget::setCurrentIndex);
+    connect(m_panel, &PX::Scheduler::UI::RecordSchedulerWidget::OpenFilesSettingsRequested, this,
+            [this] { ShowPage(FilesId()); });
+    connect(m_store.get(), &PX::SettingsStore::SaveFailed, this, &MainWindow::ShowSaveProblem);
+    connect(m_store.get(), &PX::SettingsStore::Saved, this, &MainWindow::ForgetSaveProblem);
+    const auto* quit = new QShortcut(QKeySequence::Quit, this);
+    connect(quit, &QShortcut::activated, this, &MainWindow::close);
+}
+
+void MainWindow::ShowPage(const QString& id)
+{
+    for (int index = 0; index < m_pages->count(); ++index) {
+        if (qobject_cast<Page*>(m_pages->widget(index))->Id() == id) {
+            m_pageList->setCurrentRow(index);
+        }
+    }
+}
+
+void MainWindow::RestorePlace()
+{
+    const PX::UserSettings& settings = m_store->Settings();
+    if (settings.windowGeometry.isEmpty() || !restoreGeometry(settings.windowGeometry)) {
+        resize(firstSize);
+    }
+    m_pageList->setCurrentRow(0);
+    ShowPage(settings.page);
+}
+
+void MainWindow::RememberPlace()
+{
+    const auto* page = qobject_cast<Page*>(m_pages->currentWidget());
+    m_store->Change([&](PX::UserSettings& settings) {
+        settings.windowGeometry = saveGeometry();
+        settings.page = page->Id();
+    });
+}
+
+void MainWindow::Retranslate()
+{
+    setWindowTitle(tr("Recording Scheduler"));
+    m_pageList->setAccessibleName(tr("Settings pages"));
+    RetranslatePage(0, tr("Schedule"), tr("Choose when a recording stops or starts by itself."));
+    RetranslatePage(1, tr("Files"), tr("Choose where recordings are kept."));
+}
+
+void MainWindow::RetranslatePage(int index, const QString& title, const QString& description)
+{
+    m_pageList->item(index)->setText(title);
+    qobject_cast<Page*>(m_pages->widget(index))->SetTexts(title, description);
+}
+
+void MainWindow::UpdateIcons()
+{
+    for (int index = 0; index < m_pages->count(); ++index) {
+        const auto* page = qobject_cast<Page*>(m_pages->widget(index));
+        m_pageList->item(index)->setIcon(ThemedIcon(page->Id()));
+    }
+}
+
+void MainWindow::ShowSaveProblem(const QString& reason)
+{
+    m_saveProblemLabel->setText(tr("Your changes could not be saved: %1").arg(reason));
+    m_saveProblemLabel->setToolTip(m_saveProblemLabel->text().toHtmlEscaped());
+    m_saveProblemLabel->show();
+}
+
+void MainWindow::ForgetSaveProblem()
+{
+    if (m_saveProblemLabel->isHidden()) {
+        return;
+    }
+    m_saveProblemLabel->hide();
+    m_statusBar->showMessage(tr("Your changes are saved again."), messageMilliseconds);
+}
+
+bool MainWindow::IsClosingWithoutSavingAccepted()
+{
+    Util::AlertBox box(Util::AlertBox::Warning, QString(),
+                       tr("Your changes could not be saved. They are lost when you close the "
+                          "window now."),
+                       QMessageBox::Ok | QMessageBox::Cancel, this,
+                       Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    box.setObjectName(QStringLiteral("unsavedSettingsBox"));
+    box.button(QMessageBox::Ok)->setText(tr("Close anyway"));
+    return box.Exec() == QMessageBox::Ok;
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    // Both arrive for the first time while the window is still being built.
+    if (m_filesPage != nullptr && event->type() == QEvent::LanguageChange) {
+        Retranslate();
+    }
+    if (m_filesPage != nullptr && event->type() == QEvent::PaletteChange) {
+        UpdateIcons();
+    }
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    m_filesPage->Apply();
+    RememberPlace();
+    event->setAccepted(m_store->Flush() || IsClosingWithoutSavingAccepted());
+}
+
+} // namespace Zentor::App

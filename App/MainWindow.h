@@ -1,0 +1,71 @@
+#pragma once
+
+#include <memory>
+
+#include <QMainWindow>
+
+class QLabel;
+class QListWidget;
+class QStackedWidget;
+class QStatusBar;
+
+namespace Zentor::PX {
+class SettingsStore;
+namespace Scheduler::UI {
+class RecordSchedulerWidget;
+}
+} // namespace Zentor::PX
+
+namespace Zentor::App {
+
+class FilesPage;
+class ILookAndFeelManager;
+class Page;
+
+/// The window of the application: a list of settings pages, and the chosen page beside it.
+///
+/// Its place and its page are remembered in the settings from one run to the next.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// \a store has been opened. Apply a theme before: the scheduler panel is built here.
+    MainWindow(std::shared_ptr<PX::SettingsStore> store,
+               std::shared_ptr<ILookAndFeelManager> lookAndFeel, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Shows the page called \a id; does nothing when there is none.
+    void ShowPage(const QString& id);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    /// Asks before closing when the settings could not be saved.
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void BuildWidgets();
+    QWidget* CreatePageColumn(QWidget* parent);
+    void AddPage(Page* page);
+    Page* CreateSchedulePage();
+    Page* CreateFilesPage();
+    void Connect();
+    void RestorePlace();
+    void RememberPlace();
+    void Retranslate();
+    void RetranslatePage(int index, const QString& title, const QString& description);
+    void UpdateIcons();
+    void ShowSaveProblem(const QString& reason);
+    void ForgetSaveProblem();
+    bool IsClosingWithoutSavingAccepted();
+
+    std::shared_ptr<PX::SettingsStore> m_store;
+    std::shared_ptr<ILookAndFeelManager> m_lookAndFeel;
+    QListWidget* m_pageList = nullptr;
+    QStackedWidget* m_pages = nullptr;
+    PX::Scheduler::UI::RecordSchedulerWidget* m_panel = nullptr;
+    FilesPage* m_filesPage = nullptr;
+    QStatusBar* m_statusBar = nullptr;
+    QLabel* m_saveProblemLabel = nullptr;
+};
+
+} // namespace Zentor::App

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QScrollArea>
+
+class QLabel;
+
+namespace Zentor::App {
+
+/// One page of settings: a title, a line that says what the page is for, and the settings.
+///
+/// Where the window is too small for the page, the page scrolls.
+class Page : public QScrollArea {
+    Q_OBJECT
+
+public:
+    /// Takes ownership of \a settings. \a id names the page in the stored settings.
+    Page(const QString& id, QWidget* settings, QWidget* parent);
+
+    /// The id given to the constructor.
+    QString Id() const { return m_id; }
+
+    /// Sets the title and the line below it.
+    void SetTexts(const QString& title, const QString& description);
+
+private:
+    QString m_id;
+    QLabel* m_title = nullptr;
+    QLabel* m_description = nullptr;
+};
+
+} // namespace Zentor::App

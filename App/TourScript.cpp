@@ -1,0 +1,148 @@
+#include "TourScript.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QWidget>
+
+#include "ScreenshotTour.h"
+
+namespace Zentor::App {
+namespace {
+
+QString NothingButton()
+{
+    return QStringLiteral("disableScheduledCaptureRadioButton");
+}
+
+QString LimitedButton()
+{
+    return QStringLiteral("limitedCaptureDurationRadioButton");
+}
+
+QString ScheduleButton()
+{
+    return QStringLiteral("scheduledCaptureRadioButton");
+}
+
+bool IsShown(const QString& objectName)
+{
+    const auto widgets = QApplication::allWidgets();
+    return std::any_of(widgets.begin(), widgets.end(), [&](const QWidget* widget) {
+        return widget->isVisible() && widget->objectName() == objectName;
+    });
+}
+
+void WaitUntilShown(ScreenshotTour& tour, const QString& objectName)
+{
+    tour.WaitFor(objectName, [objectName] { return IsShown(objectName); });
+}
+
+void WaitForBox(ScreenshotTour& tour)
+{
+    tour.WaitFor(QStringLiteral("a message box"),
+                 [] { return QApplication::activeModalWidget() != nullptr; });
+}
+
+void WaitForNoBox(ScreenshotTour& tour)
+{
+    tour.WaitFor(QStringLiteral("no message box"),
+                 [] { return QApplication::activeModalWidget() == nullptr; });
+}
+
+void WaitUntilChecked(ScreenshotTour& tour, const QString& objectName)
+{
+    tour.WaitFor(QStringLiteral("%1 checked").arg(objectName), [objectName] {
+        const auto widgets = QApplication::allWidgets();
+        return std::any_of(widgets.begin(), widgets.end(), [&](QWidget* widget) {
+            const auto* button = qobject_cast<QAbstractButton*>(widget);
+            return button != nullptr && button->objectName() == objectName && button->isChecked();
+        });
+    });
+}
+
+void ShowTasks(ScreenshotTour& tour)
+{
+    tour.ClickEntry(QStringLiteral("pageList"), 0);
+    WaitUntilShown(tour, QStringLiteral("infoRecordFrame"));
+    tour.PointAway();
+    tour.Picture(QStringLiteral("01-schedule"));
+
+    tour.PointAt(QStringLiteral("titleLabel"));
+    tour.Picture(QStringLiteral("02-task-under-mouse"));
+
+    tour.Click(QStringLiteral("deleteToolButton"));
+    WaitForBox(tour);
+    tour.PointAway();
+    tour.Picture(QStringLiteral("03-delete-question"));
+    tour.ClickInBox(QMessageBox::Cancel);
+    WaitForNoBox(tour);
+}
+
+void LeaveSchedule(ScreenshotTour& tour)
+{
+    tour.Click(NothingButton());
+    WaitForBox(tour);
+    tour.PointAway();
+    tour.Picture(QStringLiteral("04-leave-schedule-question"));
+    tour.ClickInBox(QMessageBox::Ok);
+    WaitForNoBox(tour);
+    WaitUntilChecked(tour, NothingButton());
+    tour.PointAway();
+    tour.Picture(QStringLiteral("05-nothing-scheduled"));
+}
+
+void LimitCapture(ScreenshotTour& tour)
+{
+    const QString duration = QStringLiteral("limitedCaptureDurationSettingsCaptureDuration");
+    const QString action = QStringLiteral("limitedCaptureDurationSettingsActionOnFinishBox");
+
+    tour.Click(LimitedButton());
+    WaitUntilShown(tour, duration);
+    tour.PointAway();
+    tour.Picture(QStringLiteral("06-limited-capture"));
+
+    tour.Click(duration);
+    tour.Press(Qt::Key_Home);
+    tour.Type(QStringLiteral("013000"));
+    tour.PointAway();
+    tour.Picture(QStringLiteral("07-limited-capture-duration"));
+
+    tour.Click(action);
+    tour.WaitFor(QStringLiteral("the list of actions"),
+                 [] { return QApplication::activePopupWidget() != nullptr; });
+    tour.Press(Qt::Key_Down);
+    tour.Press(Qt::Key_Down);
+    tour.Picture(QStringLiteral("08-limited-capture-actions"));
+    tour.Press(Qt::Key_Return);
+    tour.WaitFor(QStringLiteral("the list of actions closed"),
+                 [] { return QApplication::activePopupWidget() == nullptr; });
+}
+
+void ShowEmptySchedule(ScreenshotTour& tour)
+{
+    tour.Click(ScheduleButton());
+    WaitUntilShown(tour, QStringLiteral("stubInfoRecordFrame"));
+    tour.PointAway();
+    tour.Picture(QStringLiteral("09-empty-schedule"));
+}
+
+void ShowFiles(ScreenshotTour& tour)
+{
+    tour.ClickEntry(QStringLiteral("pageList"), 1);
+    WaitUntilShown(tour, QStringLiteral("resultsFolderEdit"));
+    tour.PointAway();
+    tour.Picture(QStringLiteral("10-files"));
+}
+
+} // namespace
+
+void WriteTourScript(ScreenshotTour& tour)
+{
+    ShowTasks(tour);
+    LeaveSchedule(tour);
+    LimitCapture(tour);
+    ShowEmptySchedule(tour);
+    ShowFiles(tour);
+}
+
+} // namespace Zentor::App
