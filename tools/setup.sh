@@ -1,36 +1,56 @@
-# Sourced by ./run and ./test: installs what a bare Debian 12 machine lacks.
+# Installs the Debian packages that this repository needs. Sourced by ./run and ./test.
+#
+#   install_missing <package>...    installs those that are not installed yet; quick and silent when
+#                                   there are none
 
-build_packages=(
-    ca-certificates cmake g++ git ninja-build
-    libboost-dev libgoogle-glog-dev libqt5svg5-dev qtbase5-dev qttools5-dev qttools5-dev-tools
-)
-run_packages=(
-    fonts-dejavu-core fonts-noto-cjk fonts-noto-core libqt5svg5 qt5-gtk-platformtheme
-    qttranslations5-l10n
-)
-test_packages=(
-    at-spi2-core clang-format-14 clang-tidy-14 dbus-x11 libclang-rt-14-dev openbox qtbase5-private-dev
-    x11-utils xauth xdotool xvfb
-)
+# To build the application and run it: compiler and libraries; Qt's plugins for SVG icons and for
+# Wayland; Qt's own translations; fonts for what is written in the sample settings.
+packages_to_run=(
+    g++ cmake ninja-build
+    qtbase5-dev libboost-dev libgoogle-glog-dev
+    libqt5svg5 qtwayland5 qttranslations5-l10n
+    fonts-dejavu-core fonts-noto-core fonts-noto-cjk)
 
-# install_packages PACKAGE...: asks nobody, and does nothing when all are there.
-install_packages() {
-    local missing=()
+# To test it, in addition: linters; Qt's private headers, for stand-ins of a screen; a display that
+# nobody sees, with what works a window on it; the accessibility bus.
+packages_to_test=(
+    clang-format-14 clang-tidy-14
+    qtbase5-private-dev
+    xvfb xauth xdotool openbox
+    dbus at-spi2-core)
+
+missing_packages() {
     local package
     for package in "$@"; do
-        if ! dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed; then
-            missing+=("$package")
+        if [[ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" != installed ]]; then
+            echo "$package"
         fi
     done
-    if [ ${#missing[@]} -eq 0 ]; then
-        return
+}
+
+as_root() {
+    if [[ $EUID -eq 0 ]]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        echo "Cannot install packages: neither root nor sudo. Please run as root: $*" >&2
+        return 1
     fi
-    echo "Installing: ${missing[*]}"
-    local as_root=()
-    if [ "$(id -u)" -ne 0 ]; then
-        as_root=(sudo)
+}
+
+install_missing() {
+    if ! command -v dpkg-query >/dev/null; then
+        echo "Not a Debian system. If the build fails, install what corresponds to: $*" >&2
+        return 0
     fi
-    "${as_root[@]}" apt-get update -q
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y -q --no-install-recommends "${missing[@]}"
+    local missing
+    mapfile -t missing < <(missing_packages "$@")
+    if [[ ${#missing[@]} -eq 0 ]]; then
+        return 0
+    fi
+    echo "Installing: ${missing[*]}" >&2
+    as_root apt-get update -qq >&2
+    as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
 }
