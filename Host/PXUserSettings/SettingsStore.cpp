@@ -21,12 +21,25 @@ QString Text(const char* text, const QString& path, const QString& reason = {})
     return reason.isEmpty() ? translated.arg(path) : translated.arg(path, reason);
 }
 
+bool WriteAll(QIODevice& device, QByteArray content)
+{
+    while (!content.isEmpty()) {
+        const qint64 written = device.write(content);
+        if (written <= 0) {
+            return false;
+        }
+        content.remove(0, static_cast<int>(written));
+    }
+    return true;
+}
+
 /// Replaces the file as a whole. Returns the reason of a failure, or nothing.
 QString ReplaceFile(const QString& path, const QByteArray& content)
 {
     QSaveFile file(path);
-    const bool isSaved =
-        file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    // Unbuffered: commit() would write what is left in a buffer and not notice when that fails.
+    const bool isSaved = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+        && WriteAll(file, content) && file.commit();
     return isSaved ? QString() : file.errorString();
 }
 
@@ -60,8 +73,6 @@ SettingsStore::SettingsStore(const QString& filePath, QObject* parent)
     , m_filePath(QFileInfo(filePath).absoluteFilePath())
     , m_lock(m_filePath + QLatin1String(".lock"))
 {
-    // A lock is given up when its process is gone, however old it is.
-    m_lock.setStaleLockTime(0);
     m_saveTimer.setSingleShot(true);
     m_retryTimer.setSingleShot(true);
     connect(&m_saveTimer, &QTimer::timeout, this, &SettingsStore::Flush);
@@ -92,7 +103,7 @@ bool SettingsStore::Open(QString* error)
 QString SettingsStore::Lock()
 {
     const QFileInfo file(m_filePath);
-    if (file.exists() && !file.isFile()) {
+    if (file.fileName().isEmpty() || (file.exists() && !file.isFile())) {
         return Text(QT_TRANSLATE_NOOP("SettingsStore", "The settings file %1 is not a file."),
                     m_filePath);
     }

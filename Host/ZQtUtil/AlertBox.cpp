@@ -1,3 +1,4 @@
+#include <QAbstractButton>
 #include <QPointer>
 
 #include "AlertBoxBehaviour.h"
@@ -36,12 +37,14 @@ QMessageBox::StandardButton AlertBox::Exec()
     if (defaultButton() == nullptr && button(Cancel) != nullptr) {
         setDefaultButton(Cancel);
     }
+    // Not clickedButton(): that still is the one of the time before when the box is closed.
+    StandardButton answer = Cancel;
+    const QObject duringExec;
+    connect(this, &QMessageBox::buttonClicked, &duringExec,
+            [&](QAbstractButton* clicked) { answer = standardButton(clicked); });
     const QPointer<AlertBox> self(this);
     exec();
-    if (self == nullptr || clickedButton() == nullptr) {
-        return Cancel;
-    }
-    return standardButton(clickedButton());
+    return self == nullptr ? Cancel : answer;
 }
 
 } // namespace Zentor::Util

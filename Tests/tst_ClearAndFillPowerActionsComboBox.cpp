@@ -1,0 +1,67 @@
+#include <QComboBox>
+#include <QTranslator>
+
+#include "HostInterfaces.h"
+#include "WidgetTest.h"
+
+using namespace Zentor;
+
+namespace {
+
+class BracketTranslator final : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* text, const char*, int) const override
+    {
+        return qstrcmp(context, "PowerAction") == 0
+            ? QStringLiteral("[%1]").arg(QString::fromUtf8(text))
+            : QString();
+    }
+};
+
+QStringList Entries(const QComboBox& box)
+{
+    QStringList entries;
+    for (int index = 0; index < box.count(); ++index) {
+        entries << box.itemText(index);
+    }
+    return entries;
+}
+
+} // namespace
+
+class tst_ClearAndFillPowerActionsComboBox : public Tests::WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fillsInTheOrderOfTheActions()
+    {
+        QComboBox box;
+        box.addItem(QStringLiteral("old"));
+        PX::UI::ClearAndFillPowerActionsComboBox(&box);
+        const QStringList expected{
+            QStringLiteral("Do nothing"), QStringLiteral("Quit the application"),
+            QStringLiteral("Sleep"),      QStringLiteral("Hibernate"),
+            QStringLiteral("Restart"),    QStringLiteral("Shut down")};
+        QCOMPARE(Entries(box), expected);
+        QCOMPARE(box.itemText(PX::QuitApplication), QStringLiteral("Quit the application"));
+        QCOMPARE(box.itemText(PX::ShutDown), QStringLiteral("Shut down"));
+        QCOMPARE(box.currentIndex(), int(PX::DoNothing));
+    }
+
+    void fillsInTheCurrentLanguage()
+    {
+        QComboBox box;
+        PX::UI::ClearAndFillPowerActionsComboBox(&box);
+        BracketTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        PX::UI::ClearAndFillPowerActionsComboBox(&box);
+        QCOMPARE(box.count(), 6);
+        for (int index = 0; index < box.count(); ++index) {
+            QVERIFY(box.itemText(index).startsWith(QLatin1Char('[')));
+        }
+    }
+};
+
+SCHEDULER_TEST_MAIN(tst_ClearAndFillPowerActionsComboBox)
+#include "tst_ClearAndFillPowerActionsComboBox.moc"

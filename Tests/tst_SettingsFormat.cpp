@@ -1,0 +1,317 @@
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include "PXUserSettings/SettingsFormat.h"
+#include "Samples.h"
+#include "WidgetTest.h"
+
+using namespace Zentor;
+using namespace Zentor::Tests;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Settings in which every value differs from its default.
+PX::UserSettings Sample()
+{
+    PX::UserSettings settings;
+    settings.limitedCaptureEnabled = true;
+    settings.limitedCaptureDuration = 23h + 59min + 59s;
+    settings.scheduledCaptureEnabled = true;
+    settings.schedule = {Record("A <b>title</b>, \"quoted\"\n", "10:00", 90min),
+                         Record(QString::fromUtf8("\u9332\u753b \U0001F3A5"), At("12:00"), 1us)};
+    settings.schedule[0].screenIndex = 3;
+    settings.schedule[0].finishAction = PX::ShutDown;
+    settings.captureFinishAction = PX::Hibernate;
+    settings.resultsFolderPath = QStringLiteral("/videos");
+    settings.confirmations = {{QStringLiteral("a"), true}, {QStringLiteral("b"), false}};
+    settings.language = QStringLiteral("pt_BR");
+    settings.theme = QStringLiteral("dark");
+    settings.windowGeometry = QByteArray("\0\1\xff", 3);
+    settings.page = QStringLiteral("files");
+    return settings;
+}
+
+void CompareRecords(const PX::RecordTime& actual, const PX::RecordTime& expected)
+{
+    QCOMPARE(actual.title, expected.title);
+    QVERIFY(actual.start == expected.start);
+    QVERIFY(actual.duration == expected.duration);
+    QCOMPARE(actual.screenIndex, expected.screenIndex);
+    QCOMPARE(actual.finishAction, expected.finishAction);
+}
+
+void Compare(const PX::UserSettings& actual, const PX::UserSettings& expected)
+{
+    QCOMPARE(actual.limitedCaptureEnabled, expected.limitedCaptureEnabled);
+    QVERIFY(actual.limitedCaptureDuration == expected.limitedCaptureDuration);
+    QCOMPARE(actual.scheduledCaptureEnabled, expected.scheduledCaptureEnabled);
+    QCOMPARE(actual.schedule.size(), expected.schedule.size());
+    for (std::size_t i = 0; i < expected.schedule.size(); ++i) {
+        CompareRecords(actual.schedule[i], expected.schedule[i]);
+    }
+    QCOMPARE(actual.captureFinishAction, expected.captureFinishAction);
+    QCOMPARE(actual.resultsFolderPath, expected.resultsFolderPath);
+    QCOMPARE(actual.confirmations, expected.confirmations);
+    QCOMPARE(actual.language, expected.language);
+    QCOMPARE(actual.theme, expected.theme);
+    QCOMPARE(actual.windowGeometry, expected.windowGeometry);
+    QCOMPARE(actual.page, expected.page);
+}
+
+QByteArray Version1With(const QByteArray& fields)
+{
+    return QByteArray("{\"version\": 1, ") + fields + '}';
+}
+
+QByteArray WithTasks(const QByteArray& tasks)
+{
+    return Version1With("\"scheduledCapture\": {\"tasks\": [" + tasks + "]}");
+}
+
+} // namespace
+
+class tst_SettingsFormat : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsWhatItWrites()
+    {
+        const auto document = PX::ParseSettings(PX::FormatSettings(Sample(), {}));
+        QVERIFY(document.isUnderstood);
+        QCOMPARE(document.problems, QStringList());
+        Compare(document.settings, Sample());
+    }
+
+    void defaults()
+    {
+        const PX::UserSettings settings;
+        QVERIFY(!settings.limitedCaptureEnabled);
+        QVERIFY(settings.limitedCaptureDuration == 5s);
+        QVERIFY(!settings.scheduledCaptureEnabled);
+        QVERIFY(settings.schedule.empty());
+        QCOMPARE(settings.captureFinishAction, PX::DoNothing);
+        QVERIFY(!settings.resultsFolderPath.isEmpty());
+        QVERIFY(settings.confirmations.isEmpty());
+
+        const auto document = PX::ParseSettings("{\"version\": 1}");
+        QVERIFY(document.isUnderstood);
+        QCOMPARE(document.problems, QStringList());
+        Compare(document.settings, settings);
+    }
+
+    void everyActionHasAName()
+    {
+        for (int action = PX::DoNothing; action <= PX::ShutDown; ++action) {
+            PX::UserSettings settings;
+            settings.captureFinishAction = static_cast<PX::PowerAction>(action);
+            const auto document = PX::ParseSettings(PX::FormatSettings(settings, {}));
+            QCOMPARE(document.settings.captureFinishAction, settings.captureFinishAction);
+            QVERIFY(document.fields.value(QLatin1String("captureFinishAction")).isString());
+        }
+    }
+
+    void keepsEveryMicrosecond_data()
+    {
+        QTest::addColumn<qint64>("start");
+        QTest::newRow("epoch") << qint64(0);
+        QTest::newRow("before the epoch") << qint64(-1);
+        QTest::newRow("odd") << qint64(4294967294999999);
+        QTest::newRow("most of a double") << (qint64(1) << 53);
+        QTest::newRow("beyond a double") << (qint64(1) << 53) + 1;
+        QTest::newRow("least of a double") << -(qint64(1) << 53);
+        QTest::newRow("below a double") << -(qint64(1) << 53) - 1;
+        QTest::newRow("last") << std::numeric_limits<qint64>::max();
+        QTest::newRow("first") << std::numeric_limits<qint64>::min();
+    }
+
+    void keepsEveryMicrosecond()
+    {
+        QFETCH(qint64, start);
+        PX::UserSettings settings;
+        const Time::IClock::time_point point{std::chrono::microseconds(start)};
+        settings.schedule = {Record(QStringLiteral("A"), point, 0us)};
+        const auto document = PX::ParseSettings(PX::FormatSettings(settings, {}));
+        QCOMPARE(document.problems, QStringList());
+        QVERIFY(document.settings.schedule.at(0).start == point);
+    }
+
+    void notUnderstood_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("text") << QByteArray("hello");
+        QTest::newRow("binary") << QByteArray("\0\1\2\xff", 4);
+        QTest::newRow("array") << QByteArray("[]");
+        QTest::newRow("not UTF-8") << QByteArray("{\"version\": 1, \"a\": \"\xff\"}");
+        QTest::newRow("no version") << QByteArray("{}");
+        QTest::newRow("version of no type") << QByteArray("{\"version\": true}");
+        QTest::newRow("version 0") << QByteArray("{\"version\": 0}");
+        QTest::newRow("version 1.5") << QByteArray("{\"version\": 1.5}");
+        QTest::newRow("newer version") << QByteArray("{\"version\": 2}");
+        QTest::newRow("trailing text") << QByteArray("{\"version\": 1} x");
+        QTest::newRow("two files in one") << QByteArray("{\"version\": 1}{\"version\": 1}");
+    }
+
+    void notUnderstood()
+    {
+        QFETCH(QByteArray, json);
+        const auto document = PX::ParseSettings(json);
+        QVERIFY(!document.isUnderstood);
+        QCOMPARE(document.problems.count(), 1);
+        QVERIFY(document.fields.isEmpty());
+        Compare(document.settings, {});
+    }
+
+    void truncated()
+    {
+        const QByteArray json = PX::FormatSettings(Sample(), {}).trimmed();
+        for (int size = 0; size < json.size(); ++size) {
+            const auto document = PX::ParseSettings(json.left(size));
+            QVERIFY2(!document.isUnderstood, qPrintable(QString::number(size)));
+            Compare(document.settings, {});
+        }
+    }
+
+    void unusableValues_data()
+    {
+        QTest::addColumn<QByteArray>("fields");
+        QTest::addColumn<QString>("problem");
+        const auto row = [](const char* fields, const char* problem) {
+            QTest::newRow(fields) << QByteArray(fields) << QString::fromLatin1(problem);
+        };
+        row("\"limitedCapture\": 5", "limitedCapture: not an object");
+        row("\"limitedCapture\": {\"enabled\": 1}", "limitedCapture.enabled: unusable value");
+        row("\"limitedCapture\": {\"enabled\": null}", "limitedCapture.enabled: unusable value");
+        row("\"limitedCapture\": {\"duration\": true}", "limitedCapture.duration: unusable value");
+        row("\"limitedCapture\": {\"duration\": 6e6.5}", "");
+        row("\"limitedCapture\": {\"duration\": 6000000.5}",
+            "limitedCapture.duration: unusable value");
+        row("\"limitedCapture\": {\"duration\": 4999999}",
+            "limitedCapture.duration: unusable value");
+        row("\"limitedCapture\": {\"duration\": 86400000000}",
+            "limitedCapture.duration: unusable value");
+        row("\"limitedCapture\": {\"duration\": 1e300}", "limitedCapture.duration: unusable value");
+        row("\"limitedCapture\": {\"duration\": \"soon\"}",
+            "limitedCapture.duration: unusable value");
+        row("\"scheduledCapture\": []", "scheduledCapture: not an object");
+        row("\"scheduledCapture\": {\"enabled\": \"yes\"}",
+            "scheduledCapture.enabled: unusable value");
+        row("\"scheduledCapture\": {\"tasks\": {}}", "scheduledCapture.tasks: not an array");
+        row("\"captureFinishAction\": 1", "captureFinishAction: unusable value");
+        row("\"captureFinishAction\": \"explode\"", "captureFinishAction: unusable value");
+        row("\"paths\": {\"resultsFolder\": 1}", "paths.resultsFolder: unusable value");
+        row("\"confirmations\": {\"id\": \"yes\"}", "confirmations.id: unusable value");
+        row("\"appearance\": {\"language\": 1}", "appearance.language: unusable value");
+        row("\"appearance\": {\"theme\": \"pink\"}", "appearance.theme: unusable value");
+        row("\"appearance\": {\"theme\": 1}", "appearance.theme: unusable value");
+        row("\"appearance\": {\"windowGeometry\": \"!\"}",
+            "appearance.windowGeometry: unusable value");
+        row("\"appearance\": {\"windowGeometry\": 1}", "appearance.windowGeometry: unusable value");
+        row("\"appearance\": {\"page\": []}", "appearance.page: unusable value");
+    }
+
+    void unusableValues()
+    {
+        QFETCH(QByteArray, fields);
+        QFETCH(QString, problem);
+        const auto document = PX::ParseSettings(Version1With(fields));
+        QCOMPARE(document.isUnderstood, !problem.isEmpty());
+        if (document.isUnderstood) {
+            QCOMPARE(document.problems, QStringList(problem));
+        }
+        Compare(document.settings, {});
+    }
+
+    void limitsOfTheDuration()
+    {
+        const auto least =
+            PX::ParseSettings(Version1With("\"limitedCapture\": {\"duration\": 5000000}"));
+        QCOMPARE(least.problems, QStringList());
+        const auto most =
+            PX::ParseSettings(Version1With("\"limitedCapture\": {\"duration\": 86399999999}"));
+        QCOMPARE(most.problems, QStringList());
+        QVERIFY(most.settings.limitedCaptureDuration == 24h - 1us);
+    }
+
+    void badTasksAreLeftOut_data()
+    {
+        QTest::addColumn<QByteArray>("task");
+        QTest::addColumn<QString>("problem");
+        const auto row = [](const char* task, const char* problem) {
+            QTest::newRow(task) << QByteArray(task)
+                                << QStringLiteral("task 2") + QString::fromLatin1(problem);
+        };
+        row("5", ".title: missing");
+        row("{}", ".title: missing");
+        row(R"({"start": 1, "duration": 1})", ".title: missing");
+        row(R"({"title": "B", "duration": 1})", ".start: missing");
+        row(R"({"title": "B", "start": 1})", ".duration: missing");
+        row(R"({"title": 1, "start": 1, "duration": 1})", ".title: unusable value");
+        row(R"({"title": "B", "start": 1.5, "duration": 1})", ".start: unusable value");
+        row(R"({"title": "B", "start": 9223372036854775808, "duration": 1})",
+            ".start: unusable value");
+        row(R"({"title": "B", "start": 1, "duration": []})", ".duration: unusable value");
+        row(R"({"title": "B", "start": 1, "duration": -1})", ": negative duration");
+        row(R"({"title": " ", "start": 1, "duration": 1})", ": empty title");
+        row(R"({"title": "A", "start": 1, "duration": 1})", ": title of another task");
+        row(R"({"title": "B", "start": 150, "duration": 1})", ": overlaps another task");
+        row(R"({"title": "B", "start": 1, "duration": 1, "screenIndex": -2})",
+            ".screenIndex: unusable value");
+        row(R"({"title": "B", "start": 1, "duration": 1, "screenIndex": 2147483648})",
+            ".screenIndex: unusable value");
+        row(R"({"title": "B", "start": 1, "duration": 1, "finishAction": "explode"})",
+            ".finishAction: unusable value");
+    }
+
+    void badTasksAreLeftOut()
+    {
+        QFETCH(QByteArray, task);
+        QFETCH(QString, problem);
+        const QByteArray tasks = R"({"title": "A", "start": 100, "duration": 100}, )" + task
+            + R"(, {"title": "C", "start": 200, "duration": 100, "screenIndex": 2147483647})";
+        const auto document = PX::ParseSettings(WithTasks(tasks));
+        QVERIFY(document.isUnderstood);
+        QCOMPARE(document.problems, QStringList(problem));
+        const auto& schedule = document.settings.schedule;
+        QCOMPARE(schedule.size(), std::size_t(2));
+        QCOMPARE(schedule[0].title, QStringLiteral("A"));
+        QCOMPARE(schedule[0].screenIndex, -1);
+        QCOMPARE(schedule[0].finishAction, PX::DoNothing);
+        QCOMPARE(schedule[1].title, QStringLiteral("C"));
+        QCOMPARE(schedule[1].screenIndex, std::numeric_limits<std::int32_t>::max());
+    }
+
+    void unknownFieldsAreKept()
+    {
+        const char* fields = R"("extra": {"a": [1, 2]}, "limitedCapture": {"more": 7},
+            "appearance": {"accent": "green", "theme": "light"}, "paths": {"second": "/x"},
+            "scheduledCapture": {"note": null})";
+        const auto document = PX::ParseSettings(Version1With(fields));
+        QCOMPARE(document.problems, QStringList());
+
+        const auto again = PX::ParseSettings(PX::FormatSettings(Sample(), document.fields));
+        QCOMPARE(again.problems, QStringList());
+        Compare(again.settings, Sample());
+        const auto section = [&](const char* key) {
+            return again.fields.value(QLatin1String(key)).toObject();
+        };
+        QCOMPARE(section("extra").value(QLatin1String("a")).toArray().count(), 2);
+        QCOMPARE(section("limitedCapture").value(QLatin1String("more")).toInt(), 7);
+        QCOMPARE(section("appearance").value(QLatin1String("accent")).toString(),
+                 QStringLiteral("green"));
+        QCOMPARE(section("paths").value(QLatin1String("second")).toString(), QStringLiteral("/x"));
+        QVERIFY(section("scheduledCapture").value(QLatin1String("note")).isNull());
+    }
+
+    void forgottenConfirmationsAreGone()
+    {
+        const auto document = PX::ParseSettings(Version1With("\"confirmations\": {\"a\": true}"));
+        QVERIFY(document.settings.confirmations.value(QStringLiteral("a")));
+        const auto again = PX::ParseSettings(PX::FormatSettings({}, document.fields));
+        QVERIFY(again.settings.confirmations.isEmpty());
+    }
+};
+
+SCHEDULER_TEST_MAIN(tst_SettingsFormat)
+#include "tst_SettingsFormat.moc"

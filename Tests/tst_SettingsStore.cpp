@@ -1,0 +1,637 @@
+#include <csignal>
+#include <sys/resource.h>
+#include <thread>
+#include <unistd.h>
+#include <utime.h>
+
+#include <QJsonDocument>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <glog/logging.h>
+
+#include "PXUserSettings/SettingsFormat.h"
+#include "PXUserSettings/SettingsStore.h"
+#include "Samples.h"
+#include "WidgetTest.h"
+
+using namespace Zentor;
+using namespace Zentor::Tests;
+using namespace std::chrono_literals;
+using PX::SettingsStore;
+using PX::UserSettings;
+
+namespace {
+
+// What this program does as the other process, when it is started with one of these.
+constexpr const char* saveMany = "--save-many";
+constexpr const char* holdFile = "--hold-file";
+
+/// Collects the log lines of the store.
+class Log final : public google::LogSink {
+public:
+    Log() { google::AddLogSink(this); }
+    ~Log() override { google::RemoveLogSink(this); }
+    Q_DISABLE_COPY(Log)
+
+    void send(google::LogSeverity, const char*, const char*, int, const std::tm*,
+              const char* message, std::size_t length) override
+    {
+        lines << QString::fromUtf8(message, int(length));
+    }
+
+    QStringList lines;
+};
+
+/// Has files that grow beyond \a bytes fail, as on a full disk.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    Q_DISABLE_COPY(FullDisk)
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int) = nullptr;
+};
+
+/// Acts as a user whom file permissions apply to, also where the tests run as the administrator.
+class OrdinaryUser {
+public:
+    OrdinaryUser() { m_isOrdinary = m_before != 0 || seteuid(65534) == 0; }
+    ~OrdinaryUser() { m_isOrdinary = seteuid(m_before) == 0; }
+    Q_DISABLE_COPY(OrdinaryUser)
+
+    bool IsOrdinary() const { return m_isOrdinary; }
+
+private:
+    const uid_t m_before = geteuid();
+    bool m_isOrdinary = false;
+};
+
+/// A folder with room for a settings file.
+class Place {
+public:
+    QString Path() const { return m_folder.filePath(QStringLiteral("settings.json")); }
+
+    bool Write(const QByteArray& content) const
+    {
+        QFile file(Path());
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    }
+
+    QByteArray Read(const QString& name = QStringLiteral("settings.json")) const
+    {
+        QFile file(m_folder.filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
+    }
+
+    QStringList DamagedFiles() const
+    {
+        return QDir(m_folder.path()).entryList({QStringLiteral("settings.json.damaged-*")});
+    }
+
+    /// Gives the folder and the file these permissions.
+    bool Protect(QFile::Permissions folder, QFile::Permissions file) const
+    {
+        return QFile::setPermissions(Path(), file)
+            && QFile::setPermissions(m_folder.path(), folder);
+    }
+
+    ~Place() { QFile::setPermissions(m_folder.path(), everything); }
+
+    static constexpr QFile::Permissions reading = QFile::ReadOwner | QFile::ExeOwner
+        | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+    static constexpr QFile::Permissions everything =
+        reading | QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+bool Open(SettingsStore& store)
+{
+    QString error;
+    return store.Open(&error) && error.isEmpty();
+}
+
+/// Why the store cannot be opened, or nothing.
+QString OpenError(const QString& path)
+{
+    SettingsStore store(path);
+    QString error;
+    return store.Open(&error) ? QString() : error;
+}
+
+void SetPage(SettingsStore& store, const QString& page)
+{
+    store.Change([&page](UserSettings& settings) { settings.page = page; });
+}
+
+/// Settings in which everything tells the same number.
+UserSettings State(int number)
+{
+    UserSettings settings;
+    settings.page = QString::number(number);
+    settings.language = settings.page;
+    for (int i = 0; i < 50; ++i) {
+        settings.schedule.push_back(Record(QStringLiteral("Task %1 of %2").arg(i).arg(number),
+                                           At("00:00") + i * 1min, 1min));
+    }
+    return settings;
+}
+
+int SaveMany(const QString& path)
+{
+    SettingsStore store(path);
+    if (!Open(store)) {
+        return 1;
+    }
+    for (int number = 0; number < 1000; ++number) {
+        store.Change([number](UserSettings& settings) { settings = State(number); });
+        if (!store.Flush()) {
+            return 2;
+        }
+        puts("saved");
+        fflush(stdout);
+    }
+    return 0;
+}
+
+int HoldFile(const QString& path)
+{
+    SettingsStore store(path);
+    puts(Open(store) ? "open" : "refused");
+    fflush(stdout);
+    return getchar();
+}
+
+/// This program as another process.
+class OtherProcess {
+public:
+    OtherProcess(const char* mode, const QString& path)
+    {
+        m_process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(mode), path});
+    }
+    ~OtherProcess()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+    Q_DISABLE_COPY(OtherProcess)
+
+    QByteArray ReadLine()
+    {
+        while (!m_process.canReadLine() && m_process.waitForReadyRead(30000)) { }
+        return m_process.readLine().trimmed();
+    }
+
+    bool Kill()
+    {
+        m_process.kill();
+        return m_process.waitForFinished() && m_process.exitStatus() == QProcess::CrashExit;
+    }
+
+private:
+    QProcess m_process;
+};
+
+} // namespace
+
+class tst_SettingsStore : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startsWithDefaults()
+    {
+        const Place place;
+        SettingsStore store(place.Path());
+        const QSignalSpy changed(&store, &SettingsStore::Changed);
+        QVERIFY(Open(store));
+        QCOMPARE(store.FilePath(), place.Path());
+        QVERIFY(store.Settings().page.isEmpty());
+        QVERIFY(store.Flush());
+        QVERIFY(!QFile::exists(place.Path()));
+        QCOMPARE(changed.count(), 0);
+    }
+
+    void keepsChanges()
+    {
+        const Place place;
+        {
+            SettingsStore store(place.Path());
+            QVERIFY(Open(store));
+            const QSignalSpy changed(&store, &SettingsStore::Changed);
+            const QSignalSpy saved(&store, &SettingsStore::Saved);
+            store.Change([](UserSettings& settings) { settings = State(7); });
+            QCOMPARE(changed.count(), 1);
+            QCOMPARE(saved.count(), 0);
+            QCOMPARE(store.Settings().page, QStringLiteral("7"));
+            QTRY_COMPARE(saved.count(), 1);
+            QVERIFY(store.Flush());
+            QCOMPARE(saved.count(), 1);
+        }
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        QCOMPARE(store.Settings().page, QStringLiteral("7"));
+        QCOMPARE(store.Settings().schedule.size(), std::size_t(50));
+        QVERIFY(place.DamagedFiles().isEmpty());
+    }
+
+    void aThousandChangesAreOneWrite()
+    {
+        const Place place;
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        const QSignalSpy changed(&store, &SettingsStore::Changed);
+        const QSignalSpy saved(&store, &SettingsStore::Saved);
+        for (int i = 0; i < 1000; ++i) {
+            SetPage(store, QString::number(i));
+        }
+        QCOMPARE(changed.count(), 1000);
+        QTRY_COMPARE(saved.count(), 1);
+        QCoreApplication::sendPostedEvents();
+        QVERIFY(store.Flush());
+        QCOMPARE(saved.count(), 1);
+        QVERIFY(place.Read().contains("\"999\""));
+    }
+
+    void savesAtTheEnd()
+    {
+        const Place place;
+        {
+            SettingsStore store(place.Path());
+            QVERIFY(Open(store));
+            SetPage(store, QStringLiteral("end"));
+        }
+        QVERIFY(place.Read().contains("\"end\""));
+    }
+
+    void savesWhenTheApplicationQuits()
+    {
+        const Place place;
+        SettingsStore* lateStore = nullptr;
+        QObject context;
+        connect(qApp, &QCoreApplication::aboutToQuit, &context,
+                [&] { SetPage(*lateStore, QStringLiteral("quit")); });
+        SettingsStore store(place.Path());
+        lateStore = &store;
+        QVERIFY(Open(store));
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QCoreApplication::exec();
+        QVERIFY(place.Read().contains("\"quit\""));
+    }
+
+    void savesNothingBeforeItIsOpen()
+    {
+        const Place place;
+        {
+            SettingsStore store(place.Path());
+            QVERIFY(store.Flush());
+            SetPage(store, QStringLiteral("early"));
+            QVERIFY(!store.Flush());
+            QCOMPARE(store.Settings().page, QStringLiteral("early"));
+        }
+        QVERIFY(!QFile::exists(place.Path()));
+    }
+
+    void createsMissingFolders()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("a/b/c/settings.json"));
+        SettingsStore store(path);
+        QVERIFY(Open(store));
+        SetPage(store, QStringLiteral("x"));
+        QVERIFY(store.Flush());
+        QVERIFY(QFile::exists(path));
+    }
+
+    void keepsUnknownFields()
+    {
+        const Place place;
+        QVERIFY(place.Write(R"({"version": 1, "extra": 5, "paths": {"more": "m"}})"));
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        QVERIFY(place.DamagedFiles().isEmpty());
+        SetPage(store, QStringLiteral("x"));
+        QVERIFY(store.Flush());
+        const auto fields = QJsonDocument::fromJson(place.Read()).object();
+        QCOMPARE(fields.value(QLatin1String("extra")).toInt(), 5);
+        QCOMPARE(fields.value(QLatin1String("paths")).toObject().value(QLatin1String("more")),
+                 QJsonValue(QStringLiteral("m")));
+    }
+
+    void cannotBeOpened_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("a folder") << QStringLiteral("/folder");
+        QTest::newRow("in a folder's name") << QStringLiteral("/folder/");
+        QTest::newRow("below a file") << QStringLiteral("/file/settings.json");
+        QTest::newRow("far below a file") << QStringLiteral("/file/a/b/settings.json");
+    }
+
+    void cannotBeOpened()
+    {
+        QFETCH(QString, path);
+        const QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("folder")));
+        QFile file(folder.filePath(QStringLiteral("file")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        const QString error = OpenError(folder.path() + path);
+        QVERIFY2(error.contains(folder.path() + path), qPrintable(error));
+        QVERIFY(!OpenError({}).isEmpty());
+    }
+
+    void devicesAreNoSettingsFiles() { QVERIFY(!OpenError(QStringLiteral("/dev/zero")).isEmpty()); }
+
+    void unreadableFile()
+    {
+        const Place place;
+        QVERIFY(place.Write("{\"version\": 1}"));
+        QVERIFY(place.Protect(Place::everything, {}));
+        const OrdinaryUser user;
+        QVERIFY(user.IsOrdinary());
+        const QString error = OpenError(place.Path());
+        QVERIFY2(error.contains(place.Path()), qPrintable(error));
+    }
+
+    void folderThatCannotBeWrittenTo()
+    {
+        const Place place;
+        QVERIFY(place.Write("{\"version\": 1, \"appearance\": {\"page\": \"old\"}}"));
+        QVERIFY(place.Protect(Place::reading, Place::reading));
+        const OrdinaryUser user;
+        QVERIFY(user.IsOrdinary());
+
+        const QString missing = place.Path() + QStringLiteral(".missing");
+        QVERIFY2(OpenError(missing).contains(missing), qPrintable(OpenError(missing)));
+
+        // What is there can be used, but not changed.
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        QCOMPARE(store.Settings().page, QStringLiteral("old"));
+        const QSignalSpy failed(&store, &SettingsStore::SaveFailed);
+        const QByteArray before = place.Read();
+        SetPage(store, QStringLiteral("new"));
+        QVERIFY(!store.Flush());
+        QCOMPARE(failed.count(), 1);
+        QVERIFY(failed.at(0).at(0).toString().contains(place.Path()));
+        QCOMPARE(place.Read(), before);
+        QCOMPARE(store.Settings().page, QStringLiteral("new"));
+    }
+
+    void damagedFileThatCannotBeKept()
+    {
+        const Place place;
+        const QByteArray damaged = "{\"version\": 1, \"appearance\": {\"page\": \"ol";
+        QVERIFY(place.Write(damaged));
+        QVERIFY(place.Protect(Place::reading, Place::reading));
+        const OrdinaryUser user;
+        QVERIFY(user.IsOrdinary());
+        {
+            SettingsStore store(place.Path());
+            QString error;
+            QVERIFY(!store.Open(&error));
+            QVERIFY2(error.contains(place.Path()), qPrintable(error));
+            SetPage(store, QStringLiteral("x"));
+            QVERIFY(!store.Flush());
+        }
+        QCOMPARE(place.Read(), damaged);
+    }
+
+    void damagedFileOnAFullDisk()
+    {
+        const Place place;
+        const QByteArray damaged = "{\"version\": 1, " + QByteArray(4000, 'x');
+        QVERIFY(place.Write(damaged));
+        const FullDisk disk(2000);
+        const QString error = OpenError(place.Path());
+        QVERIFY2(error.contains(place.Path()), qPrintable(error));
+        QCOMPARE(place.Read(), damaged);
+        QVERIFY(place.DamagedFiles().isEmpty());
+    }
+
+    void truncatedAtEveryByte()
+    {
+        UserSettings settings = State(3);
+        settings.schedule.resize(2);
+        const QByteArray whole = PX::FormatSettings(settings, {}).trimmed();
+        const Place place;
+        for (int size = 0; size <= whole.size(); ++size) {
+            QVERIFY(place.Write(whole.left(size)));
+            const Log log;
+            SettingsStore store(place.Path());
+            QVERIFY(Open(store));
+            const bool isWhole = size == whole.size();
+            QCOMPARE(store.Settings().page, isWhole ? QStringLiteral("3") : QString());
+            QCOMPARE(log.lines.count(), isWhole ? 0 : 1);
+            const QStringList kept = place.DamagedFiles();
+            QCOMPARE(kept.count(), isWhole ? 0 : 1);
+            if (!isWhole) {
+                QCOMPARE(place.Read(kept.first()), whole.left(size));
+                QVERIFY(log.lines.first().contains(kept.first()));
+                QVERIFY(QFile::remove(QFileInfo(place.Path()).path() + QLatin1Char('/')
+                                      + kept.first()));
+                QVERIFY(store.Flush());
+                QVERIFY(PX::ParseSettings(place.Read()).isUnderstood);
+            }
+        }
+    }
+
+    void keepsWhatIsDropped_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("page");
+        QTest::newRow("newer version")
+            << QByteArray(R"({"version": 2, "appearance": {"page": "p"}})") << QString();
+        QTest::newRow("wrong type") << QByteArray(
+            R"({"version": 1, "paths": 5, "appearance": {"page": "p", "language": 5}})")
+                                    << QStringLiteral("p");
+        QTest::newRow("bad task") << QByteArray(
+            R"({"version": 1, "scheduledCapture": {"tasks": [{}]}, "appearance": {"page": "p"}})")
+                                  << QStringLiteral("p");
+    }
+
+    void keepsWhatIsDropped()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, page);
+        const Place place;
+        QVERIFY(place.Write(content));
+        const Log log;
+        SettingsStore store(place.Path());
+        const QSignalSpy saved(&store, &SettingsStore::Saved);
+        QVERIFY(Open(store));
+        QCOMPARE(store.Settings().page, page);
+        QCOMPARE(log.lines.count(), 1);
+        QVERIFY(log.lines.first().startsWith(
+            QLatin1String("Zentor::PX::SettingsStore::Open: damaged=")));
+        QVERIFY(!log.lines.first().trimmed().contains(QLatin1Char('\n')));
+        QCOMPARE(place.DamagedFiles().count(), 1);
+        QCOMPARE(place.Read(place.DamagedFiles().first()), content);
+        // So that the next start does not find the same damage.
+        QTRY_COMPARE(saved.count(), 1);
+        QCOMPARE(PX::ParseSettings(place.Read()).problems, QStringList());
+    }
+
+    void keepsEveryDamagedFile()
+    {
+        const Place place;
+        for (int i = 1; i <= 5; ++i) {
+            QVERIFY(place.Write("damage " + QByteArray::number(i)));
+            QCOMPARE(OpenError(place.Path()), QString());
+            QCOMPARE(place.DamagedFiles().count(), i);
+        }
+    }
+
+    void manyProblemsAreOneLine()
+    {
+        const Place place;
+        QByteArray tasks = "{}";
+        for (int i = 1; i < 1000; ++i) {
+            tasks += ", {}";
+        }
+        QVERIFY(
+            place.Write("{\"version\": 1, \"scheduledCapture\": {\"tasks\": [" + tasks + "]}}"));
+        const Log log;
+        QCOMPARE(OpenError(place.Path()), QString());
+        QCOMPARE(log.lines.count(), 1);
+        QVERIFY(log.lines.first().contains(QLatin1String("and 995 more")));
+    }
+
+    void fullDisk()
+    {
+        const Place place;
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        SetPage(store, QStringLiteral("before"));
+        QVERIFY(store.Flush());
+        const QByteArray before = place.Read();
+
+        const QSignalSpy saved(&store, &SettingsStore::Saved);
+        const QSignalSpy failed(&store, &SettingsStore::SaveFailed);
+        const Log log;
+        {
+            const FullDisk disk(rlim_t(before.size()));
+            store.Change([](UserSettings& settings) { settings = State(1); });
+            QTRY_COMPARE(failed.count(), 1);
+            QVERIFY(failed.at(0).at(0).toString().contains(place.Path()));
+            QCOMPARE(place.Read(), before);
+            // Said once, however often it is tried.
+            SetPage(store, QStringLiteral("during"));
+            QVERIFY(!store.Flush());
+            QVERIFY(!store.Flush());
+            QCOMPARE(failed.count(), 1);
+            QCOMPARE(log.lines.count(), 1);
+            QCOMPARE(saved.count(), 0);
+            QCOMPARE(store.Settings().page, QStringLiteral("during"));
+        }
+        // Nothing but time is needed.
+        QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 1, 15000);
+        const auto document = PX::ParseSettings(place.Read());
+        QCOMPARE(document.settings.page, QStringLiteral("during"));
+        QCOMPARE(document.settings.schedule.size(), std::size_t(50));
+        QCOMPARE(QDir(QFileInfo(place.Path()).path()).entryList(QDir::Files).count(), 2);
+
+        // The next failure is a new one.
+        const FullDisk disk(10);
+        SetPage(store, QStringLiteral("again"));
+        QVERIFY(!store.Flush());
+        QCOMPARE(failed.count(), 2);
+        QCOMPARE(log.lines.count(), 2);
+    }
+
+    void fullDiskIsTriedAgainAtTheEnd()
+    {
+        const Place place;
+        {
+            SettingsStore store(place.Path());
+            QVERIFY(Open(store));
+            {
+                const FullDisk disk(10);
+                SetPage(store, QStringLiteral("late"));
+                QVERIFY(!store.Flush());
+                QVERIFY(!QFile::exists(place.Path()));
+            }
+        }
+        QVERIFY(place.Read().contains("\"late\""));
+    }
+
+    void secondWriterIsRefused()
+    {
+        const Place place;
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        // However long the first one has been running.
+        const utimbuf longAgo{1000000000, 1000000000};
+        const QByteArray lock = QFile::encodeName(place.Path()) + ".lock";
+        QCOMPARE(utime(lock.constData(), &longAgo), 0);
+        const QString error = OpenError(place.Path());
+        QVERIFY2(error.contains(place.Path()), qPrintable(error));
+        OtherProcess other(holdFile, place.Path());
+        QCOMPARE(other.ReadLine(), QByteArray("refused"));
+    }
+
+    void fileOfAnotherProcessIsRefused()
+    {
+        const Place place;
+        OtherProcess other(holdFile, place.Path());
+        QCOMPARE(other.ReadLine(), QByteArray("open"));
+        const QString error = OpenError(place.Path());
+        QVERIFY2(error.contains(place.Path()), qPrintable(error));
+        QVERIFY(other.Kill());
+        QCOMPARE(OpenError(place.Path()), QString());
+    }
+
+    void killedWhileSaving()
+    {
+        const Place place;
+        for (int round = 0; round < 30; ++round) {
+            OtherProcess other(saveMany, place.Path());
+            int number = -1;
+            // Every round is killed at another moment of another save.
+            for (int line = 0; line <= round * 3; ++line) {
+                QCOMPARE(other.ReadLine(), QByteArray("saved"));
+                ++number;
+            }
+            std::this_thread::sleep_for(std::chrono::microseconds(round * 100));
+            QVERIFY(other.Kill());
+
+            SettingsStore store(place.Path());
+            QVERIFY(Open(store));
+            QVERIFY(place.DamagedFiles().isEmpty());
+            const UserSettings& settings = store.Settings();
+            QVERIFY(settings.page.toInt() >= number);
+            QCOMPARE(settings.language, settings.page);
+            QCOMPARE(settings.schedule.size(), std::size_t(50));
+            for (const auto& record : settings.schedule) {
+                QVERIFY(record.title.endsWith(QStringLiteral(" of ") + settings.page));
+            }
+        }
+    }
+};
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String(saveMany)) {
+        return SaveMany(arguments.value(2));
+    }
+    if (arguments.value(1) == QLatin1String(holdFile)) {
+        return HoldFile(arguments.value(2));
+    }
+    tst_SettingsStore test;
+    return RunTest(argc, argv, test);
+}
+#include "tst_SettingsStore.moc"
