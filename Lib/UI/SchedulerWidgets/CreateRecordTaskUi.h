@@ -1,0 +1,72 @@
+#pragma once
+
+#include "HostInterfaces.h"
+
+class QButtonGroup;
+class QComboBox;
+class QDateTimeEdit;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+class QTimeEdit;
+class QWidget;
+
+namespace Zentor::PX::Scheduler::UI {
+
+/// The widgets of the record task form, in creation order. All are owned by their Qt parents.
+struct CreateRecordTaskUi {
+    /// Takes a share of \a lookAndFeelManager until the holder is destroyed.
+    /// \throws std::logic_error when \a lookAndFeelManager is null.
+    explicit CreateRecordTaskUi(
+        const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeelManager);
+
+    ZFrame* createRecordTaskFrame = nullptr;
+    ZLabel* scheduledCaptureSettingsLabel = nullptr;
+    ZLabel* scheduledCaptureSettingsNameLabel = nullptr;
+    QLineEdit* scheduledCaptureSettingsNameLineEdit = nullptr;
+    ZLabel* scheduledCaptureSettingsDateLabel = nullptr;
+    QDateTimeEdit* scheduledCaptureSettingsDate = nullptr;
+    ZLabel* scheduledCaptureSettingsTimeLabel = nullptr;
+    QTimeEdit* scheduledCaptureSettingsStartTime = nullptr;
+    ZLabel* scheduledCaptureSettingsDurationLabel = nullptr;
+    QTimeEdit* scheduledCaptureSettingsDuration = nullptr;
+
+    ZLabel* scheduledCaptureSettingsCaptureModeLabel = nullptr;
+    ZFrame* scheduledCaptureSettingsCaptureModeFrame = nullptr;
+    QButtonGroup* captureAreaRadioButtonGroup = nullptr;
+    QRadioButton* scheduledCaptureSettingsSelectedAreaButton = nullptr;
+    QPushButton* scheduledCaptureSettingsSelectedAreaInfoButton = nullptr;
+    QRadioButton* scheduledCaptureSettingsFullScreenAreaButton = nullptr;
+    QComboBox* scheduledCaptureSettingsScreenSelectBox = nullptr;
+
+    ZLabel* scheduledCaptureSettingsActionOnFinishLabel = nullptr;
+    QComboBox* scheduledCaptureSettingsActionOnFinishBox = nullptr;
+    ZFrame* scheduledCaptureSettingsButtonsFrame = nullptr;
+    QPushButton* scheduledCaptureSettingsCreateButton = nullptr;
+    QPushButton* scheduledCaptureSettingsBackButton = nullptr;
+
+    /// Chooses the language of the calendar.
+    NotNull<std::shared_ptr<App::ILookAndFeelManager>> lookAndFeel;
+
+    /// Builds the widgets inside \a form, and sets the texts.
+    void setupUi(QWidget* form);
+
+    /// Sets every text, the display formats and the calendar's language. The finish actions are not
+    /// touched.
+    void retranslateUi();
+
+private:
+    void CreateFields(QWidget* form);
+    void CreateCaptureMode();
+    void CreateFinish();
+    void LayOut(QWidget* form);
+    void LayOutFields();
+    void LayOutCaptureMode();
+    void LayOutButtons();
+    void BindCaptions();
+    void RetranslateFields();
+    void RetranslateCaptureMode();
+    void RetranslateCalendar();
+};
+
+} // namespace Zentor::PX::Scheduler::UI

@@ -1,0 +1,63 @@
+#include "TimeEditTyping.h"
+
+#include <QDateTimeEdit>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+namespace Zentor::PX::Scheduler::UI {
+
+TypingKeeper::TypingKeeper(QDateTimeEdit& editor)
+    : m_lineEdit(editor.findChild<QLineEdit*>())
+    , m_incompleteText(editor.hasAcceptableInput() ? QString() : m_lineEdit->text())
+    , m_cursor(m_lineEdit->cursorPosition())
+    , m_selectionStart(m_lineEdit->selectionStart())
+    , m_selectionLength(m_lineEdit->selectionLength())
+{
+}
+
+TypingKeeper::~TypingKeeper()
+{
+    // The editor must not take this for something that the user did.
+    const QSignalBlocker blocker(m_lineEdit);
+    if (!m_incompleteText.isNull()) {
+        m_lineEdit->setText(m_incompleteText);
+    }
+    if (m_selectionLength == 0) {
+        m_lineEdit->setCursorPosition(m_cursor);
+    } else if (m_cursor == m_selectionStart) {
+        m_lineEdit->setSelection(m_selectionStart + m_selectionLength, -m_selectionLength);
+    } else {
+        m_lineEdit->setSelection(m_selectionStart, m_selectionLength);
+    }
+}
+
+SeparatorKeyFilter::SeparatorKeyFilter(QDateTimeEdit* editor)
+    : QObject(editor)
+    , m_editor(editor)
+{
+    editor->installEventFilter(this);
+}
+
+bool SeparatorKeyFilter::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress) {
+        return QObject::eventFilter(watched, event);
+    }
+    const QString key = static_cast<QKeyEvent*>(event)->text();
+    const bool isDigit = key.size() == 1 && key.at(0).isDigit();
+    const int section = m_editor->currentSectionIndex();
+    const bool hasMovedOn = m_sectionOfDigit >= 0 && section > m_sectionOfDigit;
+    m_sectionOfDigit = isDigit ? section : -1;
+    return hasMovedOn && IsSeparatorBeforeSection(key);
+}
+
+bool SeparatorKeyFilter::IsSeparatorBeforeSection(const QString& key) const
+{
+    // The section that was moved on to is selected as a whole.
+    const auto* lineEdit = m_editor->findChild<QLineEdit*>();
+    const QString before = lineEdit->text().left(lineEdit->selectionStart());
+    return !key.isEmpty() && before.endsWith(key);
+}
+
+} // namespace Zentor::PX::Scheduler::UI
