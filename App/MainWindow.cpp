@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -8,6 +9,7 @@
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QStyledItemDelegate>
 
 #include "Application/SettingsManager.h"
 #include "FilesPage.h"
@@ -20,7 +22,7 @@
 namespace Zentor::App {
 namespace {
 
-constexpr QSize firstSize(980, 700);
+constexpr QSize firstSize(1000, 700);
 constexpr QSize smallestSize(480, 320);
 constexpr int messageMilliseconds = 5000;
 
@@ -32,6 +34,15 @@ QString ScheduleId()
 QString FilesId()
 {
     return QStringLiteral("files");
+}
+
+/// A combo box draws the entries of its list past the style sheet unless it is given this delegate.
+void LetSheetDrawLists(const QWidget& parent)
+{
+    const auto boxes = parent.findChildren<QComboBox*>();
+    for (QComboBox* box : boxes) {
+        box->setItemDelegate(new QStyledItemDelegate(box));
+    }
 }
 
 } // namespace
@@ -116,6 +127,7 @@ Page* MainWindow::CreateSchedulePage()
     m_panel->SetPathSettings(std::make_shared<PX::StoredPathsSettings>(m_store));
     m_panel->SetSettingsWatcher(std::make_shared<PX::StoringSettingsWatcher>(m_store));
     m_panel->RestoreSettings();
+    LetSheetDrawLists(*m_panel);
     return new Page(ScheduleId(), m_panel, m_pages);
 }
 

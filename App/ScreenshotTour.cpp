@@ -53,6 +53,20 @@ void MoveTo(const QWidget& widget, QPoint point)
     PostMouse(widget, QEvent::MouseMove, point, Qt::NoButton);
 }
 
+/// A widget whose click opens a box is not told on every platform that the mouse has left it since.
+void ClearHover()
+{
+    const auto widgets = QApplication::allWidgets();
+    for (QWidget* widget : widgets) {
+        if (widget->underMouse()) {
+            QEvent leave(QEvent::Leave);
+            QCoreApplication::sendEvent(widget, &leave);
+            widget->setAttribute(Qt::WA_UnderMouse, false);
+            widget->update();
+        }
+    }
+}
+
 /// Posted, not sent: a click that opens a box returns only when the box is closed.
 void ClickAt(const QWidget& widget, QPoint point)
 {
@@ -117,6 +131,7 @@ void ScreenshotTour::PointAway()
 {
     AddStep(QStringLiteral("the mouse away"), [this] {
         MoveTo(m_window, m_window.rect().bottomRight());
+        ClearHover();
         return true;
     });
 }
@@ -185,8 +200,9 @@ void ScreenshotTour::Type(const QString& text)
 void ScreenshotTour::Picture(const QString& name)
 {
     const QString fileName = m_folder.filePath(name + QStringLiteral(".png"));
-    // What the step before has caused is on screen only after a turn of the event loop.
-    AddStep(fileName, [] { return true; });
+    // What the step before has caused is on screen only after a turn of the event loop, and the
+    // focus only in the active window.
+    AddStep(fileName, [this] { return KeyboardWindow() != nullptr; });
     AddStep(fileName, [this, fileName] { return WritePicture(fileName); });
 }
 

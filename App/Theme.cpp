@@ -123,6 +123,7 @@ QPalette PaletteOf(Theme theme)
     palette.setColor(QPalette::HighlightedText, color("onAccent"));
     palette.setColor(QPalette::ToolTipBase, color("tip"));
     palette.setColor(QPalette::ToolTipText, color("onTip"));
+    palette.setColor(QPalette::Mid, color("border"));
     palette.setColor(QPalette::Link, color("accentText"));
     palette.setColor(QPalette::LinkVisited, color("accentText"));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {

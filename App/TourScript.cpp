@@ -101,8 +101,8 @@ void LimitCapture(ScreenshotTour& tour)
     tour.PointAway();
     tour.Picture(QStringLiteral("06-limited-capture"));
 
-    tour.Click(duration);
-    tour.Press(Qt::Key_Home);
+    // From the mode button into the field, with its first section selected.
+    tour.Press(Qt::Key_Tab);
     tour.Type(QStringLiteral("013000"));
     tour.PointAway();
     tour.Picture(QStringLiteral("07-limited-capture-duration"));
