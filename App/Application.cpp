@@ -82,10 +82,13 @@ int RunTour(MainWindow& window, const QString& folder)
     QString problem;
     ScreenshotTour tour(window, folder);
     WriteTourScript(tour);
-    QObject::connect(&tour, &ScreenshotTour::Finished, &window, [&](const QString& reason) {
-        problem = reason;
-        QCoreApplication::exit(reason.isEmpty() ? 0 : failed);
-    }, Qt::QueuedConnection);
+    QObject::connect(
+        &tour, &ScreenshotTour::Finished, &window,
+        [&](const QString& reason) {
+            problem = reason;
+            QCoreApplication::exit(reason.isEmpty() ? 0 : failed);
+        },
+        Qt::QueuedConnection);
     tour.Start();
     const int result = QApplication::exec();
     if (!problem.isEmpty()) {
@@ -116,8 +119,8 @@ int RunOn(const QString& file, const CommandLine& line)
 /// Runs the tour on a copy: it deletes tasks, which it must not do to the user's own.
 int RunOnCopy(const CommandLine& line)
 {
-    const QString original = line.settingsFile.isEmpty() ? QStringLiteral(":/samples/settings.json")
-                                                         : line.settingsFile;
+    const QString original =
+        line.settingsFile.isEmpty() ? QStringLiteral(":/samples/settings.json") : line.settingsFile;
     const QTemporaryDir folder;
     const QString copy = folder.filePath(QStringLiteral("settings.json"));
     QFile source(original);

@@ -18,11 +18,11 @@ struct Options {
         QStringLiteral("settings"),
         Tr("Keep the settings in <file> instead of the platform's configuration folder."),
         Tr("file")};
-    QCommandLineOption language{
-        QStringLiteral("language"),
-        Tr("Speak <language> in this run, for example de or pt_BR."), Tr("language")};
-    QCommandLineOption theme{QStringLiteral("theme"), Tr("Use the theme light or dark in this run."),
-                             Tr("theme")};
+    QCommandLineOption language{QStringLiteral("language"),
+                                Tr("Speak <language> in this run, for example de or pt_BR."),
+                                Tr("language")};
+    QCommandLineOption theme{QStringLiteral("theme"),
+                             Tr("Use the theme light or dark in this run."), Tr("theme")};
     QCommandLineOption screenshots{
         QStringLiteral("screenshots"),
         Tr("Walk through the window on a copy of the settings (of a sample without --settings), "

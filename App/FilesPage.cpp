@@ -94,8 +94,8 @@ void FilesPage::Retranslate()
 
 void FilesPage::Browse()
 {
-    const QString chosen = QFileDialog::getExistingDirectory(
-        this, tr("Folder for recordings"), m_store->Settings().resultsFolderPath);
+    const QString chosen = QFileDialog::getExistingDirectory(this, tr("Folder for recordings"),
+                                                             m_store->Settings().resultsFolderPath);
     if (!chosen.isEmpty()) {
         m_folderEdit->setText(QDir::toNativeSeparators(chosen));
         Apply();

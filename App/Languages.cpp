@@ -9,10 +9,11 @@ namespace Zentor::App {
 
 QStringList LanguageCodes()
 {
-    return {QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("fr"), QStringLiteral("es"),
-            QStringLiteral("it"), QStringLiteral("pt_BR"), QStringLiteral("pl"),
-            QStringLiteral("ru"), QStringLiteral("tr"), QStringLiteral("ja"), QStringLiteral("ko"),
-            QStringLiteral("zh_CN"), QStringLiteral("ar"), QStringLiteral("he")};
+    return {QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("fr"),
+            QStringLiteral("es"), QStringLiteral("it"), QStringLiteral("pt_BR"),
+            QStringLiteral("pl"), QStringLiteral("ru"), QStringLiteral("tr"),
+            QStringLiteral("ja"), QStringLiteral("ko"), QStringLiteral("zh_CN"),
+            QStringLiteral("ar"), QStringLiteral("he")};
 }
 
 bool IsLanguage(const QString& code)

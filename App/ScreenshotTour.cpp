@@ -16,7 +16,6 @@ namespace Zentor::App {
 namespace {
 
 constexpr int stepMilliseconds = 20;
-constexpr int patienceMilliseconds = 10000;
 
 QWidget* FindShown(const QString& objectName)
 {
@@ -109,6 +108,11 @@ ScreenshotTour::~ScreenshotTour() = default;
 void ScreenshotTour::AddStep(const QString& what, std::function<bool()> take)
 {
     m_steps.push_back({what, std::move(take)});
+}
+
+void ScreenshotTour::SetPatience(std::chrono::milliseconds patience)
+{
+    m_patience = patience;
 }
 
 void ScreenshotTour::WaitFor(const QString& state, std::function<bool()> isReached)
@@ -233,7 +237,7 @@ void ScreenshotTour::TakeNextStep()
         m_waiting.restart();
     } else if (!m_problem.isEmpty()) {
         End(m_problem);
-    } else if (m_waiting.hasExpired(patienceMilliseconds)) {
+    } else if (m_waiting.hasExpired(m_patience.count())) {
         End(tr("cannot reach: %1").arg(m_steps.front().what));
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <deque>
 #include <functional>
 
@@ -18,7 +19,8 @@ namespace Zentor::App {
 ///
 /// First the steps are written down; nothing happens then. Start() runs them one after another from
 /// the event loop, so that they go on while a message box or a popup is open. Each step waits until
-/// it can be taken; one that cannot within ten seconds ends the tour with a message that names it.
+/// it can be taken; one that cannot in the time of SetPatience() ends the tour with a message that
+/// names it.
 class ScreenshotTour : public QObject {
     Q_OBJECT
 
@@ -27,6 +29,9 @@ public:
     /// on it. They are written into \a folder, which is created when it is missing.
     ScreenshotTour(QWidget& window, const QString& folder);
     ~ScreenshotTour() override;
+
+    /// How long to wait for a step; ten seconds at first.
+    void SetPatience(std::chrono::milliseconds patience);
 
     /// Waits until \a isReached. \a state names what is waited for, in the message of a failure.
     void WaitFor(const QString& state, std::function<bool()> isReached);
@@ -76,6 +81,7 @@ private:
     std::deque<Step> m_steps;
     QTimer m_timer;
     QElapsedTimer m_waiting;
+    std::chrono::milliseconds m_patience{std::chrono::seconds(10)};
     QString m_problem;
 };
 

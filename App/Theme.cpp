@@ -50,8 +50,7 @@ Theme ThemeFromName(const QString& name, Theme otherwise)
 
 ColorTable ParseColors(const QString& text, QStringList* problems)
 {
-    static const QRegularExpression entry(
-        QStringLiteral("^([A-Za-z]+): (#[0-9a-f]{6})$"));
+    static const QRegularExpression entry(QStringLiteral("^([A-Za-z]+): (#[0-9a-f]{6})$"));
     ColorTable colors;
     const auto lines = text.split(QLatin1Char('\n'));
     for (const QString& line : lines) {
@@ -71,8 +70,8 @@ ColorTable ParseColors(const QString& text, QStringList* problems)
 ColorTable ColorsOf(Theme theme)
 {
     QStringList problems;
-    return ParseColors(
-        ReadResource(QStringLiteral(":/styles/%1.colors").arg(ThemeName(theme))), &problems);
+    return ParseColors(ReadResource(QStringLiteral(":/styles/%1.colors").arg(ThemeName(theme))),
+                       &problems);
 }
 
 FilledSheet FillSheet(const QString& sheetTemplate, const ColorTable& colors)
@@ -145,8 +144,8 @@ void ApplyTheme(Theme theme)
 
 QIcon ThemedIcon(const QString& name)
 {
-    return QIcon(QStringLiteral(":/icons/%1/%2.svg")
-                     .arg(ThemeName(ThemeOf(QApplication::palette())), name));
+    return QIcon(
+        QStringLiteral(":/icons/%1/%2.svg").arg(ThemeName(ThemeOf(QApplication::palette())), name));
 }
 
 } // namespace Zentor::App

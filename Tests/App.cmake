@@ -1,1 +1,20 @@
+if(NOT TARGET px-scheduler)
+    return()
+endif()
 
+# The tests that run the program itself find it by this name.
+function(scheduler_test_runs_program name)
+    target_compile_definitions(${name} PRIVATE PX_PROGRAM="$<TARGET_FILE:px-scheduler>")
+    add_dependencies(${name} px-scheduler)
+endfunction()
+
+scheduler_add_test(tst_CommandLine LIBRARIES px-scheduler-app)
+scheduler_test_runs_program(tst_CommandLine)
+scheduler_add_test(tst_FilesPage LIBRARIES px-scheduler-app)
+scheduler_add_test(tst_Languages LIBRARIES px-scheduler-app)
+scheduler_add_test(tst_MainWindow LIBRARIES px-scheduler-app)
+scheduler_add_test(tst_SampleSettings LIBRARIES px-scheduler-app)
+scheduler_add_test(tst_ScreenshotTour LIBRARIES px-scheduler-app)
+scheduler_test_runs_program(tst_ScreenshotTour)
+scheduler_add_test(tst_Theme LIBRARIES px-scheduler-app)
+target_compile_definitions(tst_Theme PRIVATE PX_ICON_TEMPLATES="${PROJECT_SOURCE_DIR}/App/Icons")

@@ -1,0 +1,425 @@
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTimeEdit>
+
+#include "Application.h"
+#include "Application/LookAndFeelManager.h"
+#include "Boxes.h"
+#include "MainWindow.h"
+#include "PXUserSettings/SettingsStore.h"
+#include "RecordSchedulerWidget.h"
+#include "Samples.h"
+#include "Theme.h"
+#include "WidgetTest.h"
+
+namespace Zentor::Tests {
+namespace {
+
+using namespace std::chrono_literals;
+using Panel = PX::Scheduler::UI::RecordSchedulerWidget;
+
+std::vector<PX::RecordTime> Tasks(int count)
+{
+    std::vector<PX::RecordTime> tasks;
+    for (int index = 0; index < count; ++index) {
+        tasks.push_back(Record(QStringLiteral("Task %1").arg(index),
+                               At("10:00") + std::chrono::hours(index), 30min));
+    }
+    return tasks;
+}
+
+/// How many pixels of \a picture stand out from \a ground.
+int InkOn(const QImage& picture, const QColor& ground)
+{
+    constexpr int clearlyOther = 60;
+    int ink = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const int difference = picture.pixelColor(x, y).lightness() - ground.lightness();
+            ink += std::abs(difference) > clearlyOther ? 1 : 0;
+        }
+    }
+    return ink;
+}
+
+/// Whether the Tab key stops at \a widget itself, not at one that has taken it in.
+bool IsStopOfTab(const QWidget& widget)
+{
+    return widget.isVisible() && (widget.focusPolicy() & Qt::TabFocus) == Qt::TabFocus
+        && widget.focusProxy() == nullptr
+        && qobject_cast<const QAbstractSpinBox*>(widget.parentWidget()) == nullptr;
+}
+
+} // namespace
+
+class tst_MainWindow : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        App::RegisterResources();
+        App::ApplyTheme(App::Theme::Light);
+    }
+
+    void init()
+    {
+        WidgetTest::init();
+        m_folder = std::make_unique<QTemporaryDir>();
+    }
+
+    void cleanup()
+    {
+        Close();
+        m_folder.reset();
+        WidgetTest::cleanup();
+    }
+
+    void opensOnTheSchedule()
+    {
+        Open();
+        QCOMPARE(PageList()->currentRow(), 0);
+        QVERIFY(Find<Panel>("recordSchedulerWidget")->isVisible());
+        QVERIFY(Button("disableScheduledCaptureRadioButton")->isChecked());
+    }
+
+    void putsEveryRowOnScreen()
+    {
+        Open(Tasks(5));
+        const QImage picture = m_window->grab().toImage();
+        const QColor ground(App::ColorsOf(App::Theme::Light).value(QStringLiteral("surface")));
+        const auto rows = m_window->findChildren<QWidget*>(QStringLiteral("infoRecordFrame"));
+        QCOMPARE(rows.size(), 5);
+        for (const QWidget* row : rows) {
+            for (const char* name :
+                 {"titleLabel", "dateLabel", "timeLabel", "durationLabel", "deleteToolButton"}) {
+                const auto* child = row->findChild<QWidget*>(QLatin1String(name));
+                QCOMPARE(child->visibleRegion(), QRegion(child->rect()));
+                const QRect place(child->mapTo(m_window.get(), QPoint(0, 0)), child->size());
+                QVERIFY2(InkOn(picture.copy(place), ground) > 20, name);
+            }
+        }
+    }
+
+    void givesTheTableItsHeight_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::addColumn<int>("height");
+        QTest::newRow("empty") << 0 << 78;
+        QTest::newRow("one") << 1 << 78;
+        QTest::newRow("two") << 2 << 118;
+        QTest::newRow("all shown") << 5 << 238;
+        QTest::newRow("one more") << 6 << 258;
+        QTest::newRow("many") << 20 << 258;
+    }
+
+    void givesTheTableItsHeight()
+    {
+        QFETCH(int, count);
+        QFETCH(int, height);
+        Open(Tasks(count));
+        Click("scheduledCaptureRadioButton");
+        QCOMPARE(Find<QWidget>("scheduledCaptureSettingsRecordTableWidget")->size(),
+                 QSize(710, height));
+
+        // The numbers that the height is made of are the heights of what is shown.
+        QCOMPARE(Find<QWidget>("headerFrame")->height(), 36);
+        const char* row = count == 0 ? "stubInfoRecordFrame" : "infoRecordFrame";
+        QCOMPARE(Find<QWidget>(row)->height(), 40);
+        const auto* scrollArea = Find<QScrollArea>("recordTableScrollArea");
+        QCOMPARE(scrollArea->verticalScrollBar()->isVisible(), count > 5);
+        QVERIFY(!scrollArea->horizontalScrollBar()->isVisible());
+    }
+
+    void alignsTheColumns()
+    {
+        Open(Tasks(6));
+        const std::pair<const char*, const char*> columns[] = {
+            {"headerTitleLabel", "titleLabel"},
+            {"headerDateLabel", "dateLabel"},
+            {"headerTimeLabel", "timeLabel"},
+            {"headerDurationLabel", "durationLabel"}};
+        for (const auto& [head, cell] : columns) {
+            const QPoint origin(0, 0);
+            QCOMPARE(Find<QWidget>(cell)->mapTo(m_window.get(), origin).x(),
+                     Find<QWidget>(head)->mapTo(m_window.get(), origin).x());
+            QCOMPARE(Find<QWidget>(cell)->width(), Find<QWidget>(head)->width());
+        }
+    }
+
+    void keepsCaptionsBesideTheirButtons()
+    {
+        Open();
+        const std::pair<const char*, const char*> captions[] = {
+            {"disableScheduledCaptureRadioButton", "disableScheduledCaptureLabel"},
+            {"limitedCaptureDurationRadioButton", "limitedCaptureDurationLabel"},
+            {"scheduledCaptureRadioButton", "scheduledCaptureLabel"}};
+        for (const auto& [button, caption] : captions) {
+            QCOMPARE(Find<QWidget>(button)->width(), 24);
+            QCOMPARE(Find<QWidget>(caption)->x(), Find<QWidget>(button)->geometry().right() + 1);
+        }
+    }
+
+    void findsEverythingAsItWasLeft()
+    {
+        Open(Tasks(3));
+        {
+            const ExpectedBox box(QMessageBox::Ok);
+            Click("deleteToolButton");
+            QVERIFY(box.Came());
+        }
+        PageList()->setCurrentRow(1);
+        Find<QLineEdit>("resultsFolderEdit")->setText(QDir::tempPath());
+        m_window->setGeometry(30, 40, 720, 560);
+        Close();
+
+        Reopen();
+        QCOMPARE(PageList()->currentRow(), 1);
+        QCOMPARE(Find<QLineEdit>("resultsFolderEdit")->text(), QDir::tempPath());
+        QCOMPARE(m_window->geometry(), QRect(30, 40, 720, 560));
+        PageList()->setCurrentRow(0);
+        QVERIFY(Button("scheduledCaptureRadioButton")->isChecked());
+        QCOMPARE(Titles(), (QStringList{QStringLiteral("Task 1"), QStringLiteral("Task 2")}));
+        {
+            const ExpectedBox box(QMessageBox::Ok);
+            Click("limitedCaptureDurationRadioButton");
+            QVERIFY(box.Came());
+        }
+        Find<QTimeEdit>("limitedCaptureDurationSettingsCaptureDuration")->setTime(QTime(1, 30));
+        Find<QComboBox>("limitedCaptureDurationSettingsActionOnFinishBox")->setCurrentIndex(2);
+        Close();
+
+        Reopen();
+        QCOMPARE(PageList()->currentRow(), 0);
+        QVERIFY(Button("limitedCaptureDurationRadioButton")->isChecked());
+        QCOMPARE(Find<QTimeEdit>("limitedCaptureDurationSettingsCaptureDuration")->time(),
+                 QTime(1, 30));
+        QCOMPARE(Find<QComboBox>("limitedCaptureDurationSettingsActionOnFinishBox")->currentIndex(),
+                 2);
+        QCOMPARE(Titles(), QStringList());
+    }
+
+    void showsFilesWhenThePanelAsksForThem()
+    {
+        Open();
+        Q_EMIT Find<Panel>("recordSchedulerWidget")->OpenFilesSettingsRequested();
+        QCOMPARE(PageList()->currentRow(), 1);
+        QVERIFY(Find<QLineEdit>("resultsFolderEdit")->isVisible());
+    }
+
+    void ignoresAPageThatItDoesNotHave()
+    {
+        Open();
+        m_window->ShowPage(QStringLiteral("elsewhere"));
+        QCOMPARE(PageList()->currentRow(), 0);
+    }
+
+    void changesPagesByKeyboard()
+    {
+        Open();
+        PageList()->setFocus();
+        QTest::keyClick(PageList(), Qt::Key_Down);
+        QVERIFY(Find<QLineEdit>("resultsFolderEdit")->isVisible());
+        QTest::keyClick(PageList(), Qt::Key_Up);
+        QVERIFY(!Find<QLineEdit>("resultsFolderEdit")->isVisible());
+    }
+
+    void keepsEverythingReachableWhenSmall()
+    {
+        Open(Tasks(6));
+        m_window->resize(640, 480);
+        QCOMPARE(m_window->size(), QSize(640, 480));
+        const auto* stack = Find<QStackedWidget>("pages");
+        auto* page = qobject_cast<QScrollArea*>(stack->currentWidget());
+        for (const char* name :
+             {"disableScheduledCaptureRadioButton", "scheduledCaptureSettingsAddRecordButton"}) {
+            auto* widget = Find<QWidget>(name);
+            page->ensureWidgetVisible(widget);
+            QCOMPARE(widget->visibleRegion(), QRegion(widget->rect()));
+        }
+        auto* deleteButton = Find<QWidget>("deleteToolButton");
+        page->ensureWidgetVisible(deleteButton);
+        QCOMPARE(deleteButton->visibleRegion(), QRegion(deleteButton->rect()));
+    }
+
+    void tellsWhenSavingFailsAndWhenItWorksAgain()
+    {
+        Open();
+        auto* label = Find<QLabel>("saveProblemLabel");
+        QVERIFY(!label->isVisible());
+        Q_EMIT m_store->SaveFailed(QStringLiteral("the <b>disk</b> is full"));
+        QVERIFY(label->isVisible());
+        QVERIFY(label->text().contains(QLatin1String("the <b>disk</b> is full")));
+        QCOMPARE(label->textFormat(), Qt::PlainText);
+        Q_EMIT m_store->Saved();
+        QVERIFY(!label->isVisible());
+    }
+
+    void asksBeforeItClosesOnUnsavedSettings()
+    {
+        Open();
+        QVERIFY(m_store->Flush());
+        // Nothing can be written where a folder stands in the way.
+        QVERIFY(QFile::remove(SettingsFile()));
+        QVERIFY(QDir(m_folder->path()).mkpath(SettingsFile() + QStringLiteral("/in the way")));
+        {
+            const ExpectedBox box(PressEscape);
+            QVERIFY(!m_window->close());
+            QVERIFY(box.Came());
+        }
+        QVERIFY(m_window->isVisible());
+        {
+            const ExpectedBox box(QMessageBox::Ok);
+            QVERIFY(m_window->close());
+            QVERIFY(box.Came());
+        }
+        QVERIFY(!m_window->isVisible());
+    }
+
+    void followsAChangeOfTheme()
+    {
+        Open(Tasks(2));
+        App::ApplyTheme(App::Theme::Dark);
+        const QColor ground(App::ColorsOf(App::Theme::Dark).value(QStringLiteral("window")));
+        const QImage picture = m_window->grab().toImage();
+        QCOMPARE(picture.pixelColor(picture.rect().bottomRight()), ground);
+        QCOMPARE(Find<QWidget>("scheduledCaptureSettingsRecordTableWidget")->width(), 710);
+        App::ApplyTheme(App::Theme::Light);
+    }
+
+    void showsFocusOnEveryControl_data()
+    {
+        QTest::addColumn<QString>("clicked");
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QString>("controls");
+        // Of a group of radio buttons, Tab stops at the checked one; the arrow keys lead to the
+        // rest.
+        QTest::newRow("schedule")
+            << QStringLiteral("scheduledCaptureRadioButton") << 0
+            << QStringLiteral("pageList scheduledCaptureRadioButton recordTableScrollArea "
+                              "deleteToolButton scheduledCaptureSettingsAddRecordButton");
+        QTest::newRow("limited capture")
+            << QStringLiteral("limitedCaptureDurationRadioButton") << 0
+            << QStringLiteral("pageList limitedCaptureDurationRadioButton "
+                              "limitedCaptureDurationSettingsCaptureDuration "
+                              "limitedCaptureDurationSettingsActionOnFinishBox");
+        QTest::newRow("files") << QStringLiteral("disableScheduledCaptureRadioButton") << 1
+                               << QStringLiteral("pageList resultsFolderEdit browseButton");
+    }
+
+    void showsFocusOnEveryControl()
+    {
+        QFETCH(QString, clicked);
+        QFETCH(int, page);
+        QFETCH(QString, controls);
+        const bool withTask = clicked == QLatin1String("scheduledCaptureRadioButton");
+        Open(Tasks(withTask ? 1 : 0));
+        Click(qPrintable(clicked));
+        PageList()->setCurrentRow(page);
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QStringList found;
+        const auto widgets = m_window->findChildren<QWidget*>();
+        for (QWidget* widget : widgets) {
+            if (!IsStopOfTab(*widget)) {
+                continue;
+            }
+            if (QWidget* before = QApplication::focusWidget()) {
+                before->clearFocus();
+            }
+            const QImage without = m_window->grab().toImage();
+            widget->setFocus(Qt::TabFocusReason);
+            QVERIFY2(widget->hasFocus(), qPrintable(widget->objectName()));
+            QVERIFY2(m_window->grab().toImage() != without, qPrintable(widget->objectName()));
+            found << widget->objectName();
+        }
+        QCOMPARE(found.join(QLatin1Char(' ')), controls);
+    }
+
+private:
+    QString SettingsFile() const { return m_folder->filePath(QStringLiteral("settings.json")); }
+
+    /// Opens a window on new settings that hold \a tasks, in the mode that goes with them.
+    void Open(const std::vector<PX::RecordTime>& tasks = {})
+    {
+        OpenStore();
+        m_store->Change([&](auto& settings) {
+            settings.schedule = tasks;
+            settings.scheduledCaptureEnabled = !tasks.empty();
+        });
+        ShowWindow();
+    }
+
+    /// Opens a window on the settings as they were left.
+    void Reopen()
+    {
+        OpenStore();
+        ShowWindow();
+    }
+
+    void OpenStore()
+    {
+        m_store = std::make_shared<PX::SettingsStore>(SettingsFile());
+        QString error;
+        QVERIFY2(m_store->Open(&error), qPrintable(error));
+    }
+
+    void ShowWindow()
+    {
+        m_window =
+            std::make_unique<App::MainWindow>(m_store, std::make_shared<App::LookAndFeelManager>());
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    }
+
+    void Close()
+    {
+        if (m_window != nullptr && m_window->isVisible()) {
+            m_window->close();
+        }
+        m_window.reset();
+        m_store.reset();
+    }
+
+    template <typename T> T* Find(const char* objectName) const
+    {
+        return m_window->findChild<T*>(QLatin1String(objectName));
+    }
+    QListWidget* PageList() const { return Find<QListWidget>("pageList"); }
+    QAbstractButton* Button(const char* name) const { return Find<QAbstractButton>(name); }
+    void Click(const char* name) const
+    {
+        QTest::mouseClick(Button(name), Qt::LeftButton);
+        // What is deleted later is gone now, and what moved has its new place.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::sendPostedEvents();
+    }
+    QStringList Titles() const
+    {
+        QStringList titles;
+        for (const auto& task : m_store->Settings().schedule) {
+            titles << task.title;
+        }
+        return titles;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::shared_ptr<PX::SettingsStore> m_store;
+    std::unique_ptr<App::MainWindow> m_window;
+};
+
+} // namespace Zentor::Tests
+
+SCHEDULER_TEST_MAIN(Zentor::Tests::tst_MainWindow)
+
+#include "tst_MainWindow.moc"
