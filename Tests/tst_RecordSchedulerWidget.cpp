@@ -1,33 +1,20 @@
 #include <QAccessible>
 #include <QButtonGroup>
-#include <QComboBox>
 #include <QGridLayout>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QScrollArea>
-#include <QStackedWidget>
-#include <QTimeEdit>
 #include <QToolButton>
 #include <QTranslator>
 
 #include "Boxes.h"
-#include "HostInterfaces.h"
-#include "RecordSchedulerWidget.h"
-#include "Samples.h"
-#include "ScheduleRecordTableWidget.h"
-#include "StandIns.h"
+#include "Panel.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {
 namespace {
 
-using PX::Scheduler::UI::RecordSchedulerWidget;
-using PX::Scheduler::UI::ScheduleRecordTableWidget;
 using std::chrono::hours;
 using std::chrono::microseconds;
 using std::chrono::milliseconds;
-using std::chrono::seconds;
 
 /// Puts "tr:" before every text of the panel; clock readings get another format.
 class MarkingTranslator final : public QTranslator {
@@ -43,105 +30,6 @@ public:
     }
 
     bool isEmpty() const override { return false; }
-};
-
-/// The panel in a window of its own with settings and a watcher, and short ways to its parts.
-struct Panel {
-    Panel()
-        : window(std::make_unique<QWidget>())
-        , widget(new RecordSchedulerWidget(lookAndFeel, settingsManager, window.get()))
-    {
-        widget->SetSchedulerSettings(settings);
-        widget->SetCaptureFinishActionSettings(finishAction);
-        widget->SetPathSettings(paths);
-        widget->SetSettingsWatcher(watcher);
-    }
-
-    template <typename Widget> Widget* Find(const char* name) const
-    {
-        return widget->findChild<Widget*>(QString::fromLatin1(name));
-    }
-
-    QRadioButton* None() const { return Find<QRadioButton>("disableScheduledCaptureRadioButton"); }
-    QRadioButton* Limited() const
-    {
-        return Find<QRadioButton>("limitedCaptureDurationRadioButton");
-    }
-    QRadioButton* Scheduled() const { return Find<QRadioButton>("scheduledCaptureRadioButton"); }
-    QWidget* LimitedValues() const { return Find<QWidget>("limitedCaptureDurationSettingsFrame"); }
-    QStackedWidget* Stack() const { return Find<QStackedWidget>("scheduledCaptureStackedWidget"); }
-    QTimeEdit* Duration() const
-    {
-        return Find<QTimeEdit>("limitedCaptureDurationSettingsCaptureDuration");
-    }
-    QComboBox* FinishAction() const
-    {
-        return Find<QComboBox>("limitedCaptureDurationSettingsActionOnFinishBox");
-    }
-    ScheduleRecordTableWidget* Table() const
-    {
-        return widget->findChild<ScheduleRecordTableWidget*>();
-    }
-
-    QString Titles() const
-    {
-        QStringList titles;
-        for (const auto& record : Table()->GetPreparedSchedule()) {
-            titles << record.title;
-        }
-        return titles.join(QLatin1Char(','));
-    }
-
-    /// Which mode buttons are checked and what is visible, as in "limited+values".
-    QString Mode() const
-    {
-        QStringList parts;
-        const auto add = [&](bool condition, const char* name) {
-            if (condition) {
-                parts << QString::fromLatin1(name);
-            }
-        };
-        add(None()->isChecked(), "none");
-        add(Limited()->isChecked(), "limited");
-        add(Scheduled()->isChecked(), "scheduled");
-        add(!LimitedValues()->isHidden(), "values");
-        add(!Stack()->isHidden(), "stack");
-        return parts.join(QLatin1Char('+'));
-    }
-
-    /// The styles of the limited and the scheduled row, as in "Active/Inactive"; "-" for none.
-    QString Styles() const
-    {
-        const auto style = [&](const char* name) {
-            const auto value = Find<QWidget>(name)->property("SubStyle");
-            return value.isValid() ? value.toString() : QStringLiteral("-");
-        };
-        return style("limitedCaptureDurationRadioButtonFrame") + '/'
-            + style("scheduledCaptureRadioButtonFrame");
-    }
-
-    /// Restores \a titles as one task an hour in the scheduled mode, and forgets the calls.
-    void RestoreScheduled(const QStringList& titles)
-    {
-        settings->scheduled = true;
-        for (int i = 0; i < titles.size(); ++i) {
-            settings->schedule.push_back(
-                Record(titles.at(i), At("10:00") + hours(i), std::chrono::minutes(1)));
-        }
-        widget->RestoreSettings();
-        watcher->TakeCalls();
-    }
-
-    std::shared_ptr<FakeLookAndFeelManager> lookAndFeel =
-        std::make_shared<FakeLookAndFeelManager>();
-    std::shared_ptr<FakeSettingsManager> settingsManager = std::make_shared<FakeSettingsManager>();
-    std::shared_ptr<FakeSchedulerSettings> settings = std::make_shared<FakeSchedulerSettings>();
-    std::shared_ptr<FakeFinishActionSettings> finishAction =
-        std::make_shared<FakeFinishActionSettings>();
-    std::shared_ptr<FakePathsSettings> paths = std::make_shared<FakePathsSettings>();
-    std::shared_ptr<RecordingWatcher> watcher = std::make_shared<RecordingWatcher>();
-    std::unique_ptr<QWidget> window;
-    RecordSchedulerWidget* widget;
 };
 
 /// One cell of a layout, as "name row,column aligned".
@@ -194,12 +82,23 @@ private Q_SLOTS:
                  QByteArray("OpenFilesSettingsRequested()"));
     }
 
-    void refusesToBeBuiltWithoutSettingsManager()
+    void refusesToBeBuiltWithoutItsManagers_data()
     {
+        QTest::addColumn<bool>("hasLookAndFeel");
+        QTest::newRow("no look-and-feel manager") << false;
+        QTest::newRow("no settings manager") << true;
+    }
+
+    void refusesToBeBuiltWithoutItsManagers()
+    {
+        QFETCH(bool, hasLookAndFeel);
+        const auto lookAndFeel =
+            hasLookAndFeel ? std::make_shared<FakeLookAndFeelManager>() : nullptr;
+        const auto settingsManager =
+            hasLookAndFeel ? nullptr : std::make_shared<FakeSettingsManager>();
         QWidget window;
         try {
-            const RecordSchedulerWidget panel(std::make_shared<FakeLookAndFeelManager>(), nullptr,
-                                              &window);
+            const RecordSchedulerWidget panel(lookAndFeel, settingsManager, &window);
             QFAIL("no exception");
         } catch (const std::logic_error& error) {
             QCOMPARE(error.what(), "NotNull can not initialized by null");
@@ -251,6 +150,8 @@ private Q_SLOTS:
             "scheduledCaptureRecordTablePage");
         row("scheduledCaptureSettingsAddRecordButton", "QPushButton",
             "scheduledCaptureSettingsAddRecordButtonFrame");
+        row("createRecordTaskWidget", "Zentor::PX::Scheduler::UI::CreateRecordTaskWidget",
+            "scheduledCaptureStackedWidget");
     }
 
     void buildsItsTree()
@@ -312,6 +213,8 @@ private Q_SLOTS:
         const Panel panel;
         QCOMPARE(panel.Stack()->widget(0)->objectName(),
                  QString("scheduledCaptureRecordTablePage"));
+        QCOMPARE(panel.Stack()->widget(1), panel.Form());
+        QCOMPARE(panel.Stack()->count(), 2);
         const auto* group = panel.Find<QButtonGroup>("timerTypeRadioButtonGroup");
         QVERIFY(group->exclusive());
         QCOMPARE(group->buttons(),
@@ -787,27 +690,24 @@ private Q_SLOTS:
     void returnsToTheTableWhenShown()
     {
         const Panel panel;
-        auto* otherPage = new QWidget;
-        panel.Stack()->addWidget(otherPage);
         panel.window->show();
-        panel.Stack()->setCurrentWidget(otherPage);
+        panel.Stack()->setCurrentWidget(panel.Form());
         panel.window->hide();
-        QCOMPARE(panel.Stack()->currentWidget(), otherPage);
+        QVERIFY(panel.IsFormOpen());
         panel.window->show();
+        QVERIFY(!panel.IsFormOpen());
         QCOMPARE(panel.Stack()->currentIndex(), 0);
     }
 
     void keepsItsPageWhenTheWindowIsRestored()
     {
         const Panel panel;
-        auto* otherPage = new QWidget;
-        panel.Stack()->addWidget(otherPage);
         panel.window->show();
-        panel.Stack()->setCurrentWidget(otherPage);
+        panel.Stack()->setCurrentWidget(panel.Form());
         QShowEvent restored;
         QSpontaneKeyEvent::setSpontaneous(&restored);
         qApp->notify(panel.widget, &restored);
-        QCOMPARE(panel.Stack()->currentWidget(), otherPage);
+        QVERIFY(panel.IsFormOpen());
     }
 
     void namesItsControlsForScreenReaders_data()

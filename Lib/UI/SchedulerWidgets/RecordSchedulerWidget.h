@@ -7,7 +7,6 @@
 
 namespace Zentor::PX::Scheduler::UI {
 
-class ModalQuestion;
 struct RecordSchedulerWidgetUi;
 
 /// The panel on which the user decides how recording is timed: not at all, stop after a duration
@@ -48,8 +47,18 @@ public:
     /// passed over.
     void RestoreSettings();
 
+    /// Whether a capture may start; the host calls this before it starts one.
+    ///
+    /// Outside the scheduled mode the answer is yes at once. In it, a task that is still in the
+    /// form is settled with the user first. Then the volume of the results folder, of which the
+    /// paths settings must have been set, must have more than 1,000,000,000 bytes free: otherwise
+    /// one warning is logged and the user is told. Runs modal boxes; when the panel is destroyed
+    /// meanwhile, the answer is no.
+    bool ValidateSettings();
+
 Q_SIGNALS:
     /// The user wants to choose another place for the recordings: the host shows its file settings.
+    /// Sent from the alert about too little disk space, once, while the alert is closing.
     void OpenFilesSettingsRequested();
 
 protected:
@@ -58,21 +67,34 @@ protected:
 
 private:
     void ConnectControls();
+    void ConnectForm();
     void Retranslate();
 
     void OnLimitedModeToggled();
     void OnScheduledModeToggled();
     void OnLimitedDurationChanged();
     void OnScheduleChanged();
+    void OpenForm();
+    void ShowTable();
+
     QMessageBox::StandardButton AskToLeaveSchedule();
     void ReturnToScheduledMode();
+
+    void UpdateControlsState(ValidateError error);
+    ValidateError ValidateRecord() const;
+    void ScheduleNewRecord();
+    bool ProcessUnsavedRecord();
+    QMessageBox::StandardButton AskAboutUnsavedRecord();
+    void ShowDiskSpaceAlert();
 
     std::unique_ptr<RecordSchedulerWidgetUi> m_ui;
     std::shared_ptr<SchedulerSettings> m_schedulerSettings;
     std::shared_ptr<CaptureFinishActionSettings> m_captureFinishActionSettings;
     std::shared_ptr<PathsSettings> m_pathsSettings;
     std::shared_ptr<ISettingsWatcher> m_settingsWatcher;
-    std::unique_ptr<ModalQuestion> m_leaveScheduleQuestion;
+
+    struct Questions;
+    const std::unique_ptr<Questions> m_questions;
 };
 
 } // namespace Zentor::PX::Scheduler::UI

@@ -10,6 +10,7 @@
 #include <QTimeEdit>
 #include <QVBoxLayout>
 
+#include "CreateRecordTaskWidget.h"
 #include "HostInterfaces.h"
 #include "ScheduleRecordTableWidget.h"
 #include "WidgetTree.h"
@@ -28,13 +29,17 @@ void LayOutRow(QWidget* row, QWidget* button, QWidget* caption)
 } // namespace
 
 void RecordSchedulerWidgetUi::setupUi(QWidget* panel,
+                                      const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel,
                                       const std::shared_ptr<App::ISettingsManager>& settingsManager)
 {
     timerTypeRadioButtonGroup = new QButtonGroup(panel);
     timerTypeRadioButtonGroup->setObjectName(QStringLiteral("timerTypeRadioButtonGroup"));
     CreateDisabledMode(panel);
     CreateLimitedMode(panel);
-    CreateScheduledMode(panel, settingsManager);
+    CreateScheduledMode(panel);
+    CreateRecordTablePage(settingsManager);
+    createRecordTaskWidget = CreateChild<CreateRecordTaskWidget>(
+        scheduledCaptureStackedWidget, "createRecordTaskWidget", lookAndFeel);
     LayOut(panel);
     BindCaptions();
     retranslateUi();
@@ -72,8 +77,7 @@ void RecordSchedulerWidgetUi::CreateLimitedMode(QWidget* panel)
         CreateChild<QComboBox>(settings, "limitedCaptureDurationSettingsActionOnFinishBox");
 }
 
-void RecordSchedulerWidgetUi::CreateScheduledMode(
-    QWidget* panel, const std::shared_ptr<App::ISettingsManager>& settingsManager)
+void RecordSchedulerWidgetUi::CreateScheduledMode(QWidget* panel)
 {
     scheduledCaptureFrame = CreateChild<ZFrame>(panel, "scheduledCaptureFrame");
     scheduledCaptureRadioButtonFrame =
@@ -85,6 +89,11 @@ void RecordSchedulerWidgetUi::CreateScheduledMode(
 
     scheduledCaptureStackedWidget =
         CreateChild<QStackedWidget>(scheduledCaptureFrame, "scheduledCaptureStackedWidget");
+}
+
+void RecordSchedulerWidgetUi::CreateRecordTablePage(
+    const std::shared_ptr<App::ISettingsManager>& settingsManager)
+{
     scheduledCaptureRecordTablePage =
         CreateChild<ZFrame>(scheduledCaptureStackedWidget, "scheduledCaptureRecordTablePage");
     scheduledCaptureSettingsRecordTableWidget = CreateChild<ScheduleRecordTableWidget>(
@@ -133,6 +142,7 @@ void RecordSchedulerWidgetUi::LayOutScheduledMode()
     LayOutRow(scheduledCaptureRadioButtonFrame, scheduledCaptureRadioButton, scheduledCaptureLabel);
 
     scheduledCaptureStackedWidget->addWidget(scheduledCaptureRecordTablePage);
+    scheduledCaptureStackedWidget->addWidget(createRecordTaskWidget);
     LayOutRecordTablePage();
 }
 

@@ -15,12 +15,14 @@ namespace Zentor {
 class ZFrame;
 class ZLabel;
 namespace App {
+class ILookAndFeelManager;
 class ISettingsManager;
 } // namespace App
 } // namespace Zentor
 
 namespace Zentor::PX::Scheduler::UI {
 
+class CreateRecordTaskWidget;
 class ScheduleRecordTableWidget;
 
 /// The widgets of the panel, in creation order. All are owned by their Qt parents.
@@ -50,9 +52,12 @@ struct RecordSchedulerWidgetUi {
     ScheduleRecordTableWidget* scheduledCaptureSettingsRecordTableWidget = nullptr;
     ZFrame* scheduledCaptureSettingsAddRecordButtonFrame = nullptr;
     QPushButton* scheduledCaptureSettingsAddRecordButton = nullptr;
+    CreateRecordTaskWidget* createRecordTaskWidget = nullptr;
 
     /// Builds the widgets inside \a panel, and sets the texts.
-    void setupUi(QWidget* panel, const std::shared_ptr<App::ISettingsManager>& settingsManager);
+    /// \throws std::logic_error when one of the two managers is null.
+    void setupUi(QWidget* panel, const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel,
+                 const std::shared_ptr<App::ISettingsManager>& settingsManager);
 
     /// Sets every text in the current language.
     void retranslateUi();
@@ -60,8 +65,8 @@ struct RecordSchedulerWidgetUi {
 private:
     void CreateDisabledMode(QWidget* panel);
     void CreateLimitedMode(QWidget* panel);
-    void CreateScheduledMode(QWidget* panel,
-                             const std::shared_ptr<App::ISettingsManager>& settingsManager);
+    void CreateScheduledMode(QWidget* panel);
+    void CreateRecordTablePage(const std::shared_ptr<App::ISettingsManager>& settingsManager);
     void LayOut(QWidget* panel);
     void LayOutLimitedMode();
     void LayOutScheduledMode();
