@@ -596,7 +596,7 @@ private Q_SLOTS:
     void killedWhileSaving()
     {
         const Place place;
-        for (int round = 0; round < 30; ++round) {
+        for (int round = 0; round < 20; ++round) {
             OtherProcess other(saveMany, place.Path());
             int number = -1;
             // Every round is killed at another moment of another save.

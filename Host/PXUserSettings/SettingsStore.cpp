@@ -146,7 +146,7 @@ QString SettingsStore::Load()
     const QByteArray content = file.readAll();
     const SettingsDocument document = ParseSettings(content);
     if (!document.problems.isEmpty()) {
-        const QString failure = KeepDamaged(content, document.problems);
+        QString failure = KeepDamaged(content, document.problems);
         if (!failure.isEmpty()) {
             return failure;
         }
