@@ -5,6 +5,7 @@ scheduler_add_test(tst_DurationClamp LIBRARIES ${library})
 scheduler_add_test(tst_DefaultTaskName LIBRARIES ${library})
 scheduler_add_test(tst_ScheduleRecordTableWidget LIBRARIES ${library})
 scheduler_add_test(tst_ClockChanges LIBRARIES ${library} SOURCES Support/FakeClock.cpp)
+scheduler_add_test(tst_TimeEditTyping LIBRARIES ${library})
 scheduler_add_test(tst_CreateRecordTaskWidget LIBRARIES ${library})
 scheduler_add_test(tst_CreateRecordTaskWidgetTime LIBRARIES ${library}
     SOURCES Support/FakeClock.cpp)

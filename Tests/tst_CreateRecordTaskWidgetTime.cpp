@@ -450,6 +450,24 @@ private Q_SLOTS:
         QCOMPARE(form.Start()->text(), QStringLiteral("02:45:00"));
     }
 
+    /// Which of the two moments a typed reading stands for is up to the system.
+    void takesTheSecondMomentOfAReadingWhenTheFirstHasPassed()
+    {
+        const ZoneChange zone("Europe/Berlin");
+        const QDateTime first = QDateTime(QDate(2027, 10, 31), QTime(1, 45)).addSecs(3600);
+        QCOMPARE(first.time(), QTime(2, 45));
+        FakeClock clock(first.addSecs(-60));
+        const TaskForm form;
+        form.Start()->setDateTimeRange(first, first);
+        QCOMPARE(form.widget->GetStartDateTime(), first);
+        clock.Set(first.addSecs(45 * 60));
+        ChangeSpies spies(form.widget);
+        form.Tick();
+        QCOMPARE(form.widget->GetStartDateTime(), first.addSecs(3600));
+        QCOMPARE(form.Start()->text(), QStringLiteral("02:45:00"));
+        QCOMPARE(spies.Take(), QStringLiteral("0 0 0 0"));
+    }
+
     void takesTheNextReadingForOneThatIsSkipped()
     {
         const ZoneChange zone("Europe/Berlin");

@@ -14,7 +14,7 @@ namespace Zentor::PX::Scheduler::UI {
 ///
 /// From construction to destruction: cursor and selection are put back, which a new value sends to
 /// the start of the section, and so are digits of a section that is not complete yet. The value
-/// that was set stays; it is shown when the user leaves such a section incomplete.
+/// that was set stays until the user goes on typing or leaves the section.
 class TypingKeeper {
 public:
     explicit TypingKeeper(QDateTimeEdit& editor);

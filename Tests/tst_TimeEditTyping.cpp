@@ -1,0 +1,134 @@
+#include <QApplication>
+#include <QLineEdit>
+#include <QTimeEdit>
+
+#include "TimeEditTyping.h"
+#include "WidgetTest.h"
+
+namespace Zentor::Tests {
+namespace {
+
+using namespace PX::Scheduler::UI;
+
+/// An editor with the keyboard, in which the first section is selected.
+class Editor : public QDateTimeEdit {
+public:
+    explicit Editor(const QString& format)
+    {
+        setDisplayFormat(format);
+        setDateTime({QDate(2026, 11, 21), QTime(10, 20, 30)});
+        new SeparatorKeyFilter(this);
+        show();
+        QApplication::setActiveWindow(this);
+        setFocus();
+        setSelectedSection(sectionAt(0));
+    }
+
+    QLineEdit& LineEdit() const { return *lineEdit(); }
+};
+
+} // namespace
+
+class tst_TimeEditTyping : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void takesSeparators_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QString>("text");
+        const auto row = [](const char* format, const char* keys, const char* text) {
+            QTest::addRow("%s in %s", keys, format)
+                << QString(format) << QString(keys) << QString(text);
+        };
+        row("hh:mm:ss", "01:02:03", "01:02:03");
+        row("hh:mm:ss", "010203", "01:02:03");
+        row("hh:mm:ss", "1:2:03", "01:02:03");
+        row("hh:mm:ss", "7:8:9", "07:08:09");
+        row("hh:mm:ss", "01:0203", "01:02:03");
+        row("hh:mm:ss", "::45", "10:20:45");
+        row("hh:mm:ss", "01::45", "01:20:45");
+        row("hh:mm:ss", "01:02:03:", "01:02:03");
+        row("hh.mm.ss", "01.02.03", "01.02.03");
+        row("dd.MM.yyyy", "25.12.2027", "25.12.2027");
+        row("yyyy-MM-dd", "2027-12-25", "2027-12-25");
+        // Not the separator of this format: not taken, as ever.
+        row("hh:mm:ss", "01.02", "01:02:30");
+    }
+
+    void takesSeparators()
+    {
+        QFETCH(QString, format);
+        QFETCH(QString, keys);
+        Editor editor(format);
+        QVERIFY(QTest::qWaitForWindowActive(&editor));
+        QTest::keyClicks(&editor, keys);
+        QTEST(editor.text(), "text");
+    }
+
+    void keepsCursorAndSelection_data()
+    {
+        QTest::addColumn<int>("start");
+        QTest::addColumn<int>("length");
+        QTest::newRow("cursor") << 4 << 0;
+        QTest::newRow("forward") << 3 << 2;
+        QTest::newRow("backward") << 5 << -2;
+        QTest::newRow("all") << 0 << 8;
+    }
+
+    void keepsCursorAndSelection()
+    {
+        QFETCH(int, start);
+        QFETCH(int, length);
+        Editor editor("hh:mm:ss");
+        editor.LineEdit().setSelection(start, length);
+        const int cursor = editor.LineEdit().cursorPosition();
+        const QString selected = editor.LineEdit().selectedText();
+        {
+            const TypingKeeper keeper(editor);
+            editor.setTime(QTime(11, 21, 31));
+            editor.LineEdit().deselect();
+        }
+        QCOMPARE(editor.text(), QStringLiteral("11:21:31"));
+        QCOMPARE(editor.LineEdit().cursorPosition(), cursor);
+        QCOMPARE(editor.LineEdit().selectedText().size(), selected.size());
+        QVERIFY(!editor.LineEdit().signalsBlocked());
+    }
+
+    void keepsAnIncompleteSection()
+    {
+        Editor editor("hh:mm:ss");
+        QVERIFY(QTest::qWaitForWindowActive(&editor));
+        QTest::keyClicks(&editor, "1");
+        QCOMPARE(editor.text(), QStringLiteral("1:20:30"));
+        {
+            const TypingKeeper keeper(editor);
+            editor.setTime(QTime(5, 6, 7));
+        }
+        QCOMPARE(editor.text(), QStringLiteral("1:20:30"));
+        QCOMPARE(editor.time(), QTime(5, 6, 7));
+        QTest::keyClicks(&editor, "5");
+        QCOMPARE(editor.time(), QTime(15, 20, 30));
+    }
+
+    void countsAnIncompleteSectionThatIsLeft()
+    {
+        Editor editor("hh:mm:ss");
+        QVERIFY(QTest::qWaitForWindowActive(&editor));
+        QTest::keyClicks(&editor, "1");
+        {
+            const TypingKeeper keeper(editor);
+            editor.setTime(QTime(5, 6, 7));
+        }
+        editor.clearFocus();
+        QCOMPARE(editor.time(), QTime(1, 20, 30));
+        QCOMPARE(editor.text(), QStringLiteral("01:20:30"));
+    }
+};
+
+} // namespace Zentor::Tests
+
+SCHEDULER_TEST_MAIN(Zentor::Tests::tst_TimeEditTyping)
+
+#include "tst_TimeEditTyping.moc"
