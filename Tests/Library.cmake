@@ -9,5 +9,6 @@ scheduler_add_test(tst_TimeEditTyping LIBRARIES ${library})
 scheduler_add_test(tst_CreateRecordTaskWidget LIBRARIES ${library})
 scheduler_add_test(tst_CreateRecordTaskWidgetTime LIBRARIES ${library}
     SOURCES Support/FakeClock.cpp)
+scheduler_add_test(tst_CreateRecordTaskWidgetScreens LIBRARIES ${library} Qt5::GuiPrivate)
 scheduler_add_test(tst_RecordSchedulerWidget LIBRARIES ${library})
 scheduler_add_test(tst_RecordSchedulerWidgetScheduling LIBRARIES ${library})
