@@ -71,7 +71,7 @@ void ApplyAppearance(const CommandLine& line, const PX::UserSettings& settings,
     const QString language = BestLanguage(QStringList{line.language, settings.language}
                                           + QLocale::system().uiLanguages());
     translations.Use(language);
-    lookAndFeel.SetLanguage(language.toStdString());
+    lookAndFeel.SetLanguage(LocaleOf(language).name().toStdString());
 }
 
 int RunTour(MainWindow& window, const QString& folder)

@@ -2,7 +2,6 @@
 
 #include <QGuiApplication>
 #include <QLibraryInfo>
-#include <QLocale>
 #include <QTranslator>
 
 namespace Zentor::App {
@@ -19,6 +18,16 @@ QStringList LanguageCodes()
 bool IsLanguage(const QString& code)
 {
     return LanguageCodes().contains(code);
+}
+
+QLocale LocaleOf(const QString& code)
+{
+    if (code == QLatin1String("ar")) {
+        // In Qt's default region for Arabic, editors write Arabic-Indic digits; the list of tasks
+        // writes the same digits in every language, and the two stand side by side.
+        return {QLocale::Arabic, QLocale::Morocco};
+    }
+    return QLocale(code);
 }
 
 QString BestLanguage(const QStringList& wanted)
@@ -52,7 +61,7 @@ Translations::~Translations()
 void Translations::Use(const QString& code)
 {
     Remove();
-    const QLocale locale(code);
+    const QLocale locale = LocaleOf(code);
     QLocale::setDefault(locale);
     const QString ofQt = QStringLiteral("qtbase");
     const QString ofApplication = QStringLiteral("px-scheduler");

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include <QLocale>
 #include <QString>
 #include <QStringList>
 
@@ -15,6 +16,10 @@ QStringList LanguageCodes();
 
 /// Whether \a code is one of LanguageCodes().
 bool IsLanguage(const QString& code);
+
+/// The locale in which the application speaks \a code, one of LanguageCodes(). Its digits are 0 to
+/// 9 in every language.
+QLocale LocaleOf(const QString& code);
 
 /// The first of \a wanted (names such as "de-AT" or "pt_BR", best first) that is offered, or "en".
 /// A region that is not offered falls back on its language: "de-AT" gives "de".

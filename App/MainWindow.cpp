@@ -22,7 +22,7 @@
 namespace Zentor::App {
 namespace {
 
-constexpr QSize firstSize(1000, 700);
+constexpr QSize firstSize(1000, 760);
 constexpr QSize smallestSize(480, 320);
 constexpr int messageMilliseconds = 5000;
 

@@ -126,12 +126,27 @@ void ShowEmptySchedule(ScreenshotTour& tour)
     tour.Picture(QStringLiteral("09-empty-schedule"));
 }
 
+void ShowForm(ScreenshotTour& tour)
+{
+    const QString name = QStringLiteral("scheduledCaptureSettingsNameLineEdit");
+    tour.Click(QStringLiteral("scheduledCaptureSettingsAddRecordButton"));
+    WaitUntilShown(tour, name);
+    tour.PointAway();
+    tour.Picture(QStringLiteral("10-new-task"));
+
+    tour.Click(name);
+    tour.Press(Qt::Key_A, Qt::ControlModifier);
+    tour.Press(Qt::Key_Delete);
+    tour.PointAway();
+    tour.Picture(QStringLiteral("11-new-task-without-name"));
+}
+
 void ShowFiles(ScreenshotTour& tour)
 {
     tour.ClickEntry(QStringLiteral("pageList"), 1);
     WaitUntilShown(tour, QStringLiteral("resultsFolderEdit"));
     tour.PointAway();
-    tour.Picture(QStringLiteral("10-files"));
+    tour.Picture(QStringLiteral("12-files"));
 }
 
 } // namespace
@@ -142,6 +157,7 @@ void WriteTourScript(ScreenshotTour& tour)
     LeaveSchedule(tour);
     LimitCapture(tour);
     ShowEmptySchedule(tour);
+    ShowForm(tour);
     ShowFiles(tour);
 }
 

@@ -47,6 +47,15 @@ private Q_SLOTS:
         QCOMPARE(App::BestLanguage(wanted), expected);
     }
 
+    void writesTheSameDigitsInEveryLanguage()
+    {
+        const auto codes = App::LanguageCodes();
+        for (const QString& code : codes) {
+            QCOMPARE(App::LocaleOf(code).zeroDigit(), QLatin1Char('0'));
+            QCOMPARE(App::LocaleOf(code).language(), QLocale(code).language());
+        }
+    }
+
     void speaksQtsOwnTexts()
     {
         {

@@ -25,7 +25,9 @@ QStringList ExpectedPictures()
             QStringLiteral("07-limited-capture-duration.png"),
             QStringLiteral("08-limited-capture-actions.png"),
             QStringLiteral("09-empty-schedule.png"),
-            QStringLiteral("10-files.png")};
+            QStringLiteral("10-new-task.png"),
+            QStringLiteral("11-new-task-without-name.png"),
+            QStringLiteral("12-files.png")};
 }
 
 int RunProgram(const QStringList& arguments, QString* error = nullptr)
