@@ -14,6 +14,8 @@ struct Window : QWidget {
         label->setOriginalText(QStringLiteral("Caption"));
         label->setGeometry(0, 0, 80, 20);
         button->setGeometry(0, 30, 80, 20);
+        other->setGeometry(0, 60, 80, 20);
+        other->setFocus();
         Util::bindWidgets(label, button);
         show();
         activateWindow();
@@ -21,6 +23,7 @@ struct Window : QWidget {
 
     ZLabel* label = new ZLabel(this);
     QRadioButton* button = new QRadioButton(this);
+    QRadioButton* other = new QRadioButton(this);
 };
 
 } // namespace
@@ -33,6 +36,7 @@ private Q_SLOTS:
     {
         Window window;
         QVERIFY(QTest::qWaitForWindowActive(&window));
+        QVERIFY(window.other->hasFocus());
         const QSignalSpy clicked(window.button, &QAbstractButton::clicked);
         QTest::mouseClick(window.label, Qt::LeftButton);
         QCOMPARE(clicked.count(), 1);
@@ -56,6 +60,7 @@ private Q_SLOTS:
         QTest::mouseClick(window.label, Qt::LeftButton);
         QCOMPARE(clicked.count(), 0);
         QVERIFY(!window.button->isChecked());
+        QVERIFY(!window.button->hasFocus());
     }
 
     void doubleClickIsTwoClicks()

@@ -1,5 +1,4 @@
 #include <QAbstractButton>
-#include <QPointer>
 
 #include "AlertBoxBehaviour.h"
 #include "HostInterfaces.h"
@@ -42,9 +41,9 @@ QMessageBox::StandardButton AlertBox::Exec()
     const QObject duringExec;
     connect(this, &QMessageBox::buttonClicked, &duringExec,
             [&](QAbstractButton* clicked) { answer = standardButton(clicked); });
-    const QPointer<AlertBox> self(this);
     exec();
-    return self == nullptr ? Cancel : answer;
+    // The box may be gone.
+    return answer;
 }
 
 } // namespace Zentor::Util

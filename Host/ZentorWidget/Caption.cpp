@@ -49,7 +49,7 @@ bool CaptionClicks::eventFilter(QObject* watched, QEvent* event)
 
 void CaptionClicks::ClickButton()
 {
-    if (m_button == nullptr || !m_button->isEnabled()) {
+    if (m_button == nullptr) {
         return;
     }
     if ((m_button->focusPolicy() & Qt::ClickFocus) != 0) {
