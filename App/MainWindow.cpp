@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -178,7 +179,10 @@ void MainWindow::RememberPlace()
 
 void MainWindow::Retranslate()
 {
-    setWindowTitle(tr("Recording Scheduler"));
+    const QString name = tr("Recording Scheduler");
+    setWindowTitle(name);
+    // The desktop shows it on boxes that have no title of their own.
+    QGuiApplication::setApplicationDisplayName(name);
     m_pageList->setAccessibleName(tr("Settings pages"));
     RetranslatePage(0, tr("Schedule"), tr("Choose when a recording stops or starts by itself."));
     RetranslatePage(1, tr("Files"), tr("Choose where recordings are kept."));
