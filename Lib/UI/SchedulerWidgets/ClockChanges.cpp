@@ -4,7 +4,7 @@ namespace Zentor::PX::Scheduler::UI {
 
 QDateTime MomentOf(const QDate& date, const QTime& time)
 {
-    const QDateTime moment(date, time);
+    QDateTime moment(date, time);
     if (moment.isValid()) {
         return moment;
     }
@@ -16,7 +16,7 @@ QDateTime MomentOf(const QDate& date, const QTime& time)
 QDateTime RepeatOf(const QDateTime& moment)
 {
     // No clock is put back by more than three hours at once.
-    constexpr qint64 LongestChange = 3 * 60 * 60;
+    constexpr qint64 LongestChange = qint64{3} * 60 * 60;
     const int putBack = moment.offsetFromUtc() - moment.addSecs(LongestChange).offsetFromUtc();
     const QDateTime repeat = moment.addSecs(qMax(putBack, 0));
     return repeat.time() == moment.time() && repeat.date() == moment.date() ? repeat : moment;
