@@ -12,12 +12,14 @@ packages_to_run=(
     fonts-dejavu-core fonts-noto-core fonts-noto-cjk)
 
 # To test it, in addition: linters; Qt's private headers, for stand-ins of a screen; a display that
-# nobody sees, with what works a window on it; the accessibility bus.
+# nobody sees, with what works a window on it; the accessibility bus; what checks the files that the
+# application installs.
 packages_to_test=(
     clang-format-14 clang-tidy-14
     qtbase5-private-dev
     xvfb xauth xdotool openbox
-    dbus at-spi2-core)
+    dbus at-spi2-core
+    appstream desktop-file-utils man-db)
 
 missing_packages() {
     local package
