@@ -18,6 +18,7 @@ packages_to_test=(
     clang-format-14 clang-tidy-14
     qtbase5-private-dev
     xvfb xauth xdotool openbox
+    xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils
     dbus at-spi2-core
     appstream desktop-file-utils man-db)
 
