@@ -589,6 +589,8 @@ private Q_SLOTS:
         };
         QTest::newRow("two minutes at one hour")
             << QTime(1, 0) << "000200" << QTime(0, 2) << calls({5, 125, 120});
+        QTest::newRow("two minutes at one hour, with separators")
+            << QTime(1, 0) << "00:02:00" << QTime(0, 2) << calls({5, 125, 120});
         QTest::newRow("three seconds")
             << QTime(0, 0, 7) << "000003" << QTime(0, 0, 5) << calls({5});
         QTest::newRow("longest") << QTime(0, 0, 5) << "235959" << QTime(23, 59, 59)

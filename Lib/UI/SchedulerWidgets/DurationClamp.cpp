@@ -6,6 +6,7 @@
 #include "TimeEditTyping.h"
 
 namespace Zentor::PX::Scheduler::UI {
+
 void ClampDuration(QTimeEdit& editor)
 {
     if (editor.time() >= MinimumDuration) {

@@ -26,6 +26,7 @@
 #include "ModalQuestion.h"
 #include "RecordSchedulerWidgetUi.h"
 #include "ScheduleRecordTableWidget.h"
+#include "TimeEditTyping.h"
 
 namespace Zentor::PX::Scheduler::UI {
 namespace {
@@ -139,9 +140,10 @@ void RecordSchedulerWidget::ConnectControls()
     connect(m_ui->scheduledCaptureRadioButton, &QRadioButton::toggled, this,
             [this] { OnScheduledModeToggled(); });
 
-    m_ui->limitedCaptureDurationSettingsCaptureDuration->setTime(MinimumDuration);
-    connect(m_ui->limitedCaptureDurationSettingsCaptureDuration, &QTimeEdit::timeChanged, this,
-            [this] { OnLimitedDurationChanged(); });
+    auto* durationEdit = m_ui->limitedCaptureDurationSettingsCaptureDuration;
+    new SeparatorKeyFilter(durationEdit);
+    durationEdit->setTime(MinimumDuration);
+    connect(durationEdit, &QTimeEdit::timeChanged, this, [this] { OnLimitedDurationChanged(); });
     connect(m_ui->limitedCaptureDurationSettingsActionOnFinishBox,
             qOverload<int>(&QComboBox::currentIndexChanged), this, [this](int index) {
                 if (m_settingsWatcher) {
