@@ -37,6 +37,32 @@ QStringList ScreensOfTheApplication()
     return names;
 }
 
+bool SwitchOn(const QString& output, const QString& leftNeighbour)
+{
+    return XRandR({"--output", output, "--mode", "1024x768", "--right-of", leftNeighbour});
+}
+
+bool SwitchOff(const QString& output)
+{
+    return XRandR({"--output", output, "--off"});
+}
+
+/// Waits until the application has the screens \a names, in any order, and the form lists them.
+bool Shows(const TaskForm& form, const QStringList& names)
+{
+    return QTest::qWaitFor([&] {
+        return Sorted(ScreensOfTheApplication()) == names
+            && form.ScreenNames() == ScreensOfTheApplication()
+            && form.Screens()->isVisible() == (names.size() > 1);
+    });
+}
+
+bool Expose(const TaskForm& form)
+{
+    form.window->show();
+    return QTest::qWaitForWindowExposed(form.window.get());
+}
+
 } // namespace
 
 /// The screen list of the form while outputs of a real X server are switched on and off. Runs on a
@@ -55,54 +81,52 @@ private Q_SLOTS:
         }
     }
 
-    void followsTheOutputs()
+    void followsOutputsThatComeAndGo()
     {
         const TaskForm form;
-        form.window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(form.window.get()));
-        const auto shows = [&](const QStringList& names) {
-            return QTest::qWaitFor([&] {
-                return Sorted(ScreensOfTheApplication()) == names
-                    && form.ScreenNames() == ScreensOfTheApplication()
-                    && form.Screens()->isVisible() == (names.size() > 1);
-            });
-        };
-        const QStringList second{"--output", "DUMMY1",     "--mode",
-                                 "1024x768", "--right-of", "DUMMY0"};
-        const QStringList third{"--output", "DUMMY2", "--mode", "1024x768", "--right-of", "DUMMY1"};
-        QVERIFY(shows({"DUMMY0"}));
+        QVERIFY(Expose(form));
+        QVERIFY(Shows(form, {"DUMMY0"}));
         for (int cycle = 0; cycle < 10; ++cycle) {
-            QVERIFY(XRandR(second));
-            QVERIFY(shows({"DUMMY0", "DUMMY1"}));
+            QVERIFY(SwitchOn("DUMMY1", "DUMMY0"));
+            QVERIFY(Shows(form, {"DUMMY0", "DUMMY1"}));
             form.Screens()->setCurrentIndex(1);
-            QVERIFY(XRandR({"--output", "DUMMY1", "--off"}));
-            QVERIFY(shows({"DUMMY0"}));
+            QVERIFY(SwitchOff("DUMMY1"));
+            QVERIFY(Shows(form, {"DUMMY0"}));
         }
-        QVERIFY(XRandR(second));
-        QVERIFY(XRandR(third));
-        QVERIFY(shows({"DUMMY0", "DUMMY1", "DUMMY2"}));
+    }
+
+    void followsThePrimaryOutput()
+    {
+        const TaskForm form;
+        QVERIFY(Expose(form));
+        QVERIFY(SwitchOn("DUMMY1", "DUMMY0"));
+        QVERIFY(SwitchOn("DUMMY2", "DUMMY1"));
+        QVERIFY(Shows(form, {"DUMMY0", "DUMMY1", "DUMMY2"}));
         for (const char* primary : {"DUMMY1", "DUMMY2", "DUMMY0"}) {
             QVERIFY(XRandR({"--output", primary, "--primary"}));
             QTRY_COMPARE(form.ScreenNames().first(), QString(primary));
-            QVERIFY(shows({"DUMMY0", "DUMMY1", "DUMMY2"}));
+            QVERIFY(Shows(form, {"DUMMY0", "DUMMY1", "DUMMY2"}));
             form.widget->ResetForm("Task 01");
             QCOMPARE(form.Screens()->currentText(), QString(primary));
         }
-        QVERIFY(XRandR({"--output", "DUMMY0", "--off"}));
-        QVERIFY(shows({"DUMMY1", "DUMMY2"}));
+    }
+
+    void survivesTheLastOutput()
+    {
+        const TaskForm form;
+        QVERIFY(Expose(form));
+        QVERIFY(SwitchOff("DUMMY0"));
+        QVERIFY(Shows(form, {"DUMMY1", "DUMMY2"}));
         QVERIFY(XRandR({"--output", "DUMMY1", "--mode", "800x600"}));
-        QVERIFY(shows({"DUMMY1", "DUMMY2"}));
-        QVERIFY(XRandR({"--output", "DUMMY1", "--off"}));
-        QVERIFY(shows({"DUMMY2"}));
+        QVERIFY(Shows(form, {"DUMMY1", "DUMMY2"}));
+        QVERIFY(SwitchOff("DUMMY1"));
+        QVERIFY(Shows(form, {"DUMMY2"}));
 
         // The last screen stays, under the name of the display.
-        QVERIFY(XRandR({"--output", "DUMMY2", "--off"}));
-        QTRY_COMPARE(ScreensOfTheApplication(),
-                     QStringList(qEnvironmentVariable("DISPLAY") + ".0"));
-        QTRY_COMPARE(form.ScreenNames(), ScreensOfTheApplication());
-        QVERIFY(!form.Screens()->isVisible());
+        QVERIFY(SwitchOff("DUMMY2"));
+        QVERIFY(Shows(form, {qEnvironmentVariable("DISPLAY") + ".0"}));
         QVERIFY(XRandR({"--output", "DUMMY0", "--mode", "1024x768"}));
-        QVERIFY(shows({"DUMMY0"}));
+        QVERIFY(Shows(form, {"DUMMY0"}));
     }
 };
 
