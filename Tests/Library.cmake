@@ -9,6 +9,7 @@ scheduler_add_test(tst_TimeEditTyping LIBRARIES ${library})
 scheduler_add_test(tst_CreateRecordTaskWidget LIBRARIES ${library})
 scheduler_add_test(tst_CreateRecordTaskWidgetTime LIBRARIES ${library}
     SOURCES Support/FakeClock.cpp)
+scheduler_add_test(tst_CreateRecordTaskWidgetHostCalls LIBRARIES ${library})
 scheduler_add_test(tst_CreateRecordTaskWidgetScreens LIBRARIES ${library} Qt5::GuiPrivate)
 scheduler_add_test(tst_CreateRecordTaskWidgetOutputs LIBRARIES ${library} SERIAL
     LAUNCHER "${CMAKE_CURRENT_SOURCE_DIR}/on_real_x_server.sh")

@@ -327,6 +327,26 @@ private Q_SLOTS:
         QCOMPARE(Fault(form, Afternoon()), QString());
     }
 
+    void readsFromLeftToRightInEveryLanguage()
+    {
+        const FakeClock clock(Afternoon());
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        const auto restore =
+            qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+        const TaskForm form;
+        QVERIFY(form.Show());
+        QVERIFY(form.widget->isRightToLeft());
+        QVERIFY(form.Date()->calendarWidget()->isRightToLeft());
+        Type(form.Date(), QDateTimeEdit::DaySection, "25.12.2026");
+        Type(form.Start(), QDateTimeEdit::HourSection, "18:05:30");
+        Type(form.Duration(), QDateTimeEdit::HourSection, "000130");
+        QCOMPARE(form.Date()->text(), QStringLiteral("25.12.2026"));
+        QCOMPARE(form.Start()->text(), QStringLiteral("18:05:30"));
+        QCOMPARE(form.Duration()->text(), QStringLiteral("00:01:30"));
+        QCOMPARE(form.widget->GetStartDateTime(), QDateTime(QDate(2026, 12, 25), QTime(18, 5, 30)));
+        QCOMPARE(form.widget->GetDuration(), QTime(0, 1, 30));
+    }
+
     /// The start passes every ten seconds while it is left alone, also between two digits.
     void keepsTheDigitsOfAStartThatPasses()
     {

@@ -14,6 +14,7 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 
+#include "TimeEditTyping.h"
 #include "WidgetTree.h"
 
 namespace Zentor::PX::Scheduler::UI {
@@ -38,6 +39,9 @@ void CreateRecordTaskUi::setupUi(QWidget* form)
     });
     Zentor::Util::ApplyWidgetStyle(infoButton, QStringLiteral("QuestionButton"), "SubStyle");
     scheduledCaptureSettingsDate->setCalendarPopup(true);
+    PrepareForTyping(*scheduledCaptureSettingsDate);
+    PrepareForTyping(*scheduledCaptureSettingsStartTime);
+    PrepareForTyping(*scheduledCaptureSettingsDuration);
     retranslateUi();
 }
 

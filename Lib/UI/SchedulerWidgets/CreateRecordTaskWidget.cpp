@@ -121,10 +121,6 @@ void CreateRecordTaskWidget::LimitFields()
 
     m_ui->scheduledCaptureSettingsFullScreenAreaButton->setChecked(true);
     m_ui->scheduledCaptureSettingsScreenSelectBox->setEnabled(true);
-
-    new SeparatorKeyFilter(m_ui->scheduledCaptureSettingsDate);
-    new SeparatorKeyFilter(m_ui->scheduledCaptureSettingsStartTime);
-    new SeparatorKeyFilter(m_ui->scheduledCaptureSettingsDuration);
 }
 
 void CreateRecordTaskWidget::ConnectScreens()

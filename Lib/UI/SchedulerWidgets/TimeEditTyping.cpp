@@ -32,6 +32,12 @@ TypingKeeper::~TypingKeeper()
     }
 }
 
+void PrepareForTyping(QDateTimeEdit& editor)
+{
+    editor.setLayoutDirection(Qt::LeftToRight);
+    new SeparatorKeyFilter(&editor);
+}
+
 SeparatorKeyFilter::SeparatorKeyFilter(QDateTimeEdit* editor)
     : QObject(editor)
     , m_editor(editor)

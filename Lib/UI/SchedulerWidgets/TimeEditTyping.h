@@ -30,6 +30,13 @@ private:
     int m_selectionLength;
 };
 
+/// Makes \a editor comfortable to type in: the separators may be typed too, and the reading is
+/// written from left to right in every language. Takes effect with the next display format.
+///
+/// Where people write from right to left, Qt turns the sections round: the seconds would come first
+/// in a clock reading, and typing would go from the hours to the end of the field.
+void PrepareForTyping(QDateTimeEdit& editor);
+
 /// Lets the user type the separators too: 00:01:30 as well as 000130.
 ///
 /// The digit that fills a section makes the editor move on to the next one. A separator typed then
