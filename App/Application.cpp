@@ -27,6 +27,7 @@ static void InitializeResources()
 {
     Q_INIT_RESOURCE(px_scheduler);
     Q_INIT_RESOURCE(icons);
+    Q_INIT_RESOURCE(translations);
 }
 
 namespace Zentor::App {

@@ -3,11 +3,12 @@
 #   install_missing <package>...    installs those that are not installed yet; quick and silent when
 #                                   there are none
 
-# To build the application and run it: compiler and libraries; Qt's plugins for SVG icons and for
-# Wayland; Qt's own translations; fonts for what is written in the sample settings.
+# To build the application and run it: compiler and libraries; what compiles the translations; Qt's
+# plugins for SVG icons and for Wayland; Qt's own translations; fonts for every language.
 packages_to_run=(
     g++ cmake ninja-build
     qtbase5-dev libboost-dev libgoogle-glog-dev
+    qttools5-dev qttools5-dev-tools
     libqt5svg5 qtwayland5 qttranslations5-l10n
     fonts-dejavu-core fonts-noto-core fonts-noto-cjk)
 

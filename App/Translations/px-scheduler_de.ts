@@ -1,0 +1,339 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>CaptureControllerWrapper</name>
+    <message>
+        <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
+        <translation>Die Aufnahme konnte nicht gestartet werden, weil nicht genügend Speicherplatz frei ist. Geben Sie Speicherplatz frei und versuchen Sie es erneut, oder wählen Sie in den %1Dateieinstellungen%2 ein anderes Laufwerk für Ihre Aufnahmen.</translation>
+    </message>
+    <message>
+        <source>File Preferences</source>
+        <translation>Dateieinstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>CreateRecordTaskWidget</name>
+    <message>
+        <source>New record:</source>
+        <translation>Neue Aufnahme:</translation>
+    </message>
+    <message>
+        <source>Action on finish:</source>
+        <translation>Aktion nach Ende:</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Erstellen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Dateiname:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>dd.MM.yyyy</translation>
+    </message>
+    <message>
+        <source>Time:</source>
+        <translation>Uhrzeit:</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Dauer:</translation>
+    </message>
+    <message>
+        <source>Capture:</source>
+        <translation>Aufnehmen:</translation>
+    </message>
+    <message>
+        <source>Selected area</source>
+        <translation>Ausgewählter Bereich</translation>
+    </message>
+    <message>
+        <source>Selected area tooltip</source>
+        <translation>Den Bereich auf dem Bildschirm wählen Sie beim Start der Aufnahme aus.</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>Ganzer Bildschirm</translation>
+    </message>
+    <message>
+        <source>Need select task name</source>
+        <translation>Geben Sie einen Namen für die Aufgabe ein.</translation>
+    </message>
+    <message>
+        <source>Task with this title already exist</source>
+        <translation>Eine Aufgabe mit diesem Namen ist bereits vorhanden.</translation>
+    </message>
+    <message>
+        <source>Curent capture time intersect with other capture time in the list</source>
+        <translation>Die Zeit dieser Aufnahme überschneidet sich mit einer anderen Aufnahme in der Liste.</translation>
+    </message>
+</context>
+<context>
+    <name>PowerAction</name>
+    <message>
+        <source>Do nothing</source>
+        <translation>Nichts tun</translation>
+    </message>
+    <message>
+        <source>Quit the application</source>
+        <translation>Anwendung beenden</translation>
+    </message>
+    <message>
+        <source>Sleep</source>
+        <translation>Energie sparen</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>Ruhezustand</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Neu starten</translation>
+    </message>
+    <message>
+        <source>Shut down</source>
+        <translation>Herunterfahren</translation>
+    </message>
+</context>
+<context>
+    <name>RecordSchedulerWidget</name>
+    <message>
+        <source>All tasks will be permanently deleted from the recording schedule. Are you sure you want to continue?</source>
+        <translation>Alle Aufgaben werden endgültig aus dem Aufnahmezeitplan gelöscht. Möchten Sie wirklich fortfahren?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortfahren</translation>
+    </message>
+    <message>
+        <source>The task hasn&apos;t been saved. Would you like to add this task to the recording schedule?</source>
+        <translation>Die Aufgabe wurde noch nicht gespeichert. Möchten Sie sie dem Aufnahmezeitplan hinzufügen?</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Add</source>
+        <translation>Nicht hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Do not schedule capture</source>
+        <translation>Keine zeitliche Steuerung</translation>
+    </message>
+    <message>
+        <source>Stop capture after</source>
+        <translation>Aufnahme beenden nach</translation>
+    </message>
+    <message>
+        <source>Record on schedule</source>
+        <translation>Nach Zeitplan aufnehmen</translation>
+    </message>
+    <message>
+        <source>Add record event</source>
+        <translation>Aufnahme hinzufügen</translation>
+    </message>
+    <message>
+        <source>Capture duration in limited capture:</source>
+        <translation>Aufnahmedauer:</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>When capture ends:</source>
+        <translation>Nach der Aufnahme:</translation>
+    </message>
+</context>
+<context>
+    <name>ScheduleRecordTableWidget</name>
+    <message>
+        <source>Task </source>
+        <translation>Aufgabe </translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>dd.MM.yyyy</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>The task will be permanently deleted from the recording schedule. Are you sure you want to delete the task?</source>
+        <translation>Die Aufgabe wird endgültig aus dem Aufnahmezeitplan gelöscht. Möchten Sie die Aufgabe wirklich löschen?</translation>
+    </message>
+    <message>
+        <source>Always delete</source>
+        <translation>Immer löschen</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStore</name>
+    <message>
+        <source>The settings file %1 is not a file.</source>
+        <translation>Die Einstellungsdatei %1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder is missing and cannot be created either.</source>
+        <translation>Die Einstellungsdatei %1 kann nicht angelegt werden: Ihr Ordner fehlt und kann ebenfalls nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is in use by another process.</source>
+        <translation>Die Einstellungsdatei %1 wird von einem anderen Prozess verwendet.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder cannot be written to.</source>
+        <translation>Die Einstellungsdatei %1 kann nicht angelegt werden: In ihren Ordner kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be read: %2</source>
+        <translation>Die Einstellungsdatei %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is damaged, and it cannot be kept under another name: %2</source>
+        <translation>Die Einstellungsdatei %1 ist beschädigt und kann nicht unter einem anderen Namen aufbewahrt werden: %2</translation>
+    </message>
+    <message>
+        <source>The settings cannot be saved in %1: %2</source>
+        <translation>Die Einstellungen können nicht in %1 gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to</source>
+        <translation>In den Ordner kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::FilesPage</name>
+    <message>
+        <source>&amp;Folder for recordings:</source>
+        <translation>&amp;Ordner für Aufnahmen:</translation>
+    </message>
+    <message>
+        <source>Folder for recordings</source>
+        <translation>Ordner für Aufnahmen</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Durchsuchen …</translation>
+    </message>
+    <message>
+        <source>Browse for the folder for recordings</source>
+        <translation>Ordner für Aufnahmen suchen</translation>
+    </message>
+    <message>
+        <source>Enter the full path of a folder.</source>
+        <translation>Geben Sie den vollständigen Pfad eines Ordners ein.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>Das ist eine Datei, kein Ordner.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write into this folder.</source>
+        <translation>Sie dürfen in diesen Ordner nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>The free space of this folder cannot be told.</source>
+        <translation>Der freie Speicherplatz dieses Ordners ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Free space: %1</source>
+        <translation>Freier Speicherplatz: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::MainWindow</name>
+    <message>
+        <source>Recording Scheduler</source>
+        <translation>Aufnahmeplaner</translation>
+    </message>
+    <message>
+        <source>Settings pages</source>
+        <translation>Einstellungsseiten</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Zeitplan</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>Legen Sie fest, wann eine Aufnahme von selbst endet oder beginnt.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>Legen Sie fest, wo Aufnahmen gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved: %1</source>
+        <translation>Ihre Änderungen konnten nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>Your changes are saved again.</source>
+        <translation>Ihre Änderungen werden wieder gespeichert.</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <translation>Ihre Änderungen konnten nicht gespeichert werden. Sie gehen verloren, wenn Sie das Fenster jetzt schließen.</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Trotzdem schließen</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::ScreenshotTour</name>
+    <message>
+        <source>cannot create the folder %1</source>
+        <translation>Ordner %1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>cannot reach: %1</source>
+        <translation>nicht erreichbar: %1</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+</context>
+</TS>

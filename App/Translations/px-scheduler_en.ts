@@ -1,0 +1,339 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>CaptureControllerWrapper</name>
+    <message>
+        <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
+        <translation>Recording could not be started because there is not enough disk space. Free up some disk space and try again, or choose a different drive for your recordings in %1File Preferences%2.</translation>
+    </message>
+    <message>
+        <source>File Preferences</source>
+        <translation>File Preferences</translation>
+    </message>
+</context>
+<context>
+    <name>CreateRecordTaskWidget</name>
+    <message>
+        <source>New record:</source>
+        <translation>New record:</translation>
+    </message>
+    <message>
+        <source>Action on finish:</source>
+        <translation>Action on finish:</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Create</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>File name:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Date:</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>yyyy-MM-dd</translation>
+    </message>
+    <message>
+        <source>Time:</source>
+        <translation>Time:</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Duration:</translation>
+    </message>
+    <message>
+        <source>Capture:</source>
+        <translation>Capture:</translation>
+    </message>
+    <message>
+        <source>Selected area</source>
+        <translation>Selected area</translation>
+    </message>
+    <message>
+        <source>Selected area tooltip</source>
+        <translation>You choose the area on the screen when the recording starts.</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>Fullscreen</translation>
+    </message>
+    <message>
+        <source>Need select task name</source>
+        <translation>Enter a name for the task.</translation>
+    </message>
+    <message>
+        <source>Task with this title already exist</source>
+        <translation>A task with this name already exists.</translation>
+    </message>
+    <message>
+        <source>Curent capture time intersect with other capture time in the list</source>
+        <translation>The time of this recording overlaps with another recording in the list.</translation>
+    </message>
+</context>
+<context>
+    <name>PowerAction</name>
+    <message>
+        <source>Do nothing</source>
+        <translation>Do nothing</translation>
+    </message>
+    <message>
+        <source>Quit the application</source>
+        <translation>Quit the application</translation>
+    </message>
+    <message>
+        <source>Sleep</source>
+        <translation>Sleep</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>Hibernate</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Restart</translation>
+    </message>
+    <message>
+        <source>Shut down</source>
+        <translation>Shut down</translation>
+    </message>
+</context>
+<context>
+    <name>RecordSchedulerWidget</name>
+    <message>
+        <source>All tasks will be permanently deleted from the recording schedule. Are you sure you want to continue?</source>
+        <translation>All tasks will be permanently deleted from the recording schedule. Are you sure you want to continue?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continue</translation>
+    </message>
+    <message>
+        <source>The task hasn&apos;t been saved. Would you like to add this task to the recording schedule?</source>
+        <translation>The task hasn&apos;t been saved. Would you like to add this task to the recording schedule?</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Add</source>
+        <translation>Don&apos;t add</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Do not schedule capture</source>
+        <translation>Do not schedule capture</translation>
+    </message>
+    <message>
+        <source>Stop capture after</source>
+        <translation>Stop capture after</translation>
+    </message>
+    <message>
+        <source>Record on schedule</source>
+        <translation>Record on schedule</translation>
+    </message>
+    <message>
+        <source>Add record event</source>
+        <translation>Add recording</translation>
+    </message>
+    <message>
+        <source>Capture duration in limited capture:</source>
+        <translation>Duration:</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>When capture ends:</source>
+        <translation>When capture ends:</translation>
+    </message>
+</context>
+<context>
+    <name>ScheduleRecordTableWidget</name>
+    <message>
+        <source>Task </source>
+        <translation>Task </translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>File name</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duration</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>yyyy-MM-dd</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>The task will be permanently deleted from the recording schedule. Are you sure you want to delete the task?</source>
+        <translation>The task will be permanently deleted from the recording schedule. Are you sure you want to delete the task?</translation>
+    </message>
+    <message>
+        <source>Always delete</source>
+        <translation>Always delete</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStore</name>
+    <message>
+        <source>The settings file %1 is not a file.</source>
+        <translation>The settings file %1 is not a file.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder is missing and cannot be created either.</source>
+        <translation>The settings file %1 cannot be created: its folder is missing and cannot be created either.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is in use by another process.</source>
+        <translation>The settings file %1 is in use by another process.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder cannot be written to.</source>
+        <translation>The settings file %1 cannot be created: its folder cannot be written to.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be read: %2</source>
+        <translation>The settings file %1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is damaged, and it cannot be kept under another name: %2</source>
+        <translation>The settings file %1 is damaged, and it cannot be kept under another name: %2</translation>
+    </message>
+    <message>
+        <source>The settings cannot be saved in %1: %2</source>
+        <translation>The settings cannot be saved in %1: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to</source>
+        <translation>its folder cannot be written to</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::FilesPage</name>
+    <message>
+        <source>&amp;Folder for recordings:</source>
+        <translation>&amp;Folder for recordings:</translation>
+    </message>
+    <message>
+        <source>Folder for recordings</source>
+        <translation>Folder for recordings</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Browse…</translation>
+    </message>
+    <message>
+        <source>Browse for the folder for recordings</source>
+        <translation>Browse for the folder for recordings</translation>
+    </message>
+    <message>
+        <source>Enter the full path of a folder.</source>
+        <translation>Enter the full path of a folder.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>This is a file, not a folder.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write into this folder.</source>
+        <translation>You are not allowed to write into this folder.</translation>
+    </message>
+    <message>
+        <source>The free space of this folder cannot be told.</source>
+        <translation>The free space of this folder is unknown.</translation>
+    </message>
+    <message>
+        <source>Free space: %1</source>
+        <translation>Free space: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::MainWindow</name>
+    <message>
+        <source>Recording Scheduler</source>
+        <translation>Recording Scheduler</translation>
+    </message>
+    <message>
+        <source>Settings pages</source>
+        <translation>Settings pages</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Schedule</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>Choose when a recording stops or starts by itself.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>Choose where recordings are kept.</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved: %1</source>
+        <translation>Your changes could not be saved: %1</translation>
+    </message>
+    <message>
+        <source>Your changes are saved again.</source>
+        <translation>Your changes are saved again.</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <translation>Your changes could not be saved. They will be lost if you close the window now.</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Close anyway</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::ScreenshotTour</name>
+    <message>
+        <source>cannot create the folder %1</source>
+        <translation>cannot create the folder %1</translation>
+    </message>
+    <message>
+        <source>cannot reach: %1</source>
+        <translation>cannot reach: %1</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>cannot write %1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,339 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="he" sourcelanguage="en">
+<context>
+    <name>CaptureControllerWrapper</name>
+    <message>
+        <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
+        <translation>לא ניתן להתחיל את ההקלטה כי אין מספיק מקום פנוי בכונן. פנו מקום ונסו שוב, או בחרו כונן אחר להקלטות ב%1הגדרות הקבצים%2.</translation>
+    </message>
+    <message>
+        <source>File Preferences</source>
+        <translation>הגדרות הקבצים</translation>
+    </message>
+</context>
+<context>
+    <name>CreateRecordTaskWidget</name>
+    <message>
+        <source>New record:</source>
+        <translation>הקלטה חדשה:</translation>
+    </message>
+    <message>
+        <source>Action on finish:</source>
+        <translation>פעולה בסיום:</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>יצירה</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>חזרה</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>שם הקובץ:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>תאריך:</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>dd.MM.yyyy</translation>
+    </message>
+    <message>
+        <source>Time:</source>
+        <translation>שעה:</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>משך:</translation>
+    </message>
+    <message>
+        <source>Capture:</source>
+        <translation>אזור הקלטה:</translation>
+    </message>
+    <message>
+        <source>Selected area</source>
+        <translation>אזור נבחר</translation>
+    </message>
+    <message>
+        <source>Selected area tooltip</source>
+        <translation>בוחרים את האזור במסך כשההקלטה מתחילה.</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>מסך מלא</translation>
+    </message>
+    <message>
+        <source>Need select task name</source>
+        <translation>יש להזין שם למשימה.</translation>
+    </message>
+    <message>
+        <source>Task with this title already exist</source>
+        <translation>כבר קיימת משימה בשם זה.</translation>
+    </message>
+    <message>
+        <source>Curent capture time intersect with other capture time in the list</source>
+        <translation>זמן ההקלטה הזו חופף להקלטה אחרת ברשימה.</translation>
+    </message>
+</context>
+<context>
+    <name>PowerAction</name>
+    <message>
+        <source>Do nothing</source>
+        <translation>לא לעשות דבר</translation>
+    </message>
+    <message>
+        <source>Quit the application</source>
+        <translation>יציאה מהיישום</translation>
+    </message>
+    <message>
+        <source>Sleep</source>
+        <translation>שינה</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>מצב תרדמה</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>הפעלה מחדש</translation>
+    </message>
+    <message>
+        <source>Shut down</source>
+        <translation>כיבוי</translation>
+    </message>
+</context>
+<context>
+    <name>RecordSchedulerWidget</name>
+    <message>
+        <source>All tasks will be permanently deleted from the recording schedule. Are you sure you want to continue?</source>
+        <translation>כל המשימות יימחקו לצמיתות מלוח ההקלטות. להמשיך?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>המשך</translation>
+    </message>
+    <message>
+        <source>The task hasn&apos;t been saved. Would you like to add this task to the recording schedule?</source>
+        <translation>המשימה לא נשמרה. להוסיף אותה ללוח ההקלטות?</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Add</source>
+        <translation>לא להוסיף</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>הוספה</translation>
+    </message>
+    <message>
+        <source>Do not schedule capture</source>
+        <translation>ללא תזמון הקלטה</translation>
+    </message>
+    <message>
+        <source>Stop capture after</source>
+        <translation>עצירת ההקלטה לאחר</translation>
+    </message>
+    <message>
+        <source>Record on schedule</source>
+        <translation>הקלטה לפי לוח זמנים</translation>
+    </message>
+    <message>
+        <source>Add record event</source>
+        <translation>הוספת הקלטה</translation>
+    </message>
+    <message>
+        <source>Capture duration in limited capture:</source>
+        <translation>משך ההקלטה:</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>When capture ends:</source>
+        <translation>בסיום ההקלטה:</translation>
+    </message>
+</context>
+<context>
+    <name>ScheduleRecordTableWidget</name>
+    <message>
+        <source>Task </source>
+        <translation>משימה </translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>שם הקובץ</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>תאריך</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>שעה</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>משך</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>dd.MM.yyyy</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>מחיקה</translation>
+    </message>
+    <message>
+        <source>The task will be permanently deleted from the recording schedule. Are you sure you want to delete the task?</source>
+        <translation>המשימה תימחק לצמיתות מלוח ההקלטות. למחוק אותה?</translation>
+    </message>
+    <message>
+        <source>Always delete</source>
+        <translation>למחוק תמיד</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStore</name>
+    <message>
+        <source>The settings file %1 is not a file.</source>
+        <translation>קובץ ההגדרות %1 אינו קובץ.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder is missing and cannot be created either.</source>
+        <translation>לא ניתן ליצור את קובץ ההגדרות %1: התיקייה שלו חסרה וגם אותה לא ניתן ליצור.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is in use by another process.</source>
+        <translation>קובץ ההגדרות %1 נמצא בשימוש של תהליך אחר.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder cannot be written to.</source>
+        <translation>לא ניתן ליצור את קובץ ההגדרות %1: אין אפשרות לכתוב בתיקייה שלו.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be read: %2</source>
+        <translation>לא ניתן לקרוא את קובץ ההגדרות %1: %2</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is damaged, and it cannot be kept under another name: %2</source>
+        <translation>קובץ ההגדרות %1 פגום ולא ניתן לשמור אותו בשם אחר: %2</translation>
+    </message>
+    <message>
+        <source>The settings cannot be saved in %1: %2</source>
+        <translation>לא ניתן לשמור את ההגדרות ב-%1: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to</source>
+        <translation>אין אפשרות לכתוב בתיקייה שלו</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::FilesPage</name>
+    <message>
+        <source>&amp;Folder for recordings:</source>
+        <translation>&amp;תיקיית ההקלטות:</translation>
+    </message>
+    <message>
+        <source>Folder for recordings</source>
+        <translation>תיקיית ההקלטות</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;עיון…</translation>
+    </message>
+    <message>
+        <source>Browse for the folder for recordings</source>
+        <translation>עיון לבחירת תיקיית ההקלטות</translation>
+    </message>
+    <message>
+        <source>Enter the full path of a folder.</source>
+        <translation>יש להזין נתיב מלא של תיקייה.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>זהו קובץ, לא תיקייה.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write into this folder.</source>
+        <translation>אין לך הרשאה לכתוב בתיקייה הזו.</translation>
+    </message>
+    <message>
+        <source>The free space of this folder cannot be told.</source>
+        <translation>המקום הפנוי בתיקייה הזו אינו ידוע.</translation>
+    </message>
+    <message>
+        <source>Free space: %1</source>
+        <translation>מקום פנוי: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::MainWindow</name>
+    <message>
+        <source>Recording Scheduler</source>
+        <translation>מתזמן ההקלטות</translation>
+    </message>
+    <message>
+        <source>Settings pages</source>
+        <translation>דפי ההגדרות</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>לוח זמנים</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>בחרו מתי הקלטה תיעצר או תתחיל מעצמה.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>קבצים</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>בחרו היכן יישמרו ההקלטות.</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved: %1</source>
+        <translation>לא ניתן לשמור את השינויים: %1</translation>
+    </message>
+    <message>
+        <source>Your changes are saved again.</source>
+        <translation>השינויים נשמרים שוב.</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <translation>לא ניתן לשמור את השינויים. הם יאבדו אם החלון ייסגר עכשיו.</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>לסגור בכל זאת</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::ScreenshotTour</name>
+    <message>
+        <source>cannot create the folder %1</source>
+        <translation>לא ניתן ליצור את התיקייה %1</translation>
+    </message>
+    <message>
+        <source>cannot reach: %1</source>
+        <translation>לא ניתן להגיע אל: %1</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>לא ניתן לכתוב את %1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,339 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>CaptureControllerWrapper</name>
+    <message>
+        <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
+        <translation>Impossibile avviare la registrazione perché lo spazio su disco non è sufficiente. Libera spazio e riprova, oppure scegli un’altra unità per le registrazioni nelle %1impostazioni dei file%2.</translation>
+    </message>
+    <message>
+        <source>File Preferences</source>
+        <translation>Impostazioni dei file</translation>
+    </message>
+</context>
+<context>
+    <name>CreateRecordTaskWidget</name>
+    <message>
+        <source>New record:</source>
+        <translation>Nuova registrazione:</translation>
+    </message>
+    <message>
+        <source>Action on finish:</source>
+        <translation>Azione al termine:</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Crea</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Nome file:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Data:</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>dd/MM/yyyy</translation>
+    </message>
+    <message>
+        <source>Time:</source>
+        <translation>Ora:</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Durata:</translation>
+    </message>
+    <message>
+        <source>Capture:</source>
+        <translation>Cattura:</translation>
+    </message>
+    <message>
+        <source>Selected area</source>
+        <translation>Area selezionata</translation>
+    </message>
+    <message>
+        <source>Selected area tooltip</source>
+        <translation>L’area dello schermo si sceglie all’avvio della registrazione.</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>Schermo intero</translation>
+    </message>
+    <message>
+        <source>Need select task name</source>
+        <translation>Inserisci un nome per l’attività.</translation>
+    </message>
+    <message>
+        <source>Task with this title already exist</source>
+        <translation>Esiste già un’attività con questo nome.</translation>
+    </message>
+    <message>
+        <source>Curent capture time intersect with other capture time in the list</source>
+        <translation>L’orario di questa registrazione si sovrappone a quello di un’altra registrazione nell’elenco.</translation>
+    </message>
+</context>
+<context>
+    <name>PowerAction</name>
+    <message>
+        <source>Do nothing</source>
+        <translation>Nessuna azione</translation>
+    </message>
+    <message>
+        <source>Quit the application</source>
+        <translation>Esci dall’applicazione</translation>
+    </message>
+    <message>
+        <source>Sleep</source>
+        <translation>Sospendi</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>Iberna</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Riavvia</translation>
+    </message>
+    <message>
+        <source>Shut down</source>
+        <translation>Arresta</translation>
+    </message>
+</context>
+<context>
+    <name>RecordSchedulerWidget</name>
+    <message>
+        <source>All tasks will be permanently deleted from the recording schedule. Are you sure you want to continue?</source>
+        <translation>Tutte le attività verranno eliminate definitivamente dalla pianificazione. Continuare?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continua</translation>
+    </message>
+    <message>
+        <source>The task hasn&apos;t been saved. Would you like to add this task to the recording schedule?</source>
+        <translation>L’attività non è stata salvata. Aggiungerla alla pianificazione?</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Add</source>
+        <translation>Non aggiungere</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message>
+        <source>Do not schedule capture</source>
+        <translation>Non pianificare la registrazione</translation>
+    </message>
+    <message>
+        <source>Stop capture after</source>
+        <translation>Interrompi la registrazione dopo</translation>
+    </message>
+    <message>
+        <source>Record on schedule</source>
+        <translation>Registra secondo la pianificazione</translation>
+    </message>
+    <message>
+        <source>Add record event</source>
+        <translation>Aggiungi registrazione</translation>
+    </message>
+    <message>
+        <source>Capture duration in limited capture:</source>
+        <translation>Durata della registrazione:</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>When capture ends:</source>
+        <translation>Al termine della registrazione:</translation>
+    </message>
+</context>
+<context>
+    <name>ScheduleRecordTableWidget</name>
+    <message>
+        <source>Task </source>
+        <translation>Attività </translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Nome file</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durata</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>dd/MM/yyyy</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>The task will be permanently deleted from the recording schedule. Are you sure you want to delete the task?</source>
+        <translation>L’attività verrà eliminata definitivamente dalla pianificazione. Eliminarla?</translation>
+    </message>
+    <message>
+        <source>Always delete</source>
+        <translation>Elimina sempre</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStore</name>
+    <message>
+        <source>The settings file %1 is not a file.</source>
+        <translation>Il file delle impostazioni %1 non è un file.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder is missing and cannot be created either.</source>
+        <translation>Impossibile creare il file delle impostazioni %1: la sua cartella non esiste e non può essere creata.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is in use by another process.</source>
+        <translation>Il file delle impostazioni %1 è usato da un altro processo.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder cannot be written to.</source>
+        <translation>Impossibile creare il file delle impostazioni %1: la sua cartella non è scrivibile.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be read: %2</source>
+        <translation>Impossibile leggere il file delle impostazioni %1: %2</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is damaged, and it cannot be kept under another name: %2</source>
+        <translation>Il file delle impostazioni %1 è danneggiato e non può essere conservato con un altro nome: %2</translation>
+    </message>
+    <message>
+        <source>The settings cannot be saved in %1: %2</source>
+        <translation>Impossibile salvare le impostazioni in %1: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to</source>
+        <translation>la sua cartella non è scrivibile</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::FilesPage</name>
+    <message>
+        <source>&amp;Folder for recordings:</source>
+        <translation>&amp;Cartella delle registrazioni:</translation>
+    </message>
+    <message>
+        <source>Folder for recordings</source>
+        <translation>Cartella delle registrazioni</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Sfoglia…</translation>
+    </message>
+    <message>
+        <source>Browse for the folder for recordings</source>
+        <translation>Sfoglia per scegliere la cartella delle registrazioni</translation>
+    </message>
+    <message>
+        <source>Enter the full path of a folder.</source>
+        <translation>Inserisci il percorso completo di una cartella.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>Questo è un file, non una cartella.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write into this folder.</source>
+        <translation>Non hai l’autorizzazione a scrivere in questa cartella.</translation>
+    </message>
+    <message>
+        <source>The free space of this folder cannot be told.</source>
+        <translation>Lo spazio libero di questa cartella non è noto.</translation>
+    </message>
+    <message>
+        <source>Free space: %1</source>
+        <translation>Spazio libero: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::MainWindow</name>
+    <message>
+        <source>Recording Scheduler</source>
+        <translation>Pianificatore di registrazioni</translation>
+    </message>
+    <message>
+        <source>Settings pages</source>
+        <translation>Pagine delle impostazioni</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Pianificazione</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>Scegli quando una registrazione inizia o termina automaticamente.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>Scegli dove conservare le registrazioni.</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved: %1</source>
+        <translation>Impossibile salvare le modifiche: %1</translation>
+    </message>
+    <message>
+        <source>Your changes are saved again.</source>
+        <translation>Le modifiche vengono di nuovo salvate.</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <translation>Impossibile salvare le modifiche. Andranno perse se chiudi la finestra ora.</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Chiudi comunque</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::ScreenshotTour</name>
+    <message>
+        <source>cannot create the folder %1</source>
+        <translation>impossibile creare la cartella %1</translation>
+    </message>
+    <message>
+        <source>cannot reach: %1</source>
+        <translation>impossibile raggiungere: %1</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>impossibile scrivere %1</translation>
+    </message>
+</context>
+</TS>

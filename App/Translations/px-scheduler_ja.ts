@@ -1,0 +1,339 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>CaptureControllerWrapper</name>
+    <message>
+        <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
+        <translation>ディスクの空き容量が不足しているため、録画を開始できませんでした。空き容量を増やしてからもう一度お試しください。または、%1ファイル設定%2で録画の保存先を別のドライブに変更してください。</translation>
+    </message>
+    <message>
+        <source>File Preferences</source>
+        <translation>ファイル設定</translation>
+    </message>
+</context>
+<context>
+    <name>CreateRecordTaskWidget</name>
+    <message>
+        <source>New record:</source>
+        <translation>新しい録画：</translation>
+    </message>
+    <message>
+        <source>Action on finish:</source>
+        <translation>終了時の動作：</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>作成</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>ファイル名：</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>日付：</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>yyyy/MM/dd</translation>
+    </message>
+    <message>
+        <source>Time:</source>
+        <translation>時刻：</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>録画時間：</translation>
+    </message>
+    <message>
+        <source>Capture:</source>
+        <translation>範囲：</translation>
+    </message>
+    <message>
+        <source>Selected area</source>
+        <translation>選択した範囲</translation>
+    </message>
+    <message>
+        <source>Selected area tooltip</source>
+        <translation>画面上の範囲は、録画の開始時に選択します。</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>全画面</translation>
+    </message>
+    <message>
+        <source>Need select task name</source>
+        <translation>タスクの名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>Task with this title already exist</source>
+        <translation>同じ名前のタスクが既に存在します。</translation>
+    </message>
+    <message>
+        <source>Curent capture time intersect with other capture time in the list</source>
+        <translation>この録画の時間帯は、一覧にある別の録画と重なっています。</translation>
+    </message>
+</context>
+<context>
+    <name>PowerAction</name>
+    <message>
+        <source>Do nothing</source>
+        <translation>何もしない</translation>
+    </message>
+    <message>
+        <source>Quit the application</source>
+        <translation>アプリを終了</translation>
+    </message>
+    <message>
+        <source>Sleep</source>
+        <translation>スリープ</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>休止状態</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>再起動</translation>
+    </message>
+    <message>
+        <source>Shut down</source>
+        <translation>シャットダウン</translation>
+    </message>
+</context>
+<context>
+    <name>RecordSchedulerWidget</name>
+    <message>
+        <source>All tasks will be permanently deleted from the recording schedule. Are you sure you want to continue?</source>
+        <translation>すべてのタスクが録画スケジュールから完全に削除されます。続行してもよろしいですか？</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>続行</translation>
+    </message>
+    <message>
+        <source>The task hasn&apos;t been saved. Would you like to add this task to the recording schedule?</source>
+        <translation>タスクが保存されていません。このタスクを録画スケジュールに追加しますか？</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Add</source>
+        <translation>追加しない</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Do not schedule capture</source>
+        <translation>録画を予約しない</translation>
+    </message>
+    <message>
+        <source>Stop capture after</source>
+        <translation>指定時間後に録画を停止</translation>
+    </message>
+    <message>
+        <source>Record on schedule</source>
+        <translation>スケジュールに従って録画</translation>
+    </message>
+    <message>
+        <source>Add record event</source>
+        <translation>録画を追加</translation>
+    </message>
+    <message>
+        <source>Capture duration in limited capture:</source>
+        <translation>録画時間：</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>When capture ends:</source>
+        <translation>録画終了後：</translation>
+    </message>
+</context>
+<context>
+    <name>ScheduleRecordTableWidget</name>
+    <message>
+        <source>Task </source>
+        <translation>タスク</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>ファイル名</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>録画時間</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>yyyy/MM/dd</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>The task will be permanently deleted from the recording schedule. Are you sure you want to delete the task?</source>
+        <translation>このタスクは録画スケジュールから完全に削除されます。タスクを削除してもよろしいですか？</translation>
+    </message>
+    <message>
+        <source>Always delete</source>
+        <translation>常に削除する</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStore</name>
+    <message>
+        <source>The settings file %1 is not a file.</source>
+        <translation>設定ファイル %1 はファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder is missing and cannot be created either.</source>
+        <translation>設定ファイル %1 を作成できません。フォルダーが存在せず、作成することもできません。</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is in use by another process.</source>
+        <translation>設定ファイル %1 は別のプロセスが使用中です。</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder cannot be written to.</source>
+        <translation>設定ファイル %1 を作成できません。フォルダーに書き込めません。</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be read: %2</source>
+        <translation>設定ファイル %1 を読み込めません：%2</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is damaged, and it cannot be kept under another name: %2</source>
+        <translation>設定ファイル %1 は破損しており、別の名前で保管できません：%2</translation>
+    </message>
+    <message>
+        <source>The settings cannot be saved in %1: %2</source>
+        <translation>設定を %1 に保存できません：%2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to</source>
+        <translation>フォルダーに書き込めません</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::FilesPage</name>
+    <message>
+        <source>&amp;Folder for recordings:</source>
+        <translation>録画の保存フォルダー(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Folder for recordings</source>
+        <translation>録画の保存フォルダー</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>参照(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>Browse for the folder for recordings</source>
+        <translation>録画の保存フォルダーを参照</translation>
+    </message>
+    <message>
+        <source>Enter the full path of a folder.</source>
+        <translation>フォルダーのフルパスを入力してください。</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>これはフォルダーではなくファイルです。</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write into this folder.</source>
+        <translation>このフォルダーに書き込む権限がありません。</translation>
+    </message>
+    <message>
+        <source>The free space of this folder cannot be told.</source>
+        <translation>このフォルダーの空き容量は不明です。</translation>
+    </message>
+    <message>
+        <source>Free space: %1</source>
+        <translation>空き容量：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::MainWindow</name>
+    <message>
+        <source>Recording Scheduler</source>
+        <translation>録画スケジューラー</translation>
+    </message>
+    <message>
+        <source>Settings pages</source>
+        <translation>設定ページ</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>スケジュール</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>録画を自動的に停止または開始するタイミングを選択します。</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>録画の保存先を選択します。</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved: %1</source>
+        <translation>変更を保存できませんでした：%1</translation>
+    </message>
+    <message>
+        <source>Your changes are saved again.</source>
+        <translation>変更は再び保存されるようになりました。</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <translation>変更を保存できませんでした。今ウィンドウを閉じると、変更は失われます。</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>それでも閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::ScreenshotTour</name>
+    <message>
+        <source>cannot create the folder %1</source>
+        <translation>フォルダー %1 を作成できません</translation>
+    </message>
+    <message>
+        <source>cannot reach: %1</source>
+        <translation>到達できません：%1</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>%1 を書き込めません</translation>
+    </message>
+</context>
+</TS>

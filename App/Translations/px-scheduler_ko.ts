@@ -1,0 +1,339 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko" sourcelanguage="en">
+<context>
+    <name>CaptureControllerWrapper</name>
+    <message>
+        <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
+        <translation>디스크 공간이 부족하여 녹화를 시작할 수 없습니다. 디스크 공간을 확보한 후 다시 시도하거나 %1파일 설정%2에서 녹화를 저장할 다른 드라이브를 선택하세요.</translation>
+    </message>
+    <message>
+        <source>File Preferences</source>
+        <translation>파일 설정</translation>
+    </message>
+</context>
+<context>
+    <name>CreateRecordTaskWidget</name>
+    <message>
+        <source>New record:</source>
+        <translation>새 녹화:</translation>
+    </message>
+    <message>
+        <source>Action on finish:</source>
+        <translation>완료 시 동작:</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>만들기</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>파일 이름:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>날짜:</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>yyyy. MM. dd.</translation>
+    </message>
+    <message>
+        <source>Time:</source>
+        <translation>시간:</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>길이:</translation>
+    </message>
+    <message>
+        <source>Capture:</source>
+        <translation>녹화 영역:</translation>
+    </message>
+    <message>
+        <source>Selected area</source>
+        <translation>선택한 영역</translation>
+    </message>
+    <message>
+        <source>Selected area tooltip</source>
+        <translation>화면 영역은 녹화가 시작될 때 선택합니다.</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>전체 화면</translation>
+    </message>
+    <message>
+        <source>Need select task name</source>
+        <translation>작업 이름을 입력하세요.</translation>
+    </message>
+    <message>
+        <source>Task with this title already exist</source>
+        <translation>같은 이름의 작업이 이미 있습니다.</translation>
+    </message>
+    <message>
+        <source>Curent capture time intersect with other capture time in the list</source>
+        <translation>이 녹화 시간이 목록의 다른 녹화와 겹칩니다.</translation>
+    </message>
+</context>
+<context>
+    <name>PowerAction</name>
+    <message>
+        <source>Do nothing</source>
+        <translation>아무 작업 안 함</translation>
+    </message>
+    <message>
+        <source>Quit the application</source>
+        <translation>앱 종료</translation>
+    </message>
+    <message>
+        <source>Sleep</source>
+        <translation>절전</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>최대 절전 모드</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>다시 시작</translation>
+    </message>
+    <message>
+        <source>Shut down</source>
+        <translation>시스템 종료</translation>
+    </message>
+</context>
+<context>
+    <name>RecordSchedulerWidget</name>
+    <message>
+        <source>All tasks will be permanently deleted from the recording schedule. Are you sure you want to continue?</source>
+        <translation>모든 작업이 녹화 일정에서 영구적으로 삭제됩니다. 계속하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>계속</translation>
+    </message>
+    <message>
+        <source>The task hasn&apos;t been saved. Would you like to add this task to the recording schedule?</source>
+        <translation>작업이 저장되지 않았습니다. 이 작업을 녹화 일정에 추가하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Add</source>
+        <translation>추가 안 함</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>추가</translation>
+    </message>
+    <message>
+        <source>Do not schedule capture</source>
+        <translation>녹화 예약 안 함</translation>
+    </message>
+    <message>
+        <source>Stop capture after</source>
+        <translation>지정한 시간 후 녹화 중지</translation>
+    </message>
+    <message>
+        <source>Record on schedule</source>
+        <translation>일정에 따라 녹화</translation>
+    </message>
+    <message>
+        <source>Add record event</source>
+        <translation>녹화 추가</translation>
+    </message>
+    <message>
+        <source>Capture duration in limited capture:</source>
+        <translation>녹화 시간:</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>When capture ends:</source>
+        <translation>녹화가 끝나면:</translation>
+    </message>
+</context>
+<context>
+    <name>ScheduleRecordTableWidget</name>
+    <message>
+        <source>Task </source>
+        <translation>작업 </translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>파일 이름</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>날짜</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>시간</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>길이</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>yyyy. MM. dd.</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>The task will be permanently deleted from the recording schedule. Are you sure you want to delete the task?</source>
+        <translation>이 작업은 녹화 일정에서 영구적으로 삭제됩니다. 작업을 삭제하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Always delete</source>
+        <translation>항상 삭제</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStore</name>
+    <message>
+        <source>The settings file %1 is not a file.</source>
+        <translation>설정 파일 %1은(는) 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder is missing and cannot be created either.</source>
+        <translation>설정 파일 %1을(를) 만들 수 없습니다. 폴더가 없으며 폴더도 만들 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is in use by another process.</source>
+        <translation>설정 파일 %1을(를) 다른 프로세스에서 사용 중입니다.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder cannot be written to.</source>
+        <translation>설정 파일 %1을(를) 만들 수 없습니다. 폴더에 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be read: %2</source>
+        <translation>설정 파일 %1을(를) 읽을 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is damaged, and it cannot be kept under another name: %2</source>
+        <translation>설정 파일 %1이(가) 손상되었으며 다른 이름으로 보관할 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>The settings cannot be saved in %1: %2</source>
+        <translation>설정을 %1에 저장할 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to</source>
+        <translation>폴더에 쓸 수 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::FilesPage</name>
+    <message>
+        <source>&amp;Folder for recordings:</source>
+        <translation>녹화 폴더(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Folder for recordings</source>
+        <translation>녹화 폴더</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>찾아보기(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>Browse for the folder for recordings</source>
+        <translation>녹화 폴더 찾아보기</translation>
+    </message>
+    <message>
+        <source>Enter the full path of a folder.</source>
+        <translation>폴더의 전체 경로를 입력하세요.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>폴더가 아니라 파일입니다.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write into this folder.</source>
+        <translation>이 폴더에 쓸 권한이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The free space of this folder cannot be told.</source>
+        <translation>이 폴더의 여유 공간을 알 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Free space: %1</source>
+        <translation>여유 공간: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::MainWindow</name>
+    <message>
+        <source>Recording Scheduler</source>
+        <translation>녹화 스케줄러</translation>
+    </message>
+    <message>
+        <source>Settings pages</source>
+        <translation>설정 페이지</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>일정</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>녹화를 자동으로 중지하거나 시작할 때를 선택하세요.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>녹화를 저장할 위치를 선택하세요.</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved: %1</source>
+        <translation>변경 내용을 저장하지 못했습니다: %1</translation>
+    </message>
+    <message>
+        <source>Your changes are saved again.</source>
+        <translation>변경 내용이 다시 저장됩니다.</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <translation>변경 내용을 저장하지 못했습니다. 지금 창을 닫으면 변경 내용이 손실됩니다.</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>그래도 닫기</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::ScreenshotTour</name>
+    <message>
+        <source>cannot create the folder %1</source>
+        <translation>폴더 %1을(를) 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>cannot reach: %1</source>
+        <translation>도달할 수 없음: %1</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>%1을(를) 쓸 수 없습니다</translation>
+    </message>
+</context>
+</TS>

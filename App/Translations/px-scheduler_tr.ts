@@ -1,0 +1,339 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="tr" sourcelanguage="en">
+<context>
+    <name>CaptureControllerWrapper</name>
+    <message>
+        <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
+        <translation>Yeterli disk alanı olmadığı için kayıt başlatılamadı. Disk alanı boşaltıp yeniden deneyin veya %1Dosya ayarları%2 bölümünde kayıtlarınız için başka bir sürücü seçin.</translation>
+    </message>
+    <message>
+        <source>File Preferences</source>
+        <translation>Dosya ayarları</translation>
+    </message>
+</context>
+<context>
+    <name>CreateRecordTaskWidget</name>
+    <message>
+        <source>New record:</source>
+        <translation>Yeni kayıt:</translation>
+    </message>
+    <message>
+        <source>Action on finish:</source>
+        <translation>Bitince yapılacak:</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Oluştur</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Dosya adı:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Tarih:</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>dd.MM.yyyy</translation>
+    </message>
+    <message>
+        <source>Time:</source>
+        <translation>Saat:</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Süre:</translation>
+    </message>
+    <message>
+        <source>Capture:</source>
+        <translation>Kaydedilecek:</translation>
+    </message>
+    <message>
+        <source>Selected area</source>
+        <translation>Seçilen alan</translation>
+    </message>
+    <message>
+        <source>Selected area tooltip</source>
+        <translation>Ekrandaki alanı kayıt başladığında seçersiniz.</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>Tam ekran</translation>
+    </message>
+    <message>
+        <source>Need select task name</source>
+        <translation>Görev için bir ad girin.</translation>
+    </message>
+    <message>
+        <source>Task with this title already exist</source>
+        <translation>Bu adda bir görev zaten var.</translation>
+    </message>
+    <message>
+        <source>Curent capture time intersect with other capture time in the list</source>
+        <translation>Bu kaydın zamanı listedeki başka bir kayıtla çakışıyor.</translation>
+    </message>
+</context>
+<context>
+    <name>PowerAction</name>
+    <message>
+        <source>Do nothing</source>
+        <translation>Hiçbir şey yapma</translation>
+    </message>
+    <message>
+        <source>Quit the application</source>
+        <translation>Uygulamadan çık</translation>
+    </message>
+    <message>
+        <source>Sleep</source>
+        <translation>Uyku</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>Hazırda beklet</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Yeniden başlat</translation>
+    </message>
+    <message>
+        <source>Shut down</source>
+        <translation>Kapat</translation>
+    </message>
+</context>
+<context>
+    <name>RecordSchedulerWidget</name>
+    <message>
+        <source>All tasks will be permanently deleted from the recording schedule. Are you sure you want to continue?</source>
+        <translation>Tüm görevler kayıt takviminden kalıcı olarak silinecek. Devam etmek istediğinizden emin misiniz?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Devam et</translation>
+    </message>
+    <message>
+        <source>The task hasn&apos;t been saved. Would you like to add this task to the recording schedule?</source>
+        <translation>Görev kaydedilmedi. Bu görevi kayıt takvimine eklemek ister misiniz?</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Add</source>
+        <translation>Ekleme</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ekle</translation>
+    </message>
+    <message>
+        <source>Do not schedule capture</source>
+        <translation>Kaydı zamanlama</translation>
+    </message>
+    <message>
+        <source>Stop capture after</source>
+        <translation>Kaydı şu süre sonunda durdur</translation>
+    </message>
+    <message>
+        <source>Record on schedule</source>
+        <translation>Takvime göre kaydet</translation>
+    </message>
+    <message>
+        <source>Add record event</source>
+        <translation>Kayıt ekle</translation>
+    </message>
+    <message>
+        <source>Capture duration in limited capture:</source>
+        <translation>Kayıt süresi:</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>When capture ends:</source>
+        <translation>Kayıt bittiğinde:</translation>
+    </message>
+</context>
+<context>
+    <name>ScheduleRecordTableWidget</name>
+    <message>
+        <source>Task </source>
+        <translation>Görev </translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Dosya adı</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Tarih</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Saat</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Süre</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>dd.MM.yyyy</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>The task will be permanently deleted from the recording schedule. Are you sure you want to delete the task?</source>
+        <translation>Görev kayıt takviminden kalıcı olarak silinecek. Görevi silmek istediğinizden emin misiniz?</translation>
+    </message>
+    <message>
+        <source>Always delete</source>
+        <translation>Her zaman sil</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStore</name>
+    <message>
+        <source>The settings file %1 is not a file.</source>
+        <translation>%1 ayar dosyası bir dosya değil.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder is missing and cannot be created either.</source>
+        <translation>%1 ayar dosyası oluşturulamıyor: klasörü yok ve o da oluşturulamıyor.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is in use by another process.</source>
+        <translation>%1 ayar dosyası başka bir işlem tarafından kullanılıyor.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder cannot be written to.</source>
+        <translation>%1 ayar dosyası oluşturulamıyor: klasörüne yazılamıyor.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be read: %2</source>
+        <translation>%1 ayar dosyası okunamıyor: %2</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is damaged, and it cannot be kept under another name: %2</source>
+        <translation>%1 ayar dosyası hasarlı ve başka bir adla saklanamıyor: %2</translation>
+    </message>
+    <message>
+        <source>The settings cannot be saved in %1: %2</source>
+        <translation>Ayarlar %1 içine kaydedilemiyor: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to</source>
+        <translation>klasörüne yazılamıyor</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::FilesPage</name>
+    <message>
+        <source>&amp;Folder for recordings:</source>
+        <translation>Kayıt &amp;klasörü:</translation>
+    </message>
+    <message>
+        <source>Folder for recordings</source>
+        <translation>Kayıt klasörü</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Gözat…</translation>
+    </message>
+    <message>
+        <source>Browse for the folder for recordings</source>
+        <translation>Kayıt klasörünü seç</translation>
+    </message>
+    <message>
+        <source>Enter the full path of a folder.</source>
+        <translation>Bir klasörün tam yolunu girin.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>Bu bir klasör değil, dosya.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write into this folder.</source>
+        <translation>Bu klasöre yazma izniniz yok.</translation>
+    </message>
+    <message>
+        <source>The free space of this folder cannot be told.</source>
+        <translation>Bu klasörün boş alanı bilinmiyor.</translation>
+    </message>
+    <message>
+        <source>Free space: %1</source>
+        <translation>Boş alan: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::MainWindow</name>
+    <message>
+        <source>Recording Scheduler</source>
+        <translation>Kayıt Zamanlayıcı</translation>
+    </message>
+    <message>
+        <source>Settings pages</source>
+        <translation>Ayar sayfaları</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Takvim</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>Bir kaydın ne zaman kendiliğinden duracağını veya başlayacağını seçin.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dosyalar</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>Kayıtların nerede saklanacağını seçin.</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved: %1</source>
+        <translation>Değişiklikleriniz kaydedilemedi: %1</translation>
+    </message>
+    <message>
+        <source>Your changes are saved again.</source>
+        <translation>Değişiklikleriniz yeniden kaydediliyor.</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <translation>Değişiklikleriniz kaydedilemedi. Pencereyi şimdi kapatırsanız kaybolacaklar.</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Yine de kapat</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::ScreenshotTour</name>
+    <message>
+        <source>cannot create the folder %1</source>
+        <translation>%1 klasörü oluşturulamıyor</translation>
+    </message>
+    <message>
+        <source>cannot reach: %1</source>
+        <translation>ulaşılamıyor: %1</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>%1 yazılamıyor</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,339 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>CaptureControllerWrapper</name>
+    <message>
+        <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
+        <translation>磁盘空间不足，无法开始录制。请释放磁盘空间后重试，或在%1文件设置%2中为录制内容选择其他磁盘。</translation>
+    </message>
+    <message>
+        <source>File Preferences</source>
+        <translation>文件设置</translation>
+    </message>
+</context>
+<context>
+    <name>CreateRecordTaskWidget</name>
+    <message>
+        <source>New record:</source>
+        <translation>新建录制：</translation>
+    </message>
+    <message>
+        <source>Action on finish:</source>
+        <translation>完成后操作：</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>创建</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>文件名：</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>日期：</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>yyyy-MM-dd</translation>
+    </message>
+    <message>
+        <source>Time:</source>
+        <translation>时间：</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>时长：</translation>
+    </message>
+    <message>
+        <source>Capture:</source>
+        <translation>录制区域：</translation>
+    </message>
+    <message>
+        <source>Selected area</source>
+        <translation>所选区域</translation>
+    </message>
+    <message>
+        <source>Selected area tooltip</source>
+        <translation>录制开始时再选择屏幕上的区域。</translation>
+    </message>
+    <message>
+        <source>Fullscreen</source>
+        <translation>全屏</translation>
+    </message>
+    <message>
+        <source>Need select task name</source>
+        <translation>请输入任务名称。</translation>
+    </message>
+    <message>
+        <source>Task with this title already exist</source>
+        <translation>已存在同名任务。</translation>
+    </message>
+    <message>
+        <source>Curent capture time intersect with other capture time in the list</source>
+        <translation>此录制的时间与列表中的其他录制重叠。</translation>
+    </message>
+</context>
+<context>
+    <name>PowerAction</name>
+    <message>
+        <source>Do nothing</source>
+        <translation>不执行任何操作</translation>
+    </message>
+    <message>
+        <source>Quit the application</source>
+        <translation>退出应用</translation>
+    </message>
+    <message>
+        <source>Sleep</source>
+        <translation>睡眠</translation>
+    </message>
+    <message>
+        <source>Hibernate</source>
+        <translation>休眠</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>重启</translation>
+    </message>
+    <message>
+        <source>Shut down</source>
+        <translation>关机</translation>
+    </message>
+</context>
+<context>
+    <name>RecordSchedulerWidget</name>
+    <message>
+        <source>All tasks will be permanently deleted from the recording schedule. Are you sure you want to continue?</source>
+        <translation>所有任务都将从录制计划中永久删除。确定要继续吗？</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>The task hasn&apos;t been saved. Would you like to add this task to the recording schedule?</source>
+        <translation>任务尚未保存。是否将此任务添加到录制计划？</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Add</source>
+        <translation>不添加</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Do not schedule capture</source>
+        <translation>不计划录制</translation>
+    </message>
+    <message>
+        <source>Stop capture after</source>
+        <translation>在指定时长后停止录制</translation>
+    </message>
+    <message>
+        <source>Record on schedule</source>
+        <translation>按计划录制</translation>
+    </message>
+    <message>
+        <source>Add record event</source>
+        <translation>添加录制</translation>
+    </message>
+    <message>
+        <source>Capture duration in limited capture:</source>
+        <translation>录制时长：</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>When capture ends:</source>
+        <translation>录制结束时：</translation>
+    </message>
+</context>
+<context>
+    <name>ScheduleRecordTableWidget</name>
+    <message>
+        <source>Task </source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>文件名</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>时长</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>yyyy-MM-dd</translation>
+    </message>
+    <message>
+        <source>hh:mm:ss</source>
+        <translation>hh:mm:ss</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>The task will be permanently deleted from the recording schedule. Are you sure you want to delete the task?</source>
+        <translation>该任务将从录制计划中永久删除。确定要删除该任务吗？</translation>
+    </message>
+    <message>
+        <source>Always delete</source>
+        <translation>始终删除</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStore</name>
+    <message>
+        <source>The settings file %1 is not a file.</source>
+        <translation>设置文件 %1 不是文件。</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder is missing and cannot be created either.</source>
+        <translation>无法创建设置文件 %1：其所在文件夹不存在，也无法创建。</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is in use by another process.</source>
+        <translation>设置文件 %1 正被其他进程使用。</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be created: its folder cannot be written to.</source>
+        <translation>无法创建设置文件 %1：其所在文件夹不可写。</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be read: %2</source>
+        <translation>无法读取设置文件 %1：%2</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is damaged, and it cannot be kept under another name: %2</source>
+        <translation>设置文件 %1 已损坏，且无法以其他名称保留：%2</translation>
+    </message>
+    <message>
+        <source>The settings cannot be saved in %1: %2</source>
+        <translation>无法将设置保存到 %1：%2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to</source>
+        <translation>其所在文件夹不可写</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::FilesPage</name>
+    <message>
+        <source>&amp;Folder for recordings:</source>
+        <translation>录制文件夹(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Folder for recordings</source>
+        <translation>录制文件夹</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>浏览(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>Browse for the folder for recordings</source>
+        <translation>浏览录制文件夹</translation>
+    </message>
+    <message>
+        <source>Enter the full path of a folder.</source>
+        <translation>请输入文件夹的完整路径。</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>这是文件，不是文件夹。</translation>
+    </message>
+    <message>
+        <source>You are not allowed to write into this folder.</source>
+        <translation>您没有此文件夹的写入权限。</translation>
+    </message>
+    <message>
+        <source>The free space of this folder cannot be told.</source>
+        <translation>无法获知此文件夹的可用空间。</translation>
+    </message>
+    <message>
+        <source>Free space: %1</source>
+        <translation>可用空间：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::MainWindow</name>
+    <message>
+        <source>Recording Scheduler</source>
+        <translation>录制计划</translation>
+    </message>
+    <message>
+        <source>Settings pages</source>
+        <translation>设置页面</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>计划</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>选择录制自动停止或开始的时间。</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>选择录制内容的保存位置。</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved: %1</source>
+        <translation>无法保存更改：%1</translation>
+    </message>
+    <message>
+        <source>Your changes are saved again.</source>
+        <translation>更改已恢复保存。</translation>
+    </message>
+    <message>
+        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <translation>无法保存更改。现在关闭窗口，更改将会丢失。</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>仍然关闭</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::ScreenshotTour</name>
+    <message>
+        <source>cannot create the folder %1</source>
+        <translation>无法创建文件夹 %1</translation>
+    </message>
+    <message>
+        <source>cannot reach: %1</source>
+        <translation>无法到达：%1</translation>
+    </message>
+    <message>
+        <source>cannot write %1</source>
+        <translation>无法写入 %1</translation>
+    </message>
+</context>
+</TS>
