@@ -616,6 +616,17 @@ private Q_SLOTS:
         QTEST(panel.watcher->TakeCalls(), "calls");
     }
 
+    void writesTheDurationFromLeftToRight()
+    {
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        const Panel panel;
+        panel.Duration()->setTime(QTime(1, 2, 3));
+        QCOMPARE(panel.Duration()->text(), QString("01:02:03"));
+        QCOMPARE(panel.Duration()->layoutDirection(), Qt::LeftToRight);
+        QCOMPARE(panel.widget->layoutDirection(), Qt::RightToLeft);
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    }
+
     void neverChangesTheBlockingOfItsControls()
     {
         Panel panel;

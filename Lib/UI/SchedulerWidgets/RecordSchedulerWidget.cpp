@@ -26,7 +26,6 @@
 #include "ModalQuestion.h"
 #include "RecordSchedulerWidgetUi.h"
 #include "ScheduleRecordTableWidget.h"
-#include "TimeEditTyping.h"
 
 namespace Zentor::PX::Scheduler::UI {
 namespace {
@@ -141,7 +140,6 @@ void RecordSchedulerWidget::ConnectControls()
             [this] { OnScheduledModeToggled(); });
 
     auto* durationEdit = m_ui->limitedCaptureDurationSettingsCaptureDuration;
-    new SeparatorKeyFilter(durationEdit);
     durationEdit->setTime(MinimumDuration);
     connect(durationEdit, &QTimeEdit::timeChanged, this, [this] { OnLimitedDurationChanged(); });
     connect(m_ui->limitedCaptureDurationSettingsActionOnFinishBox,

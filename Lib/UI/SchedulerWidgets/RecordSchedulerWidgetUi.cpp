@@ -13,6 +13,7 @@
 #include "CreateRecordTaskWidget.h"
 #include "HostInterfaces.h"
 #include "ScheduleRecordTableWidget.h"
+#include "TimeEditTyping.h"
 #include "WidgetTree.h"
 
 namespace Zentor::PX::Scheduler::UI {
@@ -42,6 +43,7 @@ void RecordSchedulerWidgetUi::setupUi(QWidget* panel,
         scheduledCaptureStackedWidget, "createRecordTaskWidget", lookAndFeel);
     LayOut(panel);
     BindCaptions();
+    PrepareForTyping(*limitedCaptureDurationSettingsCaptureDuration);
     retranslateUi();
 }
 
