@@ -47,35 +47,6 @@ private Q_SLOTS:
         QTEST(moment.toString(Qt::ISODate), "shown");
     }
 
-    void findsTheRepeatOfAReading()
-    {
-        const ZoneChange change("Europe/Berlin");
-        const QDateTime first = QDateTime(QDate(2027, 10, 31), QTime(1, 30)).addSecs(3600);
-        QCOMPARE(first.time(), QTime(2, 30));
-        const QDateTime repeat = RepeatOf(first);
-        QCOMPARE(first.secsTo(repeat), qint64(3600));
-        QCOMPARE(repeat.time(), QTime(2, 30));
-        QCOMPARE(RepeatOf(repeat), repeat);
-    }
-
-    void findsNoRepeatOfOtherReadings_data()
-    {
-        QTest::addColumn<QDateTime>("reading");
-        const ZoneChange change("Europe/Berlin");
-        QTest::newRow("an ordinary day") << QDateTime(QDate(2027, 6, 1), QTime(2, 30));
-        QTest::newRow("put forward") << QDateTime(QDate(2027, 3, 28), QTime(1, 30));
-        QTest::newRow("just before") << QDateTime(QDate(2027, 10, 31), QTime(1, 59, 59));
-        QTest::newRow("just after") << QDateTime(QDate(2027, 10, 31), QTime(3, 0));
-    }
-
-    void findsNoRepeatOfOtherReadings()
-    {
-        QFETCH(QDateTime, reading);
-        const ZoneChange change("Europe/Berlin");
-        QCOMPARE(RepeatOf(reading), reading);
-    }
-
-    /// Every zone, every day of a year, times through the day.
     void staysOnTheDayInEveryZone()
     {
         const QVector<QTime> times{QTime(0, 0),  QTime(0, 30), QTime(1, 30), QTime(2, 0),

@@ -471,7 +471,7 @@ private Q_SLOTS:
     }
 
     /// Which of the two moments a typed reading stands for is up to the system.
-    void takesTheSecondMomentOfAReadingWhenTheFirstHasPassed()
+    void startsInTenSecondsThoughTheReadingComesAgain()
     {
         const ZoneChange zone("Europe/Berlin");
         const QDateTime first = QDateTime(QDate(2027, 10, 31), QTime(1, 45)).addSecs(3600);
@@ -480,12 +480,20 @@ private Q_SLOTS:
         const TaskForm form;
         form.Start()->setDateTimeRange(first, first);
         QCOMPARE(form.widget->GetStartDateTime(), first);
-        clock.Set(first.addSecs(45 * 60));
+        const QDateTime later = first.addSecs(60);
+        clock.Set(later);
         ChangeSpies spies(form.widget);
         form.Tick();
-        QCOMPARE(form.widget->GetStartDateTime(), first.addSecs(3600));
-        QCOMPARE(form.Start()->text(), QStringLiteral("02:45:00"));
-        QCOMPARE(spies.Take(), QStringLiteral("0 0 0 0"));
+        QCOMPARE(form.widget->GetStartDateTime(), later.addSecs(10));
+        QCOMPARE(spies.Take(), QStringLiteral("0 0 1 0"));
+    }
+
+    void carriesTheStartInTheDateWhereClocksAreNotChanged()
+    {
+        const FakeClock clock(QDateTime(QDate(2027, 3, 28), QTime(2, 0)));
+        const TaskForm form;
+        form.Tick();
+        QCOMPARE(form.Date()->dateTime(), form.Start()->dateTime());
     }
 
     void takesTheNextReadingForOneThatIsSkipped()

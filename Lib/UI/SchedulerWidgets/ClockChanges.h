@@ -12,8 +12,4 @@ namespace Zentor::PX::Scheduler::UI {
 /// so 02:30 becomes 03:30; at the end of a day, for the last moment of that day.
 QDateTime MomentOf(const QDate& date, const QTime& time);
 
-/// The later moment at which the local clocks show the reading of \a moment again, because they
-/// were put back in between; \a moment itself when there is none.
-QDateTime RepeatOf(const QDateTime& moment);
-
 } // namespace Zentor::PX::Scheduler::UI

@@ -14,6 +14,7 @@
 #include <QSignalBlocker>
 #include <QTimeEdit>
 #include <QTimer>
+#include <QTimeZone>
 #include <QToolTip>
 
 #include "ClockChanges.h"
@@ -43,12 +44,14 @@ void MoveTo(QDateTimeEdit& editor, const QDateTime& moment, const QDateTime& min
 /// Sets the date editor to the date of \a moment.
 ///
 /// The editor keeps the time of day unseen. On a date without that time it would show the day
-/// before when the clocks are put forward early in the morning, so these hours give way to noon.
+/// before when the clocks are put forward early in the morning, so these hours give way to noon
+/// where clocks are changed at all.
 void SetDateOf(QDateTimeEdit& editor, const QDateTime& moment)
 {
     const QTime morning(4, 0);
     const QTime noon(12, 0);
-    editor.setDateTime(moment.time() < morning ? QDateTime(moment.date(), noon) : moment);
+    const bool maySkip = moment.time() < morning && moment.timeZone().hasTransitions();
+    editor.setDateTime(maySkip ? QDateTime(moment.date(), noon) : moment);
 }
 
 /// The names of the screens without the prefix of device names.
@@ -173,14 +176,17 @@ void CreateRecordTaskWidget::ShowValidateError(ValidateError error)
     if (!isVisible()) {
         return;
     }
+    QWidget* const nameField = m_ui->scheduledCaptureSettingsNameLineEdit;
+    QWidget* const startField = m_ui->scheduledCaptureSettingsStartTime;
     QWidget* const invalidField = FieldOf(error);
     const QString invalid = QStringLiteral("Invalid");
-    for (QWidget* field : {static_cast<QWidget*>(m_ui->scheduledCaptureSettingsNameLineEdit),
-                           static_cast<QWidget*>(m_ui->scheduledCaptureSettingsStartTime)}) {
+    for (QWidget* field : {nameField, startField}) {
         // A mark that stays is not taken away in between: each change is a new style sheet pass.
         if (field != invalidField || field->property("SubStyle") != invalid) {
             Zentor::Util::ApplyWidgetStyle(field, QStringLiteral("Normal"), "SubStyle");
         }
+    }
+    for (QWidget* field : {startField, nameField}) {
         if (field != invalidField) {
             ClearErrorTip(*field);
         }
@@ -297,8 +303,7 @@ void CreateRecordTaskWidget::UpdateStartTimeLimits()
     const QDateTime start = startTime->dateTime();
     if (start < now) {
         const TypingKeeper keeper(*startTime);
-        const QDateTime repeat = RepeatOf(start);
-        MoveTo(*startTime, repeat < now ? now.addSecs(SecondsToNextStart) : repeat, now);
+        MoveTo(*startTime, now.addSecs(SecondsToNextStart), now);
     } else if (m_ui->scheduledCaptureSettingsDate->date() >= now.date()) {
         return;
     }

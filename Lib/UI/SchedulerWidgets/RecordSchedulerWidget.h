@@ -93,6 +93,7 @@ private:
     std::shared_ptr<PathsSettings> m_pathsSettings;
     std::shared_ptr<ISettingsWatcher> m_settingsWatcher;
 
+    /// What is on screen on behalf of the panel; not a setting.
     struct Questions;
     const std::unique_ptr<Questions> m_questions;
 };

@@ -34,11 +34,15 @@ void AddRowLabels(QWidget* row, const RecordTime& record)
     const auto start =
         QDateTime::fromMSecsSinceEpoch(record.start.time_since_epoch().count() / 1000);
     const auto dateFormat = QCoreApplication::translate("ScheduleRecordTableWidget", "dd.MM.yyyy");
-    const auto timeFormat = QCoreApplication::translate("ScheduleRecordTableWidget", "hh:mm:ss");
     AddRowLabel(row, "titleLabel", record.title);
     AddRowLabel(row, "dateLabel", start.date().toString(dateFormat));
-    AddRowLabel(row, "timeLabel", start.time().toString(timeFormat));
-    AddRowLabel(row, "durationLabel", ClockReadingOf(record.duration).toString(timeFormat));
+    AddRowLabel(row, "timeLabel",
+                start.time().toString(
+                    QCoreApplication::translate("ScheduleRecordTableWidget", "hh:mm:ss")));
+    AddRowLabel(
+        row, "durationLabel",
+        ClockReadingOf(record.duration)
+            .toString(QCoreApplication::translate("ScheduleRecordTableWidget", "hh:mm:ss")));
 }
 
 /// The child widgets are what the style sheet draws a row with; the row itself is only their frame.
@@ -164,6 +168,8 @@ void ScheduleRecordTableWidget::Private::ConfirmAndRemoveRecord(ZFrame* row, QSt
     if (answer != QMessageBox::Ok || table.isNull() || clickedRow.isNull()) {
         return;
     }
+    // The row lives on until the event loop deletes it, but a task added until then must find its
+    // place among the rows that remain.
     ui->recordLayout->removeWidget(clickedRow);
     clickedRow->hide();
     clickedRow->deleteLater();

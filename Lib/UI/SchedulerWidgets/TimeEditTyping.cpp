@@ -62,6 +62,9 @@ bool SeparatorKeyFilter::IsSeparatorBeforeSection(const QString& key) const
 {
     // The section that was moved on to is selected as a whole.
     const auto* lineEdit = m_editor->findChild<QLineEdit*>();
+    if (!lineEdit->hasSelectedText()) {
+        return false;
+    }
     const QString before = lineEdit->text().left(lineEdit->selectionStart());
     return !key.isEmpty() && before.endsWith(key);
 }
