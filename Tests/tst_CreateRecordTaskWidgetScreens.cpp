@@ -1,48 +1,13 @@
 #include <private/qguiapplication_p.h>
 #include <QGuiApplication>
-#include <qpa/qplatformscreen.h>
-#include <qpa/qwindowsysteminterface.h>
 #include <QScreen>
 
+#include "FakeScreen.h"
 #include "TaskForm.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {
 namespace {
-
-/// A screen that exists for Qt only.
-class FakeScreen final : public QPlatformScreen {
-public:
-    FakeScreen(const QString& name, const QRect& geometry)
-        : m_name(name)
-        , m_geometry(geometry)
-    {
-    }
-
-    QRect geometry() const override { return m_geometry; }
-    int depth() const override { return 32; }
-    QImage::Format format() const override { return QImage::Format_RGB32; }
-    QString name() const override { return m_name; }
-
-    void Rename(const QString& name) { m_name = name; }
-
-private:
-    QString m_name;
-    QRect m_geometry;
-};
-
-/// Owned by Qt until it is unplugged.
-FakeScreen* Plug(const QString& name, bool isPrimary = false)
-{
-    auto* screen = new FakeScreen(name, QRect(2000, 0, 1280, 720));
-    QWindowSystemInterface::handleScreenAdded(screen, isPrimary);
-    return screen;
-}
-
-void Unplug(FakeScreen* screen)
-{
-    QWindowSystemInterface::handleScreenRemoved(screen);
-}
 
 QStringList ScreensOfTheApplication()
 {
