@@ -15,3 +15,4 @@ scheduler_add_test(tst_CreateRecordTaskWidgetOutputs LIBRARIES ${library} SERIAL
     LAUNCHER "${CMAKE_CURRENT_SOURCE_DIR}/on_real_x_server.sh")
 scheduler_add_test(tst_RecordSchedulerWidget LIBRARIES ${library})
 scheduler_add_test(tst_RecordSchedulerWidgetScheduling LIBRARIES ${library})
+scheduler_add_test(tst_RecordSchedulerWidgetBoxes LIBRARIES ${library} Qt5::GuiPrivate)
