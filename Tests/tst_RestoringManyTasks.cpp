@@ -3,6 +3,7 @@
 #include "Application.h"
 #include "Application/LookAndFeelManager.h"
 #include "Application/SettingsManager.h"
+#include "CpuTimer.h"
 #include "PXUserSettings/SettingsStore.h"
 #include "PXUserSettings/StoredSettings.h"
 #include "RecordSchedulerWidget.h"
@@ -57,12 +58,11 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(&panel));
 
         const QSignalSpy saved(store.get(), &PX::SettingsStore::Saved);
-        QElapsedTimer timer;
-        timer.start();
+        const CpuTimer timer;
         panel.RestoreSettings();
         QTRY_VERIFY(saved.count() > 0);
-        const auto elapsed = timer.elapsed();
-        qInfo("%d tasks restored, shown and saved in %lld ms", taskCount, elapsed);
+        const auto elapsed = timer.Milliseconds();
+        qInfo("%d tasks restored, shown and saved in %.0f ms", taskCount, elapsed);
         QCOMPARE(panel.findChildren<QWidget*>("infoRecordFrame").size(), taskCount);
         QVERIFY(store->Flush());
         QCOMPARE(saved.count(), 1);
