@@ -1,4 +1,5 @@
 #include <QPushButton>
+#include <QStyle>
 #include <QTextDocument>
 
 #include "HostInterfaces.h"
@@ -194,6 +195,35 @@ private Q_SLOTS:
         QVERIFY(plain.text() != text);
         QVERIFY(plain.text() != QString(QChar(0x2026)));
         QCOMPARE(Picture(label), Picture(plain));
+    }
+
+    void alignsWithTheLayout_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("left to right") << LongText();
+        QTest::newRow("right to left") << RightToLeftText();
+        QTest::newRow("digits") << QStringLiteral("05.03.2035");
+    }
+
+    void alignsWithTheLayout()
+    {
+        QFETCH(QString, text);
+        ZLabel label;
+        label.setOriginalText(text);
+        const auto leftmost = QStyle::visualAlignment(Qt::RightToLeft, label.alignment());
+        QCOMPARE(leftmost & Qt::AlignHorizontal_Mask, Qt::AlignLeft | Qt::AlignAbsolute);
+        label.setLayoutDirection(Qt::RightToLeft);
+        const auto rightmost = QStyle::visualAlignment(Qt::LeftToRight, label.alignment());
+        QCOMPARE(rightmost & Qt::AlignHorizontal_Mask, Qt::AlignRight | Qt::AlignAbsolute);
+        QVERIFY(label.alignment().testFlag(Qt::AlignVCenter));
+    }
+
+    void leavesAnotherAlignmentAlone()
+    {
+        ZLabel label;
+        label.setAlignment(Qt::AlignCenter);
+        label.setLayoutDirection(Qt::RightToLeft);
+        QCOMPARE(label.alignment(), Qt::Alignment(Qt::AlignCenter));
     }
 
     void paintsFrames()

@@ -1,6 +1,7 @@
 #include "Caption.h"
 #include "ElidedText.h"
 #include "HostInterfaces.h"
+#include "LayoutAlignment.h"
 
 namespace Zentor {
 
@@ -9,6 +10,7 @@ ZLabel::ZLabel(QWidget* parent, Qt::WindowFlags flags)
 {
     setTextFormat(Qt::PlainText);
     new ElidedText(this);
+    new LayoutAlignment(this);
 }
 
 void ZLabel::setOriginalText(const QString& text)
