@@ -62,6 +62,8 @@ void FilesPage::BuildWidgets()
     m_folderLabel->setBuddy(m_folderEdit);
     m_browseButton = new QPushButton(this);
     m_browseButton->setObjectName(QStringLiteral("browseButton"));
+    // Lets Enter press it when it has the focus.
+    m_browseButton->setAutoDefault(true);
     m_problemLabel = CreateLabel(QStringLiteral("folderProblemLabel"), this);
     m_problemLabel->hide();
     m_freeSpaceLabel = CreateLabel(QStringLiteral("freeSpaceLabel"), this);

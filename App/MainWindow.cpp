@@ -1,11 +1,13 @@
 #include "MainWindow.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -15,6 +17,8 @@
 #include "Application/SettingsManager.h"
 #include "FilesPage.h"
 #include "Page.h"
+#include "PanelAnnouncer.h"
+#include "PanelKeyboard.h"
 #include "PXUserSettings/SettingsStore.h"
 #include "PXUserSettings/StoredSettings.h"
 #include "RecordSchedulerWidget.h"
@@ -57,6 +61,7 @@ MainWindow::MainWindow(std::shared_ptr<PX::SettingsStore> store,
     setObjectName(QStringLiteral("mainWindow"));
     BuildWidgets();
     Connect();
+    AssistPanel();
     Retranslate();
     UpdateIcons();
     RestorePlace();
@@ -95,20 +100,36 @@ QWidget* MainWindow::CreatePageColumn(QWidget* parent)
     AddPage(CreateSchedulePage());
     AddPage(CreateFilesPage());
 
-    m_statusBar = new QStatusBar(pageColumn);
+    QWidget* foot = CreateFoot(pageColumn);
+    auto* layout = new QVBoxLayout(pageColumn);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_pages, 1);
+    layout->addWidget(foot);
+    return pageColumn;
+}
+
+QWidget* MainWindow::CreateFoot(QWidget* parent)
+{
+    auto* foot = new QFrame(parent);
+    foot->setObjectName(QStringLiteral("foot"));
+    m_statusBar = new QStatusBar(foot);
     m_statusBar->setSizeGripEnabled(false);
     m_saveProblemLabel = new QLabel(m_statusBar);
     m_saveProblemLabel->setObjectName(QStringLiteral("saveProblemLabel"));
     m_saveProblemLabel->setTextFormat(Qt::PlainText);
     m_saveProblemLabel->hide();
     m_statusBar->addWidget(m_saveProblemLabel, 1);
+    m_startButton = new QPushButton(foot);
+    m_startButton->setObjectName(QStringLiteral("startRecordingButton"));
+    // Lets Enter press it when it has the focus.
+    m_startButton->setAutoDefault(true);
 
-    auto* layout = new QVBoxLayout(pageColumn);
+    auto* layout = new QHBoxLayout(foot);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_pages, 1);
-    layout->addWidget(m_statusBar);
-    return pageColumn;
+    layout->addWidget(m_statusBar, 1);
+    layout->addWidget(m_startButton);
+    return foot;
 }
 
 void MainWindow::AddPage(Page* page)
@@ -143,10 +164,40 @@ void MainWindow::Connect()
     connect(m_pageList, &QListWidget::currentRowChanged, m_pages, &QStackedWidget::setCurrentIndex);
     connect(m_panel, &PX::Scheduler::UI::RecordSchedulerWidget::OpenFilesSettingsRequested, this,
             [this] { ShowPage(FilesId()); });
+    connect(m_startButton, &QPushButton::clicked, this, &MainWindow::StartRecording);
     connect(m_store.get(), &PX::SettingsStore::SaveFailed, this, &MainWindow::ShowSaveProblem);
     connect(m_store.get(), &PX::SettingsStore::Saved, this, &MainWindow::ForgetSaveProblem);
     const auto* quit = new QShortcut(QKeySequence::Quit, this);
     connect(quit, &QShortcut::activated, this, &MainWindow::close);
+}
+
+void MainWindow::AssistPanel()
+{
+    new PanelKeyboard(m_panel);
+    const auto* announcer = new PanelAnnouncer(m_panel, m_store);
+    connect(announcer, &PanelAnnouncer::Happened, this,
+            [this](const QString& text) { Announce(text, messageMilliseconds); });
+    // Longer on screen than the tip at the field, which goes after some seconds.
+    connect(announcer, &PanelAnnouncer::ProblemChanged, this,
+            [this](const QString& problem) { Announce(problem, 0); });
+}
+
+void MainWindow::StartRecording()
+{
+    m_filesPage->Apply();
+    // The window may be destroyed while the panel asks.
+    const QPointer<MainWindow> self(this);
+    const bool isReady = m_panel->ValidateSettings();
+    if (!self.isNull() && isReady) {
+        Announce(tr("Ready to record"), messageMilliseconds);
+    }
+}
+
+void MainWindow::Announce(const QString& text, int milliseconds)
+{
+    m_statusBar->showMessage(text, milliseconds);
+    QAccessibleEvent event(m_statusBar, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 void MainWindow::ShowPage(const QString& id)
@@ -184,6 +235,9 @@ void MainWindow::Retranslate()
     // The desktop shows it on boxes that have no title of their own.
     QGuiApplication::setApplicationDisplayName(name);
     m_pageList->setAccessibleName(tr("Settings pages"));
+    m_startButton->setText(tr("&Start recording"));
+    m_panel->findChild<QWidget*>(QStringLiteral("recordTableScrollArea"))
+        ->setAccessibleName(tr("Recording schedule"));
     RetranslatePage(0, tr("Schedule"), tr("Choose when a recording stops or starts by itself."));
     RetranslatePage(1, tr("Files"), tr("Choose where recordings are kept."));
 }

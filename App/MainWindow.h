@@ -6,6 +6,7 @@
 
 class QLabel;
 class QListWidget;
+class QPushButton;
 class QStackedWidget;
 class QStatusBar;
 
@@ -44,16 +45,23 @@ protected:
 
 private:
     void BuildWidgets();
+    QWidget* CreateFoot(QWidget* parent);
     QWidget* CreatePageColumn(QWidget* parent);
     void AddPage(Page* page);
     Page* CreateSchedulePage();
     Page* CreateFilesPage();
     void Connect();
+    /// Makes the panel usable by keyboard alone, and speaks of what happens in it.
+    void AssistPanel();
     void RestorePlace();
     void RememberPlace();
     void Retranslate();
     void RetranslatePage(int index, const QString& title, const QString& description);
     void UpdateIcons();
+    /// Starts a recording when the panel has nothing against it.
+    void StartRecording();
+    /// Shows \a text in the status line, for some time or, with 0, until something else is shown.
+    void Announce(const QString& text, int milliseconds);
     void ShowSaveProblem(const QString& reason);
     void ForgetSaveProblem();
     bool IsClosingWithoutSavingAccepted();
@@ -66,6 +74,7 @@ private:
     FilesPage* m_filesPage = nullptr;
     QStatusBar* m_statusBar = nullptr;
     QLabel* m_saveProblemLabel = nullptr;
+    QPushButton* m_startButton = nullptr;
 };
 
 } // namespace Zentor::App

@@ -9,6 +9,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStackedWidget>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimeEdit>
 
@@ -50,6 +51,12 @@ int InkOn(const QImage& picture, const QColor& ground)
         }
     }
     return ink;
+}
+
+/// A folder on a file system that has no room for files.
+QString FullFolder()
+{
+    return QStringLiteral("/proc/recordings");
 }
 
 /// Whether the Tab key stops at \a widget itself, not at one that has taken it in.
@@ -217,6 +224,125 @@ private Q_SLOTS:
         QVERIFY(Find<QLineEdit>("resultsFolderEdit")->isVisible());
     }
 
+    void isReadyToRecordWhereNothingStandsAgainstIt_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::newRow("schedule") << 0;
+        QTest::newRow("files") << 1;
+    }
+
+    void isReadyToRecordWhereNothingStandsAgainstIt()
+    {
+        QFETCH(int, page);
+        Open();
+        PageList()->setCurrentRow(page);
+        QVERIFY(Button("startRecordingButton")->isVisible());
+        QCOMPARE(StatusText(), QString());
+        Click("startRecordingButton");
+        QCOMPARE(StatusText(), QStringLiteral("Ready to record"));
+    }
+
+    void startsByKeyboard_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("modifier");
+        QTest::newRow("Space") << int(Qt::Key_Space) << int(Qt::NoModifier);
+        QTest::newRow("Return") << int(Qt::Key_Return) << int(Qt::NoModifier);
+        QTest::newRow("Enter") << int(Qt::Key_Enter) << int(Qt::KeypadModifier);
+        QTest::newRow("mnemonic") << int(Qt::Key_S) << int(Qt::AltModifier);
+    }
+
+    void startsByKeyboard()
+    {
+        QFETCH(int, key);
+        QFETCH(int, modifier);
+        Open();
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        Button("startRecordingButton")->setFocus();
+        QTest::keyClick(m_window->windowHandle(), static_cast<Qt::Key>(key),
+                        Qt::KeyboardModifiers(modifier));
+        QTRY_COMPARE(StatusText(), QStringLiteral("Ready to record"));
+    }
+
+    void startsNothingWhileATaskIsUnsettled_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("status");
+        QTest::addColumn<int>("tasks");
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << QString() << 1;
+        QTest::newRow("drop") << int(QMessageBox::No) << QStringLiteral("Ready to record") << 1;
+        QTest::newRow("add") << int(QMessageBox::Yes) << QStringLiteral("Ready to record") << 2;
+    }
+
+    void startsNothingWhileATaskIsUnsettled()
+    {
+        QFETCH(int, answer);
+        QFETCH(QString, status);
+        QFETCH(int, tasks);
+        Open(Tasks(1));
+        KeepRecordingsIn(m_folder->path());
+        Click("scheduledCaptureSettingsAddRecordButton");
+        const ExpectedBox box(static_cast<QMessageBox::StandardButton>(answer));
+        Click("startRecordingButton");
+        QVERIFY(box.Came());
+        QCOMPARE(StatusText(), status);
+        QCOMPARE(Titles().size(), tasks);
+    }
+
+    void showsFilesWhenTheDiskIsFull_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<int>("page");
+        QTest::newRow("file preferences") << int(QMessageBox::Ok) << 1;
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << 0;
+    }
+
+    void showsFilesWhenTheDiskIsFull()
+    {
+        QFETCH(int, answer);
+        QFETCH(int, page);
+        Open(Tasks(1));
+        KeepRecordingsIn(FullFolder());
+        const ExpectedBox box(static_cast<QMessageBox::StandardButton>(answer));
+        Click("startRecordingButton");
+        QVERIFY(box.Came());
+        QCOMPARE(PageList()->currentRow(), page);
+        QCOMPARE(StatusText(), QString());
+    }
+
+    void usesTheFolderThatHasJustBeenTyped()
+    {
+        Open(Tasks(1));
+        KeepRecordingsIn(FullFolder());
+        PageList()->setCurrentRow(1);
+        Find<QLineEdit>("resultsFolderEdit")->setText(m_folder->path());
+        Click("startRecordingButton");
+        QCOMPARE(StatusText(), QStringLiteral("Ready to record"));
+    }
+
+    void survivesItsEndWhileAsked_data()
+    {
+        QTest::addColumn<bool>("withForm");
+        QTest::newRow("unsaved task") << true;
+        QTest::newRow("disk space") << false;
+    }
+
+    void survivesItsEndWhileAsked()
+    {
+        QFETCH(bool, withForm);
+        Open(Tasks(1));
+        KeepRecordingsIn(FullFolder());
+        if (withForm) {
+            Click("scheduledCaptureSettingsAddRecordButton");
+        }
+        const ExpectedBox box([this](QMessageBox&) { m_window.reset(); });
+        // Not with the mouse, which would touch the button again on return.
+        Button("startRecordingButton")->click();
+        QVERIFY(box.Came());
+        QCOMPARE(Titles().size(), 1);
+    }
+
     void ignoresAPageThatItDoesNotHave()
     {
         Open();
@@ -306,15 +432,18 @@ private Q_SLOTS:
         // rest.
         QTest::newRow("schedule")
             << QStringLiteral("scheduledCaptureRadioButton") << 0
-            << QStringLiteral("pageList scheduledCaptureRadioButton recordTableScrollArea "
-                              "deleteToolButton scheduledCaptureSettingsAddRecordButton");
+            << QStringLiteral(
+                   "pageList scheduledCaptureRadioButton recordTableScrollArea "
+                   "deleteToolButton scheduledCaptureSettingsAddRecordButton startRecordingButton");
         QTest::newRow("limited capture")
             << QStringLiteral("limitedCaptureDurationRadioButton") << 0
-            << QStringLiteral("pageList limitedCaptureDurationRadioButton "
-                              "limitedCaptureDurationSettingsCaptureDuration "
-                              "limitedCaptureDurationSettingsActionOnFinishBox");
-        QTest::newRow("files") << QStringLiteral("disableScheduledCaptureRadioButton") << 1
-                               << QStringLiteral("pageList resultsFolderEdit browseButton");
+            << QStringLiteral(
+                   "pageList limitedCaptureDurationRadioButton "
+                   "limitedCaptureDurationSettingsCaptureDuration "
+                   "limitedCaptureDurationSettingsActionOnFinishBox startRecordingButton");
+        QTest::newRow("files")
+            << QStringLiteral("disableScheduledCaptureRadioButton") << 1
+            << QStringLiteral("pageList resultsFolderEdit browseButton startRecordingButton");
     }
 
     void showsFocusOnEveryControl()
@@ -390,6 +519,15 @@ private:
         m_window.reset();
         m_store.reset();
     }
+
+    void KeepRecordingsIn(const QString& folder) const
+    {
+        auto* edit = Find<QLineEdit>("resultsFolderEdit");
+        edit->setText(folder);
+        Q_EMIT edit->editingFinished();
+    }
+
+    QString StatusText() const { return m_window->findChild<QStatusBar*>()->currentMessage(); }
 
     template <typename T> T* Find(const char* objectName) const
     {

@@ -1,0 +1,106 @@
+#pragma once
+
+#include <memory>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QListWidget>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <QWindow>
+
+#include "Application/LookAndFeelManager.h"
+#include "MainWindow.h"
+#include "PXUserSettings/SettingsStore.h"
+#include "Samples.h"
+
+namespace Zentor::Tests {
+
+/// The application's window on settings of its own, and short ways to its parts. Where the panel
+/// starts with tasks, they are "Task 1", "Task 2" and so on, and the schedule mode is on.
+class AppWindow {
+public:
+    explicit AppWindow(int taskCount = 0)
+        : store(
+            std::make_shared<PX::SettingsStore>(folder.filePath(QStringLiteral("settings.json"))))
+    {
+        store->Open(nullptr);
+        store->Change([&](PX::UserSettings& settings) {
+            for (int number = 1; number <= taskCount; ++number) {
+                settings.schedule.push_back(Record(QStringLiteral("Task %1").arg(number),
+                                                   At("00:00") + std::chrono::hours(number),
+                                                   std::chrono::minutes(30)));
+            }
+            settings.scheduledCaptureEnabled = taskCount > 0;
+            settings.resultsFolderPath = folder.path();
+        });
+        window =
+            std::make_unique<App::MainWindow>(store, std::make_shared<App::LookAndFeelManager>());
+    }
+
+    /// Shows the window and waits until it has the keyboard.
+    bool Show() const
+    {
+        window->show();
+        window->activateWindow();
+        return QTest::qWaitForWindowActive(window.get());
+    }
+
+    template <typename T = QWidget> T* Find(const char* objectName) const
+    {
+        return window->findChild<T*>(QLatin1String(objectName));
+    }
+    QAbstractButton* Button(const char* objectName) const
+    {
+        return Find<QAbstractButton>(objectName);
+    }
+
+    /// Presses \a key where a person would: in whatever has the keyboard.
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        const QWidget* popup = QApplication::activePopupWidget();
+        QTest::keyClick((popup != nullptr ? popup : window.get())->windowHandle(), key, modifiers);
+    }
+    void Type(const char* text) const
+    {
+        for (; *text != '\0'; ++text) {
+            QTest::keyClick(window->windowHandle(), *text);
+        }
+    }
+
+    void Focus(const char* objectName) const { Find(objectName)->setFocus(Qt::TabFocusReason); }
+    /// The name of what has the focus, or what it is called for screen readers when it is one of
+    /// several of that name.
+    QString Focused() const
+    {
+        const QWidget* focused = window->focusWidget();
+        if (focused == nullptr) {
+            return QStringLiteral("nothing");
+        }
+        return focused->objectName() == QLatin1String("deleteToolButton")
+            ? focused->accessibleName()
+            : focused->objectName();
+    }
+
+    bool IsFormOpen() const { return Find("createRecordTaskWidget")->isVisible(); }
+    QString StatusText() const { return window->findChild<QStatusBar*>()->currentMessage(); }
+    QListWidget* PageList() const { return Find<QListWidget>("pageList"); }
+
+    /// The titles of the stored tasks, as in "Task 1,Task 2".
+    QString Titles() const
+    {
+        QStringList titles;
+        for (const auto& task : store->Settings().schedule) {
+            titles << task.title;
+        }
+        return titles.join(QLatin1Char(','));
+    }
+
+    const QTemporaryDir folder;
+    std::shared_ptr<PX::SettingsStore> store;
+    std::unique_ptr<App::MainWindow> window;
+};
+
+} // namespace Zentor::Tests
