@@ -149,6 +149,57 @@ void ShowFiles(ScreenshotTour& tour)
     tour.Picture(QStringLiteral("12-files"));
 }
 
+/// Refused twice: for its name, and then for its time.
+void ShowRefusedTasks(ScreenshotTour& tour)
+{
+    const QString name = QStringLiteral("scheduledCaptureSettingsNameLineEdit");
+    tour.ClickEntry(QStringLiteral("pageList"), 0);
+    WaitUntilShown(tour, QStringLiteral("stubInfoRecordFrame"));
+    tour.Press(Qt::Key_Insert);
+    WaitUntilShown(tour, name);
+    tour.Type(QStringLiteral("Standup"));
+    // Past the sections of the date and of the start, onto the first one of the duration.
+    for (int section = 0; section < 7; ++section) {
+        tour.Press(Qt::Key_Tab);
+    }
+    tour.Type(QStringLiteral("010000"));
+    tour.Press(Qt::Key_Return);
+    WaitUntilShown(tour, QStringLiteral("infoRecordFrame"));
+
+    tour.Press(Qt::Key_Insert);
+    WaitUntilShown(tour, name);
+    tour.Type(QStringLiteral("Standup"));
+    tour.PointAway();
+    tour.Picture(QStringLiteral("13-new-task-same-name"));
+    tour.Type(QStringLiteral(" 2"));
+    tour.PointAway();
+    tour.Picture(QStringLiteral("14-new-task-same-time"));
+
+    tour.Press(Qt::Key_Escape);
+    WaitForBox(tour);
+    tour.Picture(QStringLiteral("15-unsaved-task-question"));
+    tour.ClickInBox(QMessageBox::No);
+    WaitForNoBox(tour);
+}
+
+void ShowFullDisk(ScreenshotTour& tour)
+{
+    tour.ClickEntry(QStringLiteral("pageList"), 1);
+    WaitUntilShown(tour, QStringLiteral("resultsFolderEdit"));
+    tour.Click(QStringLiteral("resultsFolderEdit"));
+    tour.Press(Qt::Key_A, Qt::ControlModifier);
+    // A file system that has no room for files.
+    tour.Type(QStringLiteral("/proc/recordings"));
+    tour.ClickEntry(QStringLiteral("pageList"), 0);
+    WaitUntilShown(tour, QStringLiteral("infoRecordFrame"));
+    tour.Click(QStringLiteral("startRecordingButton"));
+    WaitForBox(tour);
+    tour.PointAway();
+    tour.Picture(QStringLiteral("16-full-disk"));
+    tour.ClickInBox(QMessageBox::Cancel);
+    WaitForNoBox(tour);
+}
+
 } // namespace
 
 void WriteTourScript(ScreenshotTour& tour)
@@ -159,6 +210,8 @@ void WriteTourScript(ScreenshotTour& tour)
     ShowEmptySchedule(tour);
     ShowForm(tour);
     ShowFiles(tour);
+    ShowRefusedTasks(tour);
+    ShowFullDisk(tour);
 }
 
 } // namespace Zentor::App

@@ -27,7 +27,11 @@ QStringList ExpectedPictures()
             QStringLiteral("09-empty-schedule.png"),
             QStringLiteral("10-new-task.png"),
             QStringLiteral("11-new-task-without-name.png"),
-            QStringLiteral("12-files.png")};
+            QStringLiteral("12-files.png"),
+            QStringLiteral("13-new-task-same-name.png"),
+            QStringLiteral("14-new-task-same-time.png"),
+            QStringLiteral("15-unsaved-task-question.png"),
+            QStringLiteral("16-full-disk.png")};
 }
 
 int RunProgram(const QStringList& arguments, QString* error = nullptr)
