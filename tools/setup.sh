@@ -20,7 +20,7 @@ packages_to_test=(
     qtbase5-private-dev
     xvfb xauth xdotool openbox
     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils
-    dbus at-spi2-core
+    dbus at-spi2-core python3-gi gir1.2-atspi-2.0
     appstream desktop-file-utils man-db)
 
 missing_packages() {
