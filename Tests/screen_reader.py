@@ -124,7 +124,7 @@ def run_scenario(app):
     app.wait_for_status("Task added: Standup")
     app.find(button, "Delete Standup")
 
-    duplicate = "Task with this title already exist"
+    duplicate = "A task with this name already exists."
     app.press(button, "Add record event")
     app.write("File name:", "Standup")
     app.wait_for_status(duplicate)

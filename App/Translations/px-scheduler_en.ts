@@ -126,7 +126,7 @@
     </message>
     <message>
         <source>Don&apos;t Add</source>
-        <translation>Don&apos;t add</translation>
+        <translation>Don&apos;t Add</translation>
     </message>
     <message>
         <source>Add</source>
@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>Add record event</source>
-        <translation>Add recording</translation>
+        <translation>Add record event</translation>
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
