@@ -356,6 +356,42 @@ private Q_SLOTS:
         }
     }
 
+    void keepsTheClickedButtonUntilTheClickIsOver_data()
+    {
+        QTest::addColumn<QString>("victim");
+        QTest::newRow("the panel goes") << "panel";
+        QTest::newRow("the window goes") << "window";
+        QTest::newRow("the rows go") << "rows";
+    }
+
+    void keepsTheClickedButtonUntilTheClickIsOver()
+    {
+        QFETCH(QString, victim);
+        Scene scene;
+        QVERIFY(scene.Show());
+        const QPointer<QToolButton> button(scene.DeleteButton(1));
+        const ExpectedBox box([&](QMessageBox& question) {
+            if (victim == QLatin1String("panel")) {
+                delete scene.widget;
+            } else if (victim == QLatin1String("window")) {
+                scene.panel.window.reset();
+            } else {
+                scene.panel.Table()->ClearSchedule();
+                question.button(QMessageBox::Ok)->click();
+            }
+        });
+        // Comes after the table in the order of those that hear of the click.
+        const QSignalSpy clicks(button, &QToolButton::clicked);
+        RunApplication([&] { UserInput::Click(button); });
+        QVERIFY(box.Came());
+        QCOMPARE(clicks.count(), 1);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(button.isNull());
+        if (!scene.widget.isNull()) {
+            QCOMPARE(scene.State(), QString("scheduled+stack  table"));
+        }
+    }
+
 private:
     static void AddRows(const Question& question, const Disturbance& disturbance)
     {

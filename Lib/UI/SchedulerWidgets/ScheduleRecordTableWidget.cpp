@@ -65,6 +65,7 @@ struct ScheduleRecordTableWidget::Private {
     void UpdateStubRow();
     std::unique_ptr<Zentor::Util::AlertBox> CreateDeletionBox() const;
     void ConfirmAndRemoveRecord(ZFrame* row, QString title);
+    void KeepAskingButton();
     void RemoveAtOnce(QWidget* row);
 
     const std::unique_ptr<ScheduleRecordTableUi> ui;
@@ -72,6 +73,8 @@ struct ScheduleRecordTableWidget::Private {
     SchedulerHelper schedulerHelper;
     const NotNull<std::shared_ptr<App::ISettingsManager>> settingsManager;
     ModalQuestion deletionQuestion;
+    /// The button whose click asked the open question, or the one before.
+    QPointer<QToolButton> askingButton;
 };
 
 ScheduleRecordTableWidget::Private::Private(ScheduleRecordTableWidget* table,
@@ -135,8 +138,21 @@ void ScheduleRecordTableWidget::Private::UpdateStubRow()
     }
 }
 
+/// Takes the button that asks out of its row, which is about to go. A tool button writes to itself
+/// after the click that asked, so it outlives the row until that click is over.
+void ScheduleRecordTableWidget::Private::KeepAskingButton()
+{
+    if (deletionQuestion.IsOpen() && !askingButton.isNull()) {
+        askingButton->hide();
+        askingButton->setParent(nullptr);
+    }
+}
+
 void ScheduleRecordTableWidget::Private::RemoveAtOnce(QWidget* row)
 {
+    if (row->isAncestorOf(askingButton)) {
+        KeepAskingButton();
+    }
     ui->recordLayout->removeWidget(row);
     delete row;
 }
@@ -161,11 +177,21 @@ ScheduleRecordTableWidget::Private::CreateDeletionBox() const
 
 void ScheduleRecordTableWidget::Private::ConfirmAndRemoveRecord(ZFrame* row, QString title)
 {
-    // Both may be destroyed while the question is on screen.
+    // All of them may be destroyed while the question is on screen.
     const QPointer<ScheduleRecordTableWidget> table(owner);
     const QPointer<ZFrame> clickedRow(row);
+    const QPointer<QToolButton> clickedButton(row->findChild<QToolButton*>());
+    if (!deletionQuestion.IsOpen()) {
+        askingButton = clickedButton;
+    }
     const auto answer = ModalQuestion::Ask(deletionQuestion, CreateDeletionBox(), owner);
-    if (answer != QMessageBox::Ok || table.isNull() || clickedRow.isNull()) {
+    if (clickedRow.isNull()) {
+        if (!clickedButton.isNull()) {
+            clickedButton->deleteLater();
+        }
+        return;
+    }
+    if (answer != QMessageBox::Ok || table.isNull()) {
         return;
     }
     // The row lives on until the event loop deletes it, but a task added until then must find its
@@ -191,7 +217,10 @@ ScheduleRecordTableWidget::ScheduleRecordTableWidget(
     Q_EMIT ScheduleChanged();
 }
 
-ScheduleRecordTableWidget::~ScheduleRecordTableWidget() = default;
+ScheduleRecordTableWidget::~ScheduleRecordTableWidget()
+{
+    d->KeepAskingButton();
+}
 
 void ScheduleRecordTableWidget::AddRecord(const RecordTime& record)
 {
