@@ -201,6 +201,21 @@ private Q_SLOTS:
         QCOMPARE(Verdict(panel), fine);
     }
 
+    void judgesAgainWhenTheFormComesBack()
+    {
+        Panel panel;
+        panel.RestoreScheduled({"A"});
+        panel.window->show();
+        panel.FillForm(QStringLiteral("A"), QTime(12, 0));
+        QCOMPARE(Verdict(panel), duplicate);
+        const ExpectedBox box(QMessageBox::Ok);
+        panel.Limited()->click();
+        QVERIFY(box.Came());
+        panel.Scheduled()->click();
+        QVERIFY(panel.IsFormOpen());
+        QCOMPARE(Verdict(panel), fine);
+    }
+
     void schedulesATask_data()
     {
         QTest::addColumn<bool>("fullScreen");

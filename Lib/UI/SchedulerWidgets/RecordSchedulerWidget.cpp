@@ -216,6 +216,10 @@ void RecordSchedulerWidget::OnScheduledModeToggled()
     const bool isOn = m_ui->scheduledCaptureRadioButton->isChecked();
     m_ui->scheduledCaptureStackedWidget->setVisible(isOn);
     ApplyModeStyle(m_ui->scheduledCaptureRadioButtonFrame, isOn);
+    if (isOn && IsFormOpen()) {
+        // The tasks that the entered one was checked against may be gone.
+        UpdateControlsState(ValidateRecord());
+    }
 }
 
 QMessageBox::StandardButton RecordSchedulerWidget::AskToLeaveSchedule()
@@ -273,6 +277,11 @@ void RecordSchedulerWidget::OpenForm()
     UpdateControlsState(ValidateRecord());
 }
 
+bool RecordSchedulerWidget::IsFormOpen() const
+{
+    return m_ui->scheduledCaptureStackedWidget->currentWidget() == m_ui->createRecordTaskWidget;
+}
+
 void RecordSchedulerWidget::ShowTable()
 {
     m_ui->scheduledCaptureStackedWidget->setCurrentWidget(m_ui->scheduledCaptureRecordTablePage);
@@ -318,8 +327,7 @@ void RecordSchedulerWidget::ScheduleNewRecord()
 
 bool RecordSchedulerWidget::ProcessUnsavedRecord()
 {
-    auto* stack = m_ui->scheduledCaptureStackedWidget;
-    if (stack->currentWidget() != m_ui->createRecordTaskWidget) {
+    if (!IsFormOpen()) {
         return true;
     }
     const QPointer<RecordSchedulerWidget> self(this);

@@ -75,6 +75,7 @@ private:
     void OnLimitedDurationChanged();
     void OnScheduleChanged();
     void OpenForm();
+    bool IsFormOpen() const;
     void ShowTable();
 
     QMessageBox::StandardButton AskToLeaveSchedule();
