@@ -20,19 +20,26 @@ Warnings& CurrentWarnings()
     return warnings;
 }
 
-bool IsAllowed(const QString& message)
+/// Whether it is what the offscreen platform says of itself.
+bool IsOfPlatform(const QString& message)
 {
-    // What the offscreen platform says of itself.
     static const QRegularExpression ofPlatform(
         QStringLiteral("^This plugin does not support (propagateSizeHints|raise)\\(\\)"));
+    return ofPlatform.match(message).hasMatch();
+}
+
+bool IsAllowed(const QString& message)
+{
     const auto& allowed = CurrentWarnings().allowed;
-    return ofPlatform.match(message).hasMatch()
-        || std::any_of(allowed.begin(), allowed.end(),
+    return std::any_of(allowed.begin(), allowed.end(),
                        [&](const auto& pattern) { return pattern.match(message).hasMatch(); });
 }
 
 void CollectWarning(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
+    if (IsOfPlatform(message)) {
+        return;
+    }
     auto& warnings = CurrentWarnings();
     if ((type == QtWarningMsg || type == QtCriticalMsg) && !IsAllowed(message)) {
         warnings.unexpected << message;
