@@ -16,3 +16,8 @@ scheduler_add_test(tst_CreateRecordTaskWidgetOutputs LIBRARIES ${library} SERIAL
 scheduler_add_test(tst_RecordSchedulerWidget LIBRARIES ${library})
 scheduler_add_test(tst_RecordSchedulerWidgetScheduling LIBRARIES ${library})
 scheduler_add_test(tst_RecordSchedulerWidgetBoxes LIBRARIES ${library} Qt5::GuiPrivate)
+scheduler_add_test(tst_RandomWalk LIBRARIES ${library} Qt5::GuiPrivate
+    SOURCES RandomWalk/BoxAnswers.cpp RandomWalk/Model.cpp RandomWalk/Stage.cpp
+        Support/FakeClock.cpp)
+target_compile_definitions(tst_RandomWalk PRIVATE
+    $<$<BOOL:${SCHEDULER_SANITIZE}>:SCHEDULER_SANITIZED>)
