@@ -50,6 +50,14 @@ void LetSheetDrawLists(const QWidget& parent)
     }
 }
 
+/// Shows \a text in the status line, for some time or, with 0, until something else is shown.
+void Announce(QStatusBar* statusBar, const QString& text, int milliseconds)
+{
+    statusBar->showMessage(text, milliseconds);
+    QAccessibleEvent event(statusBar, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
 } // namespace
 
 MainWindow::MainWindow(std::shared_ptr<PX::SettingsStore> store,
@@ -175,11 +183,13 @@ void MainWindow::AssistPanel()
 {
     new PanelKeyboard(m_panel);
     const auto* announcer = new PanelAnnouncer(m_panel, m_store);
-    connect(announcer, &PanelAnnouncer::Happened, this,
-            [this](const QString& text) { Announce(text, messageMilliseconds); });
+    // The form is hidden once more at the end of the window, when only its widgets are left.
+    QStatusBar* const bar = m_statusBar;
+    connect(announcer, &PanelAnnouncer::Happened, bar,
+            [bar](const QString& text) { Announce(bar, text, messageMilliseconds); });
     // Longer on screen than the tip at the field, which goes after some seconds.
-    connect(announcer, &PanelAnnouncer::ProblemChanged, this,
-            [this](const QString& problem) { Announce(problem, 0); });
+    connect(announcer, &PanelAnnouncer::ProblemChanged, bar,
+            [bar](const QString& problem) { Announce(bar, problem, 0); });
 }
 
 void MainWindow::StartRecording()
@@ -189,15 +199,8 @@ void MainWindow::StartRecording()
     const QPointer<MainWindow> self(this);
     const bool isReady = m_panel->ValidateSettings();
     if (!self.isNull() && isReady) {
-        Announce(tr("Ready to record"), messageMilliseconds);
+        Announce(m_statusBar, tr("Ready to record"), messageMilliseconds);
     }
-}
-
-void MainWindow::Announce(const QString& text, int milliseconds)
-{
-    m_statusBar->showMessage(text, milliseconds);
-    QAccessibleEvent event(m_statusBar, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
 }
 
 void MainWindow::ShowPage(const QString& id)

@@ -60,8 +60,6 @@ private:
     void UpdateIcons();
     /// Starts a recording when the panel has nothing against it.
     void StartRecording();
-    /// Shows \a text in the status line, for some time or, with 0, until something else is shown.
-    void Announce(const QString& text, int milliseconds);
     void ShowSaveProblem(const QString& reason);
     void ForgetSaveProblem();
     bool IsClosingWithoutSavingAccepted();
