@@ -149,14 +149,17 @@ void ShowFiles(ScreenshotTour& tour)
     tour.Picture(QStringLiteral("12-files"));
 }
 
-/// Refused twice: for its name, and then for its time.
-void ShowRefusedTasks(ScreenshotTour& tour)
+QString NameField()
 {
-    const QString name = QStringLiteral("scheduledCaptureSettingsNameLineEdit");
+    return QStringLiteral("scheduledCaptureSettingsNameLineEdit");
+}
+
+void AddLongTask(ScreenshotTour& tour)
+{
     tour.ClickEntry(QStringLiteral("pageList"), 0);
     WaitUntilShown(tour, QStringLiteral("stubInfoRecordFrame"));
     tour.Press(Qt::Key_Insert);
-    WaitUntilShown(tour, name);
+    WaitUntilShown(tour, NameField());
     tour.Type(QStringLiteral("Standup"));
     // Past the sections of the date and of the start, onto the first one of the duration.
     for (int section = 0; section < 7; ++section) {
@@ -165,9 +168,13 @@ void ShowRefusedTasks(ScreenshotTour& tour)
     tour.Type(QStringLiteral("010000"));
     tour.Press(Qt::Key_Return);
     WaitUntilShown(tour, QStringLiteral("infoRecordFrame"));
+}
 
+/// Refused twice: for its name, and then for its time.
+void ShowRefusedTask(ScreenshotTour& tour)
+{
     tour.Press(Qt::Key_Insert);
-    WaitUntilShown(tour, name);
+    WaitUntilShown(tour, NameField());
     tour.Type(QStringLiteral("Standup"));
     tour.PointAway();
     tour.Picture(QStringLiteral("13-new-task-same-name"));
@@ -210,7 +217,8 @@ void WriteTourScript(ScreenshotTour& tour)
     ShowEmptySchedule(tour);
     ShowForm(tour);
     ShowFiles(tour);
-    ShowRefusedTasks(tour);
+    AddLongTask(tour);
+    ShowRefusedTask(tour);
     ShowFullDisk(tour);
 }
 
