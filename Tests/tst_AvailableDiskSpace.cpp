@@ -1,4 +1,5 @@
-#include <QStorageInfo>
+#include <sys/statvfs.h>
+
 #include <QTemporaryDir>
 
 #include "HostInterfaces.h"
@@ -18,7 +19,11 @@ std::int64_t SpaceOf(const QString& path)
 /// Whether \a bytes are about what is free where \a path is: others write there meanwhile.
 bool IsAboutFreeAt(const QString& path, std::int64_t bytes)
 {
-    const qint64 expected = QStorageInfo(path).bytesAvailable();
+    struct statvfs volume { };
+    if (statvfs(QFile::encodeName(path).constData(), &volume) != 0) {
+        return false;
+    }
+    const auto expected = static_cast<qint64>(volume.f_bavail * volume.f_frsize);
     return bytes > 0 && std::abs(expected - bytes) < 500'000'000;
 }
 

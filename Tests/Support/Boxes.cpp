@@ -29,11 +29,15 @@ ExpectedBox::ExpectedBox(QMessageBox::StandardButton button)
 void ExpectedBox::Look()
 {
     QMessageBox* box = OpenBox();
-    if (box == nullptr || !box->isVisible()) {
+    // Before it is the active window its controls have no focus yet.
+    if (box == nullptr || !box->isActiveWindow()) {
         return;
     }
     m_timer.stop();
     m_came = true;
+    // A box that an action left open would stop the tests for good.
+    constexpr std::chrono::seconds patience(30);
+    QTimer::singleShot(patience, box, &QDialog::reject);
     m_action(*box);
 }
 
