@@ -617,6 +617,33 @@ private Q_SLOTS:
         QTEST(panel.watcher->TakeCalls(), "calls");
     }
 
+    void placesTheDurationBesideItsCaption_data()
+    {
+        QTest::addColumn<bool>("isMirrored");
+        QTest::newRow("left to right") << false;
+        QTest::newRow("right to left") << true;
+    }
+
+    void placesTheDurationBesideItsCaption()
+    {
+        QFETCH(bool, isMirrored);
+        Panel panel;
+        panel.settings->limited = true;
+        panel.widget->RestoreSettings();
+        panel.window->setLayoutDirection(Qt::RightToLeft);
+        if (!isMirrored) {
+            panel.window->setLayoutDirection(Qt::LeftToRight);
+        }
+        panel.window->resize(800, 400);
+        panel.widget->resize(800, 400);
+        panel.window->show();
+        const auto place = panel.Duration()->geometry();
+        const auto other = panel.FinishAction()->geometry();
+        QVERIFY(place.width() < panel.LimitedValues()->width() / 2);
+        QCOMPARE(isMirrored ? place.right() : place.left(),
+                 isMirrored ? other.right() : other.left());
+    }
+
     void writesTheDurationFromLeftToRight()
     {
         QGuiApplication::setLayoutDirection(Qt::RightToLeft);

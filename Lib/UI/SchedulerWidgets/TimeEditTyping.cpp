@@ -2,6 +2,7 @@
 
 #include <QDateTimeEdit>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QLineEdit>
 #include <QSignalBlocker>
 
@@ -35,7 +36,36 @@ TypingKeeper::~TypingKeeper()
 void PrepareForTyping(QDateTimeEdit& editor)
 {
     editor.setLayoutDirection(Qt::LeftToRight);
+    new PlaceMirror(&editor);
     new SeparatorKeyFilter(&editor);
+}
+
+PlaceMirror::PlaceMirror(QDateTimeEdit* editor)
+    : QObject(editor)
+    , m_editor(editor)
+{
+    editor->parentWidget()->installEventFilter(this);
+    FollowParent();
+}
+
+bool PlaceMirror::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::LayoutDirectionChange) {
+        FollowParent();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void PlaceMirror::FollowParent()
+{
+    const QWidget* parent = m_editor->parentWidget();
+    QLayout* layout = parent->layout();
+    if (layout == nullptr || parent->isRightToLeft() == m_isMirrored) {
+        return;
+    }
+    m_isMirrored = !m_isMirrored;
+    const QLayoutItem* item = layout->itemAt(layout->indexOf(m_editor));
+    layout->setAlignment(m_editor, item->alignment() ^ (Qt::AlignLeft | Qt::AlignRight));
 }
 
 SeparatorKeyFilter::SeparatorKeyFilter(QDateTimeEdit* editor)

@@ -31,11 +31,30 @@ private:
 };
 
 /// Makes \a editor comfortable to type in: the separators may be typed too, and the reading is
-/// written from left to right in every language. Takes effect with the next display format.
+/// written from left to right in every language. Takes effect with the next display format. The
+/// editor has its place in the layout of its parent already.
 ///
 /// Where people write from right to left, Qt turns the sections round: the seconds would come first
 /// in a clock reading, and typing would go from the hours to the end of the field.
 void PrepareForTyping(QDateTimeEdit& editor);
+
+/// Mirrors the place of an editor that is itself written from left to right in every language.
+///
+/// A layout aligns a widget by the widget's own direction, so where people write from right to left
+/// such an editor would stand at the far edge of its cell.
+class PlaceMirror final : public QObject {
+public:
+    /// Starts watching the parent of \a editor, which becomes the owner.
+    explicit PlaceMirror(QDateTimeEdit* editor);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void FollowParent();
+
+    QDateTimeEdit* m_editor;
+    bool m_isMirrored = false;
+};
 
 /// Lets the user type the separators too: 00:01:30 as well as 000130.
 ///
