@@ -26,3 +26,9 @@ target_compile_definitions(tst_Theme PRIVATE PX_ICON_TEMPLATES="${PROJECT_SOURCE
 add_test(NAME screen_reader
     COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/screen_reader.py" "$<TARGET_FILE:px-scheduler>")
 set_tests_properties(screen_reader PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 300)
+find_package(Qt5 5.15 REQUIRED COMPONENTS LinguistTools)
+scheduler_add_test(tst_Translations LIBRARIES px-scheduler-app)
+target_compile_definitions(tst_Translations PRIVATE
+    PX_LUPDATE="$<TARGET_FILE:Qt5::lupdate>"
+    PX_SOURCES="${PROJECT_SOURCE_DIR}"
+    PX_TRANSLATIONS="${PROJECT_SOURCE_DIR}/App/Translations")

@@ -320,6 +320,33 @@
         <source>Close anyway</source>
         <translation>إغلاق على أي حال</translation>
     </message>
+    <message>
+        <source>Ready to record</source>
+        <translation>جاهز للتسجيل</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>&amp;بدء التسجيل</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>جدول التسجيل</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::PanelAnnouncer</name>
+    <message>
+        <source>Task added: %1</source>
+        <translation>أُضيفت المهمة: %1</translation>
+    </message>
+    <message>
+        <source>All tasks deleted</source>
+        <translation>حُذفت كل المهام</translation>
+    </message>
+    <message>
+        <source>Task deleted: %1</source>
+        <translation>حُذفت المهمة: %1</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::App::ScreenshotTour</name>

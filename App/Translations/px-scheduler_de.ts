@@ -320,6 +320,33 @@
         <source>Close anyway</source>
         <translation>Trotzdem schließen</translation>
     </message>
+    <message>
+        <source>Ready to record</source>
+        <translation>Bereit zur Aufnahme</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>Aufnahme &amp;starten</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Aufnahmezeitplan</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::PanelAnnouncer</name>
+    <message>
+        <source>Task added: %1</source>
+        <translation>Aufgabe hinzugefügt: %1</translation>
+    </message>
+    <message>
+        <source>All tasks deleted</source>
+        <translation>Alle Aufgaben gelöscht</translation>
+    </message>
+    <message>
+        <source>Task deleted: %1</source>
+        <translation>Aufgabe gelöscht: %1</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::App::ScreenshotTour</name>

@@ -320,6 +320,33 @@
         <source>Close anyway</source>
         <translation>Close anyway</translation>
     </message>
+    <message>
+        <source>Ready to record</source>
+        <translation>Ready to record</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>&amp;Start recording</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Recording schedule</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::PanelAnnouncer</name>
+    <message>
+        <source>Task added: %1</source>
+        <translation>Task added: %1</translation>
+    </message>
+    <message>
+        <source>All tasks deleted</source>
+        <translation>All tasks deleted</translation>
+    </message>
+    <message>
+        <source>Task deleted: %1</source>
+        <translation>Task deleted: %1</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::App::ScreenshotTour</name>

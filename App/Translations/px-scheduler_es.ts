@@ -320,6 +320,33 @@
         <source>Close anyway</source>
         <translation>Cerrar de todos modos</translation>
     </message>
+    <message>
+        <source>Ready to record</source>
+        <translation>Listo para grabar</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>&amp;Iniciar grabación</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Programación de grabaciones</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::PanelAnnouncer</name>
+    <message>
+        <source>Task added: %1</source>
+        <translation>Tarea añadida: %1</translation>
+    </message>
+    <message>
+        <source>All tasks deleted</source>
+        <translation>Todas las tareas eliminadas</translation>
+    </message>
+    <message>
+        <source>Task deleted: %1</source>
+        <translation>Tarea eliminada: %1</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::App::ScreenshotTour</name>

@@ -320,6 +320,33 @@
         <source>Close anyway</source>
         <translation>Fermer quand même</translation>
     </message>
+    <message>
+        <source>Ready to record</source>
+        <translation>Prêt à enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>Dé&amp;marrer l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Planning d’enregistrement</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::PanelAnnouncer</name>
+    <message>
+        <source>Task added: %1</source>
+        <translation>Tâche ajoutée : %1</translation>
+    </message>
+    <message>
+        <source>All tasks deleted</source>
+        <translation>Toutes les tâches ont été supprimées</translation>
+    </message>
+    <message>
+        <source>Task deleted: %1</source>
+        <translation>Tâche supprimée : %1</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::App::ScreenshotTour</name>

@@ -320,6 +320,33 @@
         <source>Close anyway</source>
         <translation>לסגור בכל זאת</translation>
     </message>
+    <message>
+        <source>Ready to record</source>
+        <translation>מוכן להקלטה</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>&amp;התחלת הקלטה</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>לוח ההקלטות</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::PanelAnnouncer</name>
+    <message>
+        <source>Task added: %1</source>
+        <translation>המשימה נוספה: %1</translation>
+    </message>
+    <message>
+        <source>All tasks deleted</source>
+        <translation>כל המשימות נמחקו</translation>
+    </message>
+    <message>
+        <source>Task deleted: %1</source>
+        <translation>המשימה נמחקה: %1</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::App::ScreenshotTour</name>

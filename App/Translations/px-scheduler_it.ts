@@ -320,6 +320,33 @@
         <source>Close anyway</source>
         <translation>Chiudi comunque</translation>
     </message>
+    <message>
+        <source>Ready to record</source>
+        <translation>Pronto per registrare</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>&amp;Avvia registrazione</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Pianificazione delle registrazioni</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::PanelAnnouncer</name>
+    <message>
+        <source>Task added: %1</source>
+        <translation>Attività aggiunta: %1</translation>
+    </message>
+    <message>
+        <source>All tasks deleted</source>
+        <translation>Tutte le attività eliminate</translation>
+    </message>
+    <message>
+        <source>Task deleted: %1</source>
+        <translation>Attività eliminata: %1</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::App::ScreenshotTour</name>

@@ -320,6 +320,33 @@
         <source>Close anyway</source>
         <translation>それでも閉じる</translation>
     </message>
+    <message>
+        <source>Ready to record</source>
+        <translation>録画の準備ができました</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>録画を開始(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>録画スケジュール</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::PanelAnnouncer</name>
+    <message>
+        <source>Task added: %1</source>
+        <translation>タスクを追加しました：%1</translation>
+    </message>
+    <message>
+        <source>All tasks deleted</source>
+        <translation>すべてのタスクを削除しました</translation>
+    </message>
+    <message>
+        <source>Task deleted: %1</source>
+        <translation>タスクを削除しました：%1</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::App::ScreenshotTour</name>

@@ -320,6 +320,33 @@
         <source>Close anyway</source>
         <translation>그래도 닫기</translation>
     </message>
+    <message>
+        <source>Ready to record</source>
+        <translation>녹화 준비 완료</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>녹화 시작(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>녹화 일정</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::PanelAnnouncer</name>
+    <message>
+        <source>Task added: %1</source>
+        <translation>작업이 추가됨: %1</translation>
+    </message>
+    <message>
+        <source>All tasks deleted</source>
+        <translation>모든 작업이 삭제됨</translation>
+    </message>
+    <message>
+        <source>Task deleted: %1</source>
+        <translation>작업이 삭제됨: %1</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::App::ScreenshotTour</name>

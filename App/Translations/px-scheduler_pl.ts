@@ -320,6 +320,33 @@
         <source>Close anyway</source>
         <translation>Zamknij mimo to</translation>
     </message>
+    <message>
+        <source>Ready to record</source>
+        <translation>Gotowe do nagrywania</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>&amp;Rozpocznij nagrywanie</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Harmonogram nagrywania</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::PanelAnnouncer</name>
+    <message>
+        <source>Task added: %1</source>
+        <translation>Dodano zadanie: %1</translation>
+    </message>
+    <message>
+        <source>All tasks deleted</source>
+        <translation>Usunięto wszystkie zadania</translation>
+    </message>
+    <message>
+        <source>Task deleted: %1</source>
+        <translation>Usunięto zadanie: %1</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::App::ScreenshotTour</name>

@@ -320,6 +320,33 @@
         <source>Close anyway</source>
         <translation>Fechar mesmo assim</translation>
     </message>
+    <message>
+        <source>Ready to record</source>
+        <translation>Pronto para gravar</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>&amp;Iniciar gravação</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Programação de gravações</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::PanelAnnouncer</name>
+    <message>
+        <source>Task added: %1</source>
+        <translation>Tarefa adicionada: %1</translation>
+    </message>
+    <message>
+        <source>All tasks deleted</source>
+        <translation>Todas as tarefas excluídas</translation>
+    </message>
+    <message>
+        <source>Task deleted: %1</source>
+        <translation>Tarefa excluída: %1</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::App::ScreenshotTour</name>

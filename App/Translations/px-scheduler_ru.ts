@@ -320,6 +320,33 @@
         <source>Close anyway</source>
         <translation>Всё равно закрыть</translation>
     </message>
+    <message>
+        <source>Ready to record</source>
+        <translation>Готово к записи</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>&amp;Начать запись</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Расписание записи</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::PanelAnnouncer</name>
+    <message>
+        <source>Task added: %1</source>
+        <translation>Задача добавлена: %1</translation>
+    </message>
+    <message>
+        <source>All tasks deleted</source>
+        <translation>Все задачи удалены</translation>
+    </message>
+    <message>
+        <source>Task deleted: %1</source>
+        <translation>Задача удалена: %1</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::App::ScreenshotTour</name>

@@ -320,6 +320,33 @@
         <source>Close anyway</source>
         <translation>Yine de kapat</translation>
     </message>
+    <message>
+        <source>Ready to record</source>
+        <translation>Kayda hazır</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>Kaydı &amp;başlat</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Kayıt takvimi</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::PanelAnnouncer</name>
+    <message>
+        <source>Task added: %1</source>
+        <translation>Görev eklendi: %1</translation>
+    </message>
+    <message>
+        <source>All tasks deleted</source>
+        <translation>Tüm görevler silindi</translation>
+    </message>
+    <message>
+        <source>Task deleted: %1</source>
+        <translation>Görev silindi: %1</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::App::ScreenshotTour</name>

@@ -320,6 +320,33 @@
         <source>Close anyway</source>
         <translation>仍然关闭</translation>
     </message>
+    <message>
+        <source>Ready to record</source>
+        <translation>准备就绪，可以录制</translation>
+    </message>
+    <message>
+        <source>&amp;Start recording</source>
+        <translation>开始录制(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>录制计划</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::PanelAnnouncer</name>
+    <message>
+        <source>Task added: %1</source>
+        <translation>已添加任务：%1</translation>
+    </message>
+    <message>
+        <source>All tasks deleted</source>
+        <translation>已删除所有任务</translation>
+    </message>
+    <message>
+        <source>Task deleted: %1</source>
+        <translation>已删除任务：%1</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::App::ScreenshotTour</name>
