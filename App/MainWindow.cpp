@@ -22,12 +22,13 @@
 #include "PXUserSettings/SettingsStore.h"
 #include "PXUserSettings/StoredSettings.h"
 #include "RecordSchedulerWidget.h"
+#include "StatusLine.h"
 #include "Theme.h"
 
 namespace Zentor::App {
 namespace {
 
-constexpr QSize firstSize(1000, 760);
+constexpr QSize firstSize(1040, 760);
 constexpr QSize smallestSize(480, 320);
 constexpr int messageMilliseconds = 5000;
 
@@ -121,7 +122,7 @@ QWidget* MainWindow::CreateFoot(QWidget* parent)
 {
     auto* foot = new QFrame(parent);
     foot->setObjectName(QStringLiteral("foot"));
-    m_statusBar = new QStatusBar(foot);
+    m_statusBar = new StatusLine(foot);
     m_statusBar->setSizeGripEnabled(false);
     m_saveProblemLabel = new QLabel(m_statusBar);
     m_saveProblemLabel->setObjectName(QStringLiteral("saveProblemLabel"));

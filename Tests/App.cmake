@@ -19,6 +19,7 @@ scheduler_add_test(tst_PanelKeyboard LIBRARIES px-scheduler-app)
 scheduler_add_test(tst_SampleSettings LIBRARIES px-scheduler-app)
 scheduler_add_test(tst_ScreenshotTour LIBRARIES px-scheduler-app)
 scheduler_test_runs_program(tst_ScreenshotTour)
+scheduler_add_test(tst_StatusLine LIBRARIES px-scheduler-app)
 scheduler_add_test(tst_Theme LIBRARIES px-scheduler-app)
 target_compile_definitions(tst_Theme PRIVATE PX_ICON_TEMPLATES="${PROJECT_SOURCE_DIR}/App/Icons")
 
