@@ -29,8 +29,13 @@ ExpectedBox::ExpectedBox(QMessageBox::StandardButton button)
 void ExpectedBox::Look()
 {
     QMessageBox* box = OpenBox();
-    // Before it is the active window its controls have no focus yet.
-    if (box == nullptr || !box->isActiveWindow()) {
+    if (box == nullptr || !box->isVisible()) {
+        return;
+    }
+    // Before it is the active window its controls have no focus yet. Not every platform activates a
+    // window that is shown once more.
+    constexpr int looksBeforeGivingUp = 300;
+    if (!box->isActiveWindow() && ++m_looks < looksBeforeGivingUp) {
         return;
     }
     m_timer.stop();

@@ -27,6 +27,7 @@ private:
 
     Action m_action;
     QTimer m_timer;
+    int m_looks = 0;
     bool m_came = false;
 };
 
