@@ -21,3 +21,14 @@ scheduler_add_test(tst_RandomWalk LIBRARIES ${library} Qt5::GuiPrivate
         Support/FakeClock.cpp)
 target_compile_definitions(tst_RandomWalk PRIVATE
     $<$<BOOL:${SCHEDULER_SANITIZE}>:SCHEDULER_SANITIZED>)
+scheduler_add_test(tst_RecordSchedulerWidgetFlow LIBRARIES ${library}
+    SOURCES Support/FakeClock.cpp)
+# The same stories in windows that are really on a screen.
+add_test(NAME tst_RecordSchedulerWidgetFlowOnX11
+    COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/on_virtual_display.sh"
+        $<TARGET_FILE:tst_RecordSchedulerWidgetFlow>)
+get_test_property(tst_RecordSchedulerWidgetFlow ENVIRONMENT environment)
+set_tests_properties(tst_RecordSchedulerWidgetFlowOnX11 PROPERTIES
+    TIMEOUT 300
+    SKIP_RETURN_CODE 77
+    ENVIRONMENT "${environment}")

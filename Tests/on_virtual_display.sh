@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# Runs a program on a display that nobody sees, in windows that a window manager looks after.
+#
+#   on_virtual_display.sh <program> [<argument>...]
+#
+# Needs the Debian packages xvfb, xauth, openbox and xdotool. Where they are not installed, says so
+# and ends with 77: skipped.
+set -euo pipefail
+
+for command in xvfb-run xauth openbox xdotool; do
+    if ! command -v "$command" >/dev/null; then
+        echo "Skipped: $command is not installed"
+        exit 77
+    fi
+done
+
+# The program begins when the window manager answers.
+# shellcheck disable=SC2016
+QT_QPA_PLATFORM=xcb exec xvfb-run --auto-servernum --server-args="-screen 0 1280x1024x24" \
+    bash -c '
+        openbox 2>/dev/null &
+        for ((attempt = 0; attempt < 100; ++attempt)); do
+            xdotool get_desktop >/dev/null 2>&1 && break
+            sleep 0.1
+        done
+        "$@"' bash "$@"
