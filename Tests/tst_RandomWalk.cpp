@@ -470,7 +470,7 @@ void Walk::Advance()
 {
     // Mostly the time from one tick to the next; sometimes the computer slept for hours or days.
     constexpr qint64 tick = 300;
-    constexpr qint64 hour = 3600 * 1000;
+    constexpr qint64 hour = 3'600'000;
     m_clock.Advance(IsLucky(4) ? Below(72) * hour : 1 + Below(60) * tick);
     m_model.now = QDateTime::currentDateTime();
     m_stage->Tick();

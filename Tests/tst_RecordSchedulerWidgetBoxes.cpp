@@ -333,11 +333,7 @@ private Q_SLOTS:
         };
         const ExpectedBox box([&](QMessageBox& shown) {
             asked = &shown;
-            if (moment == QLatin1String("timer")) {
-                disturb();
-            } else {
-                QMetaObject::invokeMethod(qApp, disturb, Qt::QueuedConnection);
-            }
+            Do(disturb, moment);
         });
         RunApplication([&] { Ask(*question, scene, input); });
 
@@ -346,14 +342,7 @@ private Q_SLOTS:
         QVERIFY(!IsBoxOpen());
         QCOMPARE(scene.problems.join(", "), QString());
         QVERIFY(!scene.mayStart || accept);
-        if (scene.widget.isNull()) {
-            QCOMPARE(scene.panel.watcher->TakeCalls().filter("Schedule"), QStringList());
-        } else {
-            const bool wasAskedAgain = qstrcmp(disturbance->name, "asked again") == 0;
-            const char* accepted =
-                wasAskedAgain ? question->acceptedAfterAskingAgain : question->accepted;
-            QCOMPARE(scene.State(), accept ? QString::fromLatin1(accepted) : before);
-        }
+        ExpectState(scene, accept ? Accepted(*question, *disturbance) : before);
     }
 
     void keepsTheClickedButtonUntilTheClickIsOver_data()
@@ -393,6 +382,13 @@ private Q_SLOTS:
     }
 
 private:
+    static QString Accepted(const Question& question, const Disturbance& disturbance)
+    {
+        const bool wasAskedAgain = qstrcmp(disturbance.name, "asked again") == 0;
+        return QString::fromLatin1(wasAskedAgain ? question.acceptedAfterAskingAgain
+                                                 : question.accepted);
+    }
+
     static void AddRows(const Question& question, const Disturbance& disturbance)
     {
         for (const char* moment : {"timer", "queued"}) {
@@ -406,6 +402,26 @@ private:
                         << &question << &disturbance << moment << input << accept;
                 }
             }
+        }
+    }
+
+    /// Of a panel that is gone, only what it has reported is left.
+    static void ExpectState(const Scene& scene, const QString& state)
+    {
+        if (scene.widget.isNull()) {
+            QCOMPARE(scene.panel.watcher->TakeCalls().filter("Schedule"), QStringList());
+        } else {
+            QCOMPARE(scene.State(), state);
+        }
+    }
+
+    /// Does \a action at once, which is from a timer, or has it called from the event loop.
+    template <typename Action> static void Do(Action action, const QString& moment)
+    {
+        if (moment == QLatin1String("timer")) {
+            action();
+        } else {
+            QMetaObject::invokeMethod(qApp, action, Qt::QueuedConnection);
         }
     }
 
