@@ -11,19 +11,11 @@
 #include <QShowEvent>
 
 #include "HostInterfaces.h"
+#include "Page.h"
 #include "PXUserSettings/SettingsStore.h"
 
 namespace Zentor::App {
 namespace {
-
-QLabel* CreateLabel(const QString& objectName, QWidget* parent)
-{
-    auto* label = new QLabel(parent);
-    label->setObjectName(objectName);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
 
 std::int64_t FreeSpace(const QString& folder)
 {

@@ -10,6 +10,8 @@ constexpr int margin = 24;
 /// Between the head of the page and its settings.
 constexpr int gap = 18;
 
+} // namespace
+
 QLabel* CreateLabel(const QString& objectName, QWidget* parent)
 {
     auto* label = new QLabel(parent);
@@ -18,8 +20,6 @@ QLabel* CreateLabel(const QString& objectName, QWidget* parent)
     label->setWordWrap(true);
     return label;
 }
-
-} // namespace
 
 Page::Page(const QString& id, QWidget* settings, QWidget* parent)
     : QScrollArea(parent)

@@ -28,4 +28,7 @@ private:
     QLabel* m_description = nullptr;
 };
 
+/// A new label that shows its text literally, wrapped where it does not fit; \a parent owns it.
+QLabel* CreateLabel(const QString& objectName, QWidget* parent);
+
 } // namespace Zentor::App
