@@ -1,0 +1,67 @@
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+
+#include <glog/logging.h>
+
+#include "Log.h"
+#include "WidgetTest.h"
+
+namespace Zentor::Tests {
+
+class tst_Log : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        QDir(App::LogFolder()).removeRecursively();
+        FLAGS_logtostderr = true;
+    }
+
+    void cleanupTestCase() { QDir(App::LogFolder()).removeRecursively(); }
+
+    void isNoneWhereItCannotBeWritten()
+    {
+        // A file stands where the folder would be.
+        const QString inTheWay = App::LogFolder();
+        QVERIFY(QDir().mkpath(QFileInfo(inTheWay).path()));
+        QVERIFY(QFile(inTheWay).open(QIODevice::WriteOnly));
+        App::KeepLog();
+        LOG(WARNING) << "nowhere";
+        QCOMPARE(App::LogFile(), QString());
+        QVERIFY(QFile::remove(inTheWay));
+    }
+
+    void isOneFileOfThisRun()
+    {
+        App::KeepLog();
+        QCOMPARE(App::LogFile(), QString());
+        LOG(INFO) << "first";
+        LOG(ERROR) << "second";
+        const QString path = App::LogFile();
+        QCOMPARE(QFileInfo(path).path(), App::LogFolder());
+        QCOMPARE(QDir(App::LogFolder()).entryList(QDir::Files).size(), 1);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray content = file.readAll();
+        QVERIFY(content.contains("first"));
+        QVERIFY(content.contains("second"));
+        LOG(INFO) << "third";
+        QCOMPARE(App::LogFile(), path);
+        QVERIFY(file.readAll().contains("third"));
+    }
+
+    void isNoneOnceItIsDeleted()
+    {
+        QVERIFY(QFile::remove(App::LogFile()));
+        QCOMPARE(App::LogFile(), QString());
+    }
+};
+
+} // namespace Zentor::Tests
+
+SCHEDULER_TEST_MAIN(Zentor::Tests::tst_Log)
+
+#include "tst_Log.moc"
