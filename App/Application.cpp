@@ -7,19 +7,19 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <glog/logging.h>
 
+#include "Appearance.h"
 #include "Application/LookAndFeelManager.h"
 #include "CommandLine.h"
 #include "Languages.h"
+#include "Log.h"
 #include "MainWindow.h"
 #include "PXUserSettings/SettingsStore.h"
 #include "ScreenshotTour.h"
-#include "Theme.h"
 #include "TourScript.h"
 
 // Q_INIT_RESOURCE has to stand outside every namespace.
@@ -51,6 +51,8 @@ CommandLine ReadCommandLine(int& argc, char** argv)
 {
     // Without widgets, so that it needs no display.
     const QCoreApplication application(argc, argv);
+    Translations translations;
+    translations.Use(LanguageFor({}));
     return ParseCommandLine(QCoreApplication::arguments());
 }
 
@@ -58,21 +60,6 @@ QString DefaultSettingsFile()
 {
     return QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation))
         .filePath(QStringLiteral("settings.json"));
-}
-
-/// Gives the application the look and the language that the command line, else the settings, else
-/// the desktop asks for.
-void ApplyAppearance(const CommandLine& line, const PX::UserSettings& settings,
-                     Translations& translations, LookAndFeelManager& lookAndFeel)
-{
-    const Theme ofDesktop = ThemeOf(QApplication::palette());
-    ApplyTheme(ThemeFromName(line.theme, ThemeFromName(settings.theme, ofDesktop)));
-    QApplication::setWindowIcon(ThemedIcon(QStringLiteral("px-scheduler")));
-
-    const QString language = BestLanguage(QStringList{line.language, settings.language}
-                                          + QLocale::system().uiLanguages());
-    translations.Use(language);
-    lookAndFeel.SetLanguage(LocaleOf(language).name().toStdString());
 }
 
 int RunTour(MainWindow& window, const QString& folder)
@@ -98,17 +85,29 @@ int RunTour(MainWindow& window, const QString& folder)
     return result;
 }
 
+/// Opens \a store. Returns the reason of a failure, or nothing.
+QString Open(PX::SettingsStore& store, const CommandLine& line)
+{
+    // Which language the user has chosen is not known yet.
+    Translations translations;
+    translations.Use(LanguageFor(line.language));
+    QString reason;
+    store.Open(&reason);
+    return reason;
+}
+
 /// Runs the window on the settings in \a file, whatever they are.
 int RunOn(const QString& file, const CommandLine& line)
 {
+    LOG(INFO) << "Zentor::App::RunOn: version=" << PX_VERSION
+              << "; settings=" << file.toStdString();
     const auto store = std::make_shared<PX::SettingsStore>(file);
-    QString reason;
-    if (!store->Open(&reason)) {
-        return Refuse(reason);
+    const QString problem = Open(*store, line);
+    if (!problem.isEmpty()) {
+        return Refuse(problem);
     }
     const auto lookAndFeel = std::make_shared<LookAndFeelManager>();
-    Translations translations;
-    ApplyAppearance(line, store->Settings(), translations, *lookAndFeel);
+    const Appearance appearance(store, lookAndFeel, {line.language, line.theme});
     MainWindow window(store, lookAndFeel);
     if (!line.screenshotsFolder.isEmpty()) {
         return RunTour(window, line.screenshotsFolder);
@@ -155,9 +154,12 @@ int RunApplication(int argc, char** argv)
     }
     google::InitGoogleLogging(argv[0]);
     FLAGS_logtostderr = true;
+    KeepLog();
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
+    // Lets the desktop find name and icon of the window in the installed desktop entry.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.zentor.PxScheduler"));
     if (!line.screenshotsFolder.isEmpty()) {
         return RunOnCopy(line);
     }

@@ -8,29 +8,31 @@
 namespace Zentor::App {
 namespace {
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("CommandLine", text);
-}
+class Text {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+};
 
 struct Options {
     QCommandLineOption settings{
         QStringLiteral("settings"),
-        Tr("Keep the settings in <file> instead of the platform's configuration folder."),
-        Tr("file")};
+        Text::tr("Keep the settings in <file> instead of the platform's configuration folder."),
+        QStringLiteral("file")};
     QCommandLineOption language{QStringLiteral("language"),
-                                Tr("Speak <language> in this run, for example de or pt_BR."),
-                                Tr("language")};
+                                Text::tr("Speak <language> in this run, for example de or pt_BR."),
+                                QStringLiteral("language")};
     QCommandLineOption theme{QStringLiteral("theme"),
-                             Tr("Use the theme light or dark in this run."), Tr("theme")};
+                             Text::tr("Use the theme light or dark in this run."),
+                             QStringLiteral("theme")};
     QCommandLineOption screenshots{
         QStringLiteral("screenshots"),
-        Tr("Walk through the window on a copy of the settings (of a sample without --settings), "
-           "write a picture of each state into <folder>, and end."),
-        Tr("folder")};
-    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, Tr("Show this help.")};
+        Text::tr(
+            "Walk through the window on a copy of the settings (of a sample without --settings), "
+            "write a picture of each state into <folder>, and end."),
+        QStringLiteral("folder")};
+    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
+                            Text::tr("Show this help.")};
     QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")},
-                               Tr("Show the version.")};
+                               Text::tr("Show the version.")};
 
     QList<QCommandLineOption> All() const
     {
@@ -56,7 +58,7 @@ CommandLine Refuse(const QString& reason)
 {
     CommandLine line;
     line.task = CommandLine::Task::Refuse;
-    line.message = Tr("%1: %2 (try --help)").arg(ProgramName(), reason);
+    line.message = Text::tr("%1: %2 (try --help)").arg(ProgramName(), reason);
     return line;
 }
 
@@ -66,19 +68,19 @@ QString ProblemOf(const QCommandLineParser& parser, const Options& options)
     const auto withValue = options.WithValue();
     for (const auto& option : withValue) {
         if (parser.isSet(option) && parser.value(option).isEmpty()) {
-            return Tr("option --%1 needs a value").arg(option.names().constFirst());
+            return Text::tr("option --%1 needs a value").arg(option.names().constFirst());
         }
     }
     if (!parser.positionalArguments().isEmpty()) {
-        return Tr("unexpected argument '%1'").arg(parser.positionalArguments().constFirst());
+        return Text::tr("unexpected argument '%1'").arg(parser.positionalArguments().constFirst());
     }
     const QString theme = parser.value(options.theme);
     if (!theme.isEmpty() && theme != QLatin1String("light") && theme != QLatin1String("dark")) {
-        return Tr("unknown theme '%1'; the themes are light and dark").arg(theme);
+        return Text::tr("unknown theme '%1'; the themes are light and dark").arg(theme);
     }
     const QString language = parser.value(options.language);
     if (!language.isEmpty() && !IsLanguage(language)) {
-        return Tr("unknown language '%1'; the languages are %2")
+        return Text::tr("unknown language '%1'; the languages are %2")
             .arg(language, LanguageCodes().join(QStringLiteral(", ")));
     }
     return {};
@@ -99,7 +101,7 @@ CommandLine ParseCommandLine(const QStringList& arguments)
 {
     const Options options;
     QCommandLineParser parser;
-    parser.setApplicationDescription(Tr("Choose how screen recordings are timed."));
+    parser.setApplicationDescription(Text::tr("Choose how screen recordings are timed."));
     parser.addOptions(options.All());
     if (!parser.parse(arguments)) {
         return Refuse(WithoutFullStop(parser.errorText()));

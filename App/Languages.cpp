@@ -1,18 +1,56 @@
 #include "Languages.h"
 
+#include <algorithm>
+
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
 
 namespace Zentor::App {
+namespace {
+
+struct Language {
+    QString code;
+    QString name;
+};
+
+const std::vector<Language>& Languages()
+{
+    static const std::vector<Language> languages{
+        {QStringLiteral("en"), QStringLiteral("English")},
+        {QStringLiteral("de"), QStringLiteral("Deutsch")},
+        {QStringLiteral("fr"), QStringLiteral("Français")},
+        {QStringLiteral("es"), QStringLiteral("Español")},
+        {QStringLiteral("it"), QStringLiteral("Italiano")},
+        {QStringLiteral("pt_BR"), QStringLiteral("Português (Brasil)")},
+        {QStringLiteral("pl"), QStringLiteral("Polski")},
+        {QStringLiteral("ru"), QStringLiteral("Русский")},
+        {QStringLiteral("tr"), QStringLiteral("Türkçe")},
+        {QStringLiteral("ja"), QStringLiteral("日本語")},
+        {QStringLiteral("ko"), QStringLiteral("한국어")},
+        {QStringLiteral("zh_CN"), QStringLiteral("简体中文")},
+        {QStringLiteral("ar"), QStringLiteral("العربية")},
+        {QStringLiteral("he"), QStringLiteral("עברית")}};
+    return languages;
+}
+
+} // namespace
 
 QStringList LanguageCodes()
 {
-    return {QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("fr"),
-            QStringLiteral("es"), QStringLiteral("it"), QStringLiteral("pt_BR"),
-            QStringLiteral("pl"), QStringLiteral("ru"), QStringLiteral("tr"),
-            QStringLiteral("ja"), QStringLiteral("ko"), QStringLiteral("zh_CN"),
-            QStringLiteral("ar"), QStringLiteral("he")};
+    QStringList codes;
+    for (const auto& [code, name] : Languages()) {
+        codes << code;
+    }
+    return codes;
+}
+
+QString LanguageName(const QString& code)
+{
+    const auto& languages = Languages();
+    return std::find_if(languages.begin(), languages.end(),
+                        [&](const Language& language) { return language.code == code; })
+        ->name;
 }
 
 bool IsLanguage(const QString& code)
@@ -51,6 +89,11 @@ QString BestLanguage(const QStringList& wanted)
     return codes.constFirst();
 }
 
+QString LanguageFor(const QString& wanted)
+{
+    return BestLanguage(QStringList{wanted} + QLocale::system().uiLanguages());
+}
+
 Translations::Translations() = default;
 
 Translations::~Translations()
@@ -76,7 +119,9 @@ void Translations::Use(const QString& code)
             m_translators.push_back(std::move(translator));
         }
     }
-    QGuiApplication::setLayoutDirection(locale.textDirection());
+    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr) {
+        QGuiApplication::setLayoutDirection(locale.textDirection());
+    }
 }
 
 void Translations::Remove()

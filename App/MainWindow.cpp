@@ -16,6 +16,7 @@
 
 #include "Application/SettingsManager.h"
 #include "FilesPage.h"
+#include "GeneralPage.h"
 #include "Page.h"
 #include "PanelAnnouncer.h"
 #include "PanelKeyboard.h"
@@ -40,6 +41,11 @@ QString ScheduleId()
 QString FilesId()
 {
     return QStringLiteral("files");
+}
+
+QString GeneralId()
+{
+    return QStringLiteral("general");
 }
 
 /// A combo box draws the entries of its list past the style sheet unless it is given this delegate.
@@ -108,6 +114,8 @@ QWidget* MainWindow::CreatePageColumn(QWidget* parent)
     m_pages->setObjectName(QStringLiteral("pages"));
     AddPage(CreateSchedulePage());
     AddPage(CreateFilesPage());
+    AddPage(CreateGeneralPage());
+    LetSheetDrawLists(*m_pages);
 
     QWidget* foot = CreateFoot(pageColumn);
     auto* layout = new QVBoxLayout(pageColumn);
@@ -158,7 +166,6 @@ Page* MainWindow::CreateSchedulePage()
     m_panel->SetPathSettings(std::make_shared<PX::StoredPathsSettings>(m_store));
     m_panel->SetSettingsWatcher(std::make_shared<PX::StoringSettingsWatcher>(m_store));
     m_panel->RestoreSettings();
-    LetSheetDrawLists(*m_panel);
     return new Page(ScheduleId(), m_panel, m_pages);
 }
 
@@ -168,11 +175,19 @@ Page* MainWindow::CreateFilesPage()
     return new Page(FilesId(), m_filesPage, m_pages);
 }
 
+Page* MainWindow::CreateGeneralPage()
+{
+    m_generalPage = new GeneralPage(m_store, m_pages);
+    return new Page(GeneralId(), m_generalPage, m_pages);
+}
+
 void MainWindow::Connect()
 {
     connect(m_pageList, &QListWidget::currentRowChanged, m_pages, &QStackedWidget::setCurrentIndex);
     connect(m_panel, &PX::Scheduler::UI::RecordSchedulerWidget::OpenFilesSettingsRequested, this,
             [this] { ShowPage(FilesId()); });
+    connect(m_generalPage, &GeneralPage::Happened, m_statusBar,
+            [this](const QString& text) { Announce(m_statusBar, text, messageMilliseconds); });
     connect(m_startButton, &QPushButton::clicked, this, &MainWindow::StartRecording);
     connect(m_store.get(), &PX::SettingsStore::SaveFailed, this, &MainWindow::ShowSaveProblem);
     connect(m_store.get(), &PX::SettingsStore::Saved, this, &MainWindow::ForgetSaveProblem);
@@ -244,6 +259,7 @@ void MainWindow::Retranslate()
         ->setAccessibleName(tr("Recording schedule"));
     RetranslatePage(0, tr("Schedule"), tr("Choose when a recording stops or starts by itself."));
     RetranslatePage(1, tr("Files"), tr("Choose where recordings are kept."));
+    RetranslatePage(2, tr("General"), tr("Choose how the application looks and speaks."));
 }
 
 void MainWindow::RetranslatePage(int index, const QString& title, const QString& description)
@@ -291,10 +307,10 @@ bool MainWindow::IsClosingWithoutSavingAccepted()
 void MainWindow::changeEvent(QEvent* event)
 {
     // Both arrive for the first time while the window is still being built.
-    if (m_filesPage != nullptr && event->type() == QEvent::LanguageChange) {
+    if (m_startButton != nullptr && event->type() == QEvent::LanguageChange) {
         Retranslate();
     }
-    if (m_filesPage != nullptr && event->type() == QEvent::PaletteChange) {
+    if (m_startButton != nullptr && event->type() == QEvent::PaletteChange) {
         UpdateIcons();
     }
     QMainWindow::changeEvent(event);

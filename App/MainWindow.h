@@ -20,6 +20,7 @@ class RecordSchedulerWidget;
 namespace Zentor::App {
 
 class FilesPage;
+class GeneralPage;
 class ILookAndFeelManager;
 class Page;
 
@@ -50,6 +51,7 @@ private:
     void AddPage(Page* page);
     Page* CreateSchedulePage();
     Page* CreateFilesPage();
+    Page* CreateGeneralPage();
     void Connect();
     /// Makes the panel usable by keyboard alone, and speaks of what happens in it.
     void AssistPanel();
@@ -70,6 +72,7 @@ private:
     QStackedWidget* m_pages = nullptr;
     PX::Scheduler::UI::RecordSchedulerWidget* m_panel = nullptr;
     FilesPage* m_filesPage = nullptr;
+    GeneralPage* m_generalPage = nullptr;
     QStatusBar* m_statusBar = nullptr;
     QLabel* m_saveProblemLabel = nullptr;
     QPushButton* m_startButton = nullptr;

@@ -140,6 +140,7 @@ void ApplyTheme(Theme theme)
     }
     QApplication::setPalette(PaletteOf(theme));
     qApp->setStyleSheet(StyleSheetOf(theme));
+    QApplication::setWindowIcon(ThemedIcon(QStringLiteral("px-scheduler")));
 }
 
 QIcon ThemedIcon(const QString& name)

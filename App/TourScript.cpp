@@ -49,6 +49,18 @@ void WaitForNoBox(ScreenshotTour& tour)
                  [] { return QApplication::activeModalWidget() == nullptr; });
 }
 
+void WaitForPopup(ScreenshotTour& tour)
+{
+    tour.WaitFor(QStringLiteral("an open list"),
+                 [] { return QApplication::activePopupWidget() != nullptr; });
+}
+
+void WaitForNoPopup(ScreenshotTour& tour)
+{
+    tour.WaitFor(QStringLiteral("no open list"),
+                 [] { return QApplication::activePopupWidget() == nullptr; });
+}
+
 void WaitUntilChecked(ScreenshotTour& tour, const QString& objectName)
 {
     tour.WaitFor(QStringLiteral("%1 checked").arg(objectName), [objectName] {
@@ -108,14 +120,12 @@ void LimitCapture(ScreenshotTour& tour)
     tour.Picture(QStringLiteral("07-limited-capture-duration"));
 
     tour.Click(action);
-    tour.WaitFor(QStringLiteral("the list of actions"),
-                 [] { return QApplication::activePopupWidget() != nullptr; });
+    WaitForPopup(tour);
     tour.Press(Qt::Key_Down);
     tour.Press(Qt::Key_Down);
     tour.Picture(QStringLiteral("08-limited-capture-actions"));
     tour.Press(Qt::Key_Return);
-    tour.WaitFor(QStringLiteral("the list of actions closed"),
-                 [] { return QApplication::activePopupWidget() == nullptr; });
+    WaitForNoPopup(tour);
 }
 
 void ShowEmptySchedule(ScreenshotTour& tour)
@@ -147,6 +157,20 @@ void ShowFiles(ScreenshotTour& tour)
     WaitUntilShown(tour, QStringLiteral("resultsFolderEdit"));
     tour.PointAway();
     tour.Picture(QStringLiteral("12-files"));
+}
+
+void ShowGeneral(ScreenshotTour& tour)
+{
+    tour.ClickEntry(QStringLiteral("pageList"), 2);
+    WaitUntilShown(tour, QStringLiteral("languageBox"));
+    tour.PointAway();
+    tour.Picture(QStringLiteral("17-general"));
+
+    tour.Click(QStringLiteral("languageBox"));
+    WaitForPopup(tour);
+    tour.Picture(QStringLiteral("18-general-languages"));
+    tour.Press(Qt::Key_Escape);
+    WaitForNoPopup(tour);
 }
 
 QString NameField()
@@ -220,6 +244,7 @@ void WriteTourScript(ScreenshotTour& tour)
     AddLongTask(tour);
     ShowRefusedTask(tour);
     ShowFullDisk(tour);
+    ShowGeneral(tour);
 }
 
 } // namespace Zentor::App

@@ -16,6 +16,7 @@
 #include "Application.h"
 #include "Application/LookAndFeelManager.h"
 #include "Boxes.h"
+#include "Languages.h"
 #include "MainWindow.h"
 #include "PXUserSettings/SettingsStore.h"
 #include "RecordSchedulerWidget.h"
@@ -62,8 +63,8 @@ QString FullFolder()
 /// Whether the Tab key stops at \a widget itself, not at one that has taken it in.
 bool IsStopOfTab(const QWidget& widget)
 {
-    return widget.isVisible() && (widget.focusPolicy() & Qt::TabFocus) == Qt::TabFocus
-        && widget.focusProxy() == nullptr
+    return widget.isVisible() && widget.isEnabled()
+        && (widget.focusPolicy() & Qt::TabFocus) == Qt::TabFocus && widget.focusProxy() == nullptr
         && qobject_cast<const QAbstractSpinBox*>(widget.parentWidget()) == nullptr;
 }
 
@@ -444,6 +445,10 @@ private Q_SLOTS:
         QTest::newRow("files")
             << QStringLiteral("disableScheduledCaptureRadioButton") << 1
             << QStringLiteral("pageList resultsFolderEdit browseButton startRecordingButton");
+        QTest::newRow("general")
+            << QStringLiteral("disableScheduledCaptureRadioButton") << 2
+            << QStringLiteral(
+                   "pageList languageBox themeBox openFolderButton startRecordingButton");
     }
 
     void showsFocusOnEveryControl()
@@ -475,8 +480,83 @@ private Q_SLOTS:
         QCOMPARE(found.join(QLatin1Char(' ')), controls);
     }
 
+    void reachesEveryFieldByItsKey_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("clicked");
+        QTest::addColumn<int>("page");
+        QTest::addColumn<int>("fields");
+        const auto codes = App::LanguageCodes();
+        for (const QString& code : codes) {
+            const auto row = [&](const char* name, const char* clicked, int page, int fields) {
+                QTest::addRow("%s, %s", qPrintable(code), name)
+                    << code << QString::fromLatin1(clicked) << page << fields;
+            };
+            row("limited capture", "limitedCaptureDurationRadioButton", 0, 5);
+            row("form", "scheduledCaptureSettingsAddRecordButton", 0, 8);
+            row("files", "", 1, 1);
+            row("general", "", 2, 2);
+        }
+    }
+
+    void reachesEveryFieldByItsKey()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, clicked);
+        QFETCH(int, page);
+        QFETCH(int, fields);
+        App::Translations translations;
+        translations.Use(language);
+        Open(Tasks(1));
+        if (!clicked.isEmpty()) {
+            const ExpectedBox box(QMessageBox::Ok);
+            Click(qPrintable(clicked));
+        }
+        PageList()->setCurrentRow(page);
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QList<QKeySequence> keys = KeysOfButtons();
+        int reached = 0;
+        const auto labels = m_window->findChildren<QLabel*>();
+        for (const QLabel* label : labels) {
+            QWidget* field = label->buddy();
+            if (!label->isVisible() || field == nullptr || field->focusPolicy() == Qt::NoFocus) {
+                continue;
+            }
+            const QKeySequence key = QKeySequence::mnemonic(label->text());
+            QVERIFY2(!key.isEmpty() && !keys.contains(key), qPrintable(label->text()));
+            keys << key;
+            m_window->setFocus();
+            // With its text, for letters that Qt Test knows no key of.
+            const QString letter = QChar(key[0] & ~Qt::ALT);
+            QTest::sendKeyEvent(QTest::Click, m_window->windowHandle(),
+                                Qt::Key(key[0] & ~Qt::ALT), letter, Qt::AltModifier);
+            QVERIFY2(field->hasFocus(), qPrintable(label->text()));
+            ++reached;
+        }
+        QCOMPARE(reached, fields);
+        Close();
+        translations.Use(QStringLiteral("en"));
+        QCoreApplication::sendPostedEvents();
+        QLocale::setDefault(QLocale::c());
+    }
+
 private:
     QString SettingsFile() const { return m_folder->filePath(QStringLiteral("settings.json")); }
+
+    /// The keys of the buttons that are on screen.
+    QList<QKeySequence> KeysOfButtons() const
+    {
+        QList<QKeySequence> keys;
+        const auto buttons = m_window->findChildren<QAbstractButton*>();
+        for (const QAbstractButton* button : buttons) {
+            const QKeySequence key = QKeySequence::mnemonic(button->text());
+            if (button->isVisible() && !key.isEmpty()) {
+                keys << key;
+            }
+        }
+        return keys;
+    }
 
     /// Opens a window on new settings that hold \a tasks, in the mode that goes with them.
     void Open(const std::vector<PX::RecordTime>& tasks = {})

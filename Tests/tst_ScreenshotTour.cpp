@@ -31,7 +31,9 @@ QStringList ExpectedPictures()
             QStringLiteral("13-new-task-same-name.png"),
             QStringLiteral("14-new-task-same-time.png"),
             QStringLiteral("15-unsaved-task-question.png"),
-            QStringLiteral("16-full-disk.png")};
+            QStringLiteral("16-full-disk.png"),
+            QStringLiteral("17-general.png"),
+            QStringLiteral("18-general-languages.png")};
 }
 
 int RunProgram(const QStringList& arguments, QString* error = nullptr)

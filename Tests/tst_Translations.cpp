@@ -76,6 +76,23 @@ int Mnemonics(QString text)
     return text.remove(QStringLiteral("&&")).count(QLatin1Char('&'));
 }
 
+/// Whether the library shows \a entry beside a field. It knows of no keys; they come with the
+/// translations, English included.
+bool IsCaptionOfField(const Entry& entry)
+{
+    static const QStringList captions{QStringLiteral("Do not schedule capture"),
+                                      QStringLiteral("Stop capture after"),
+                                      QStringLiteral("Record on schedule"),
+                                      QStringLiteral("File name:"),
+                                      QStringLiteral("Date:"),
+                                      QStringLiteral("Time:"),
+                                      QStringLiteral("Duration:"),
+                                      QStringLiteral("Action on finish:"),
+                                      QStringLiteral("Capture duration in limited capture:"),
+                                      QStringLiteral("When capture ends:")};
+    return captions.contains(entry.source);
+}
+
 QStringList Keys(const std::vector<Entry>& entries)
 {
     QStringList keys;
@@ -114,8 +131,8 @@ private Q_SLOTS:
         QFETCH(QString, code);
         for (const Entry& entry : ReadEntries(PathOf(code))) {
             QVERIFY2(Marks(entry.translation) == Marks(entry.source), qPrintable(entry.source));
-            QVERIFY2(Mnemonics(entry.translation) == Mnemonics(entry.source),
-                     qPrintable(entry.source));
+            const bool hasKey = Mnemonics(entry.source) > 0 || IsCaptionOfField(entry);
+            QVERIFY2(Mnemonics(entry.translation) == (hasKey ? 1 : 0), qPrintable(entry.source));
         }
     }
 

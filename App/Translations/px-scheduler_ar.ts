@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</source>
+        <translation>حفظ الإعدادات في &lt;file&gt; بدلًا من مجلد الإعدادات في النظام.</translation>
+    </message>
+    <message>
+        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>استخدام اللغة &lt;language&gt; في هذا التشغيل، مثل de أو pt_BR.</translation>
+    </message>
+    <message>
+        <source>Use the theme light or dark in this run.</source>
+        <translation>استخدام السمة light أو dark في هذا التشغيل.</translation>
+    </message>
+    <message>
+        <source>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</source>
+        <translation>المرور على النافذة بنسخة من الإعدادات (أو بنموذج من دون --settings) وكتابة صورة لكل حالة في &lt;folder&gt; ثم الإنهاء.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>عرض هذه المساعدة.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>عرض الإصدار.</translation>
+    </message>
+    <message>
+        <source>%1: %2 (try --help)</source>
+        <translation>%1: %2 (جرّب ‎--help)</translation>
+    </message>
+    <message>
+        <source>option --%1 needs a value</source>
+        <translation>الخيار ‎--%1 يحتاج إلى قيمة</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>معامل غير متوقع ”%1“</translation>
+    </message>
+    <message>
+        <source>unknown theme &apos;%1&apos;; the themes are light and dark</source>
+        <translation>سمة غير معروفة ”%1“؛ السمتان هما light و dark</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;; the languages are %2</source>
+        <translation>لغة غير معروفة ”%1“؛ اللغات هي %2</translation>
+    </message>
+    <message>
+        <source>Choose how screen recordings are timed.</source>
+        <translation>اختر توقيت تسجيلات الشاشة.</translation>
+    </message>
+</context>
+<context>
     <name>CreateRecordTaskWidget</name>
     <message>
         <source>New record:</source>
@@ -20,7 +71,7 @@
     </message>
     <message>
         <source>Action on finish:</source>
-        <translation>الإجراء عند الانتهاء:</translation>
+        <translation>الإجراء عند الانتهاء (&amp;ع):</translation>
     </message>
     <message>
         <source>Create</source>
@@ -32,11 +83,11 @@
     </message>
     <message>
         <source>File name:</source>
-        <translation>اسم الملف:</translation>
+        <translation>اسم الملف (&amp;س):</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>التاريخ:</translation>
+        <translation>التاريخ (&amp;ا):</translation>
     </message>
     <message>
         <source>dd.MM.yyyy</source>
@@ -44,7 +95,7 @@
     </message>
     <message>
         <source>Time:</source>
-        <translation>الوقت:</translation>
+        <translation>الوقت (&amp;و):</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -52,7 +103,7 @@
     </message>
     <message>
         <source>Duration:</source>
-        <translation>المدة:</translation>
+        <translation>المدة (&amp;م):</translation>
     </message>
     <message>
         <source>Capture:</source>
@@ -134,15 +185,15 @@
     </message>
     <message>
         <source>Do not schedule capture</source>
-        <translation>عدم جدولة التسجيل</translation>
+        <translation>عدم جدولة التسجيل (&amp;ج)</translation>
     </message>
     <message>
         <source>Stop capture after</source>
-        <translation>إيقاف التسجيل بعد</translation>
+        <translation>إيقاف التسجيل بعد (&amp;ق)</translation>
     </message>
     <message>
         <source>Record on schedule</source>
-        <translation>التسجيل وفق جدول</translation>
+        <translation>التسجيل وفق جدول (&amp;ف)</translation>
     </message>
     <message>
         <source>Add record event</source>
@@ -150,7 +201,7 @@
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
-        <translation>مدة التسجيل:</translation>
+        <translation>مدة التسجيل (&amp;م):</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -158,7 +209,7 @@
     </message>
     <message>
         <source>When capture ends:</source>
-        <translation>عند انتهاء التسجيل:</translation>
+        <translation>عند انتهاء التسجيل (&amp;ع):</translation>
     </message>
 </context>
 <context>
@@ -243,7 +294,7 @@
     <name>Zentor::App::FilesPage</name>
     <message>
         <source>&amp;Folder for recordings:</source>
-        <translation>م&amp;جلد التسجيلات:</translation>
+        <translation>مجلد التسجيلات (&amp;ج):</translation>
     </message>
     <message>
         <source>Folder for recordings</source>
@@ -251,7 +302,7 @@
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation>ا&amp;ستعراض…</translation>
+        <translation>استعراض… (&amp;س)</translation>
     </message>
     <message>
         <source>Browse for the folder for recordings</source>
@@ -276,6 +327,69 @@
     <message>
         <source>Free space: %1</source>
         <translation>المساحة الحرة: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::App::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>اللغة (&amp;غ):</translation>
+    </message>
+    <message>
+        <source>System default (%1)</source>
+        <translation>مثل النظام (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>السمة (&amp;س):</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>مثل النظام</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>فاتحة</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>داكنة</translation>
+    </message>
+    <message>
+        <source>&amp;Ask all questions again</source>
+        <translation>طرح كل الأسئلة من جديد (&amp;ط)</translation>
+    </message>
+    <message>
+        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
+        <translation>عند حدوث مشكلة: مجلد إعداداتك وسجل هذا التشغيل.</translation>
+    </message>
+    <message>
+        <source>Open settings &amp;folder</source>
+        <translation>فتح مجلد الإعدادات (&amp;ج)</translation>
+    </message>
+    <message>
+        <source>&amp;Open log</source>
+        <translation>فتح السجل (&amp;ف)</translation>
+    </message>
+    <message>
+        <source>Some questions are no longer asked, because you chose so.</source>
+        <translation>لم تعد بعض الأسئلة تُطرح بناءً على اختيارك.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, such as before a task is deleted.</source>
+        <translation>تُطرح كل الأسئلة، مثل السؤال قبل حذف مهمة.</translation>
+    </message>
+    <message>
+        <source>There is no log of this run.</source>
+        <translation>لا يوجد سجل لهذا التشغيل.</translation>
+    </message>
+    <message>
+        <source>All questions are asked again</source>
+        <translation>تُطرح كل الأسئلة من جديد</translation>
+    </message>
+    <message>
+        <source>This cannot be opened: %1</source>
+        <translation>تعذّر الفتح: %1</translation>
     </message>
 </context>
 <context>
@@ -326,11 +440,19 @@
     </message>
     <message>
         <source>&amp;Start recording</source>
-        <translation>&amp;بدء التسجيل</translation>
+        <translation>بدء التسجيل (&amp;ب)</translation>
     </message>
     <message>
         <source>Recording schedule</source>
         <translation>جدول التسجيل</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>عام</translation>
+    </message>
+    <message>
+        <source>Choose how the application looks and speaks.</source>
+        <translation>اختر لغة التطبيق ومظهره.</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</source>
+        <translation>Die Einstellungen in &lt;file&gt; statt im Konfigurationsordner des Systems aufbewahren.</translation>
+    </message>
+    <message>
+        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>In diesem Lauf &lt;language&gt; sprechen, zum Beispiel de oder pt_BR.</translation>
+    </message>
+    <message>
+        <source>Use the theme light or dark in this run.</source>
+        <translation>In diesem Lauf das Design light oder dark verwenden.</translation>
+    </message>
+    <message>
+        <source>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</source>
+        <translation>Mit einer Kopie der Einstellungen (ohne --settings eines Beispiels) durch das Fenster gehen, von jedem Zustand ein Bild in &lt;folder&gt; ablegen und enden.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Diese Hilfe anzeigen.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Die Version anzeigen.</translation>
+    </message>
+    <message>
+        <source>%1: %2 (try --help)</source>
+        <translation>%1: %2 (siehe --help)</translation>
+    </message>
+    <message>
+        <source>option --%1 needs a value</source>
+        <translation>Option --%1 braucht einen Wert</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>unerwartetes Argument „%1“</translation>
+    </message>
+    <message>
+        <source>unknown theme &apos;%1&apos;; the themes are light and dark</source>
+        <translation>unbekanntes Design „%1“; es gibt light und dark</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;; the languages are %2</source>
+        <translation>unbekannte Sprache „%1“; es gibt %2</translation>
+    </message>
+    <message>
+        <source>Choose how screen recordings are timed.</source>
+        <translation>Legen Sie fest, wann Bildschirmaufnahmen beginnen und enden.</translation>
+    </message>
+</context>
+<context>
     <name>CreateRecordTaskWidget</name>
     <message>
         <source>New record:</source>
@@ -20,7 +71,7 @@
     </message>
     <message>
         <source>Action on finish:</source>
-        <translation>Aktion nach Ende:</translation>
+        <translation>Aktion nach &amp;Ende:</translation>
     </message>
     <message>
         <source>Create</source>
@@ -32,11 +83,11 @@
     </message>
     <message>
         <source>File name:</source>
-        <translation>Dateiname:</translation>
+        <translation>Datei&amp;name:</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>Datum:</translation>
+        <translation>D&amp;atum:</translation>
     </message>
     <message>
         <source>dd.MM.yyyy</source>
@@ -44,7 +95,7 @@
     </message>
     <message>
         <source>Time:</source>
-        <translation>Uhrzeit:</translation>
+        <translation>&amp;Uhrzeit:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -52,7 +103,7 @@
     </message>
     <message>
         <source>Duration:</source>
-        <translation>Dauer:</translation>
+        <translation>&amp;Dauer:</translation>
     </message>
     <message>
         <source>Capture:</source>
@@ -134,15 +185,15 @@
     </message>
     <message>
         <source>Do not schedule capture</source>
-        <translation>Keine zeitliche Steuerung</translation>
+        <translation>&amp;Keine zeitliche Steuerung</translation>
     </message>
     <message>
         <source>Stop capture after</source>
-        <translation>Aufnahme beenden nach</translation>
+        <translation>Aufnahme &amp;beenden nach</translation>
     </message>
     <message>
         <source>Record on schedule</source>
-        <translation>Nach Zeitplan aufnehmen</translation>
+        <translation>Nach &amp;Zeitplan aufnehmen</translation>
     </message>
     <message>
         <source>Add record event</source>
@@ -150,7 +201,7 @@
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
-        <translation>Aufnahmedauer:</translation>
+        <translation>Aufnahme&amp;dauer:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -158,7 +209,7 @@
     </message>
     <message>
         <source>When capture ends:</source>
-        <translation>Nach der Aufnahme:</translation>
+        <translation>&amp;Nach der Aufnahme:</translation>
     </message>
 </context>
 <context>
@@ -279,6 +330,69 @@
     </message>
 </context>
 <context>
+    <name>Zentor::App::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>Sp&amp;rache:</translation>
+    </message>
+    <message>
+        <source>System default (%1)</source>
+        <translation>Wie das System (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>D&amp;esign:</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>Wie das System</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>&amp;Ask all questions again</source>
+        <translation>Alle &amp;Fragen wieder stellen</translation>
+    </message>
+    <message>
+        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
+        <translation>Wenn etwas nicht stimmt: der Ordner Ihrer Einstellungen und das Protokoll dieses Laufs.</translation>
+    </message>
+    <message>
+        <source>Open settings &amp;folder</source>
+        <translation>&amp;Ordner der Einstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Open log</source>
+        <translation>&amp;Protokoll öffnen</translation>
+    </message>
+    <message>
+        <source>Some questions are no longer asked, because you chose so.</source>
+        <translation>Manche Fragen werden auf Ihren Wunsch nicht mehr gestellt.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, such as before a task is deleted.</source>
+        <translation>Jede Frage wird gestellt, zum Beispiel bevor eine Aufgabe gelöscht wird.</translation>
+    </message>
+    <message>
+        <source>There is no log of this run.</source>
+        <translation>Es gibt kein Protokoll dieses Laufs.</translation>
+    </message>
+    <message>
+        <source>All questions are asked again</source>
+        <translation>Alle Fragen werden wieder gestellt</translation>
+    </message>
+    <message>
+        <source>This cannot be opened: %1</source>
+        <translation>Das lässt sich nicht öffnen: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::App::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
@@ -331,6 +445,14 @@
     <message>
         <source>Recording schedule</source>
         <translation>Aufnahmezeitplan</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Choose how the application looks and speaks.</source>
+        <translation>Legen Sie Sprache und Aussehen der Anwendung fest.</translation>
     </message>
 </context>
 <context>

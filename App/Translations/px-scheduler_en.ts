@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</source>
+        <translation>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</translation>
+    </message>
+    <message>
+        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>Speak &lt;language&gt; in this run, for example de or pt_BR.</translation>
+    </message>
+    <message>
+        <source>Use the theme light or dark in this run.</source>
+        <translation>Use the theme light or dark in this run.</translation>
+    </message>
+    <message>
+        <source>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</source>
+        <translation>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Show this help.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Show the version.</translation>
+    </message>
+    <message>
+        <source>%1: %2 (try --help)</source>
+        <translation>%1: %2 (try --help)</translation>
+    </message>
+    <message>
+        <source>option --%1 needs a value</source>
+        <translation>option --%1 needs a value</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>unexpected argument &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>unknown theme &apos;%1&apos;; the themes are light and dark</source>
+        <translation>unknown theme &apos;%1&apos;; the themes are light and dark</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;; the languages are %2</source>
+        <translation>unknown language &apos;%1&apos;; the languages are %2</translation>
+    </message>
+    <message>
+        <source>Choose how screen recordings are timed.</source>
+        <translation>Choose how screen recordings are timed.</translation>
+    </message>
+</context>
+<context>
     <name>CreateRecordTaskWidget</name>
     <message>
         <source>New record:</source>
@@ -20,7 +71,7 @@
     </message>
     <message>
         <source>Action on finish:</source>
-        <translation>Action on finish:</translation>
+        <translation>&amp;Action on finish:</translation>
     </message>
     <message>
         <source>Create</source>
@@ -32,11 +83,11 @@
     </message>
     <message>
         <source>File name:</source>
-        <translation>File name:</translation>
+        <translation>File &amp;name:</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>Date:</translation>
+        <translation>&amp;Date:</translation>
     </message>
     <message>
         <source>dd.MM.yyyy</source>
@@ -44,7 +95,7 @@
     </message>
     <message>
         <source>Time:</source>
-        <translation>Time:</translation>
+        <translation>&amp;Time:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -52,7 +103,7 @@
     </message>
     <message>
         <source>Duration:</source>
-        <translation>Duration:</translation>
+        <translation>D&amp;uration:</translation>
     </message>
     <message>
         <source>Capture:</source>
@@ -134,15 +185,15 @@
     </message>
     <message>
         <source>Do not schedule capture</source>
-        <translation>Do not schedule capture</translation>
+        <translation>Do not schedule &amp;capture</translation>
     </message>
     <message>
         <source>Stop capture after</source>
-        <translation>Stop capture after</translation>
+        <translation>Sto&amp;p capture after</translation>
     </message>
     <message>
         <source>Record on schedule</source>
-        <translation>Record on schedule</translation>
+        <translation>&amp;Record on schedule</translation>
     </message>
     <message>
         <source>Add record event</source>
@@ -150,7 +201,7 @@
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
-        <translation>Duration:</translation>
+        <translation>&amp;Duration:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -158,7 +209,7 @@
     </message>
     <message>
         <source>When capture ends:</source>
-        <translation>When capture ends:</translation>
+        <translation>&amp;When capture ends:</translation>
     </message>
 </context>
 <context>
@@ -279,6 +330,69 @@
     </message>
 </context>
 <context>
+    <name>Zentor::App::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Language:</translation>
+    </message>
+    <message>
+        <source>System default (%1)</source>
+        <translation>System default (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>&amp;Theme:</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>System default</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>&amp;Ask all questions again</source>
+        <translation>&amp;Ask all questions again</translation>
+    </message>
+    <message>
+        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
+        <translation>When something goes wrong: the folder of your settings, and the log of this run.</translation>
+    </message>
+    <message>
+        <source>Open settings &amp;folder</source>
+        <translation>Open settings &amp;folder</translation>
+    </message>
+    <message>
+        <source>&amp;Open log</source>
+        <translation>&amp;Open log</translation>
+    </message>
+    <message>
+        <source>Some questions are no longer asked, because you chose so.</source>
+        <translation>Some questions are no longer asked, because you chose so.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, such as before a task is deleted.</source>
+        <translation>Every question is asked, such as before a task is deleted.</translation>
+    </message>
+    <message>
+        <source>There is no log of this run.</source>
+        <translation>There is no log of this run.</translation>
+    </message>
+    <message>
+        <source>All questions are asked again</source>
+        <translation>All questions are asked again</translation>
+    </message>
+    <message>
+        <source>This cannot be opened: %1</source>
+        <translation>This cannot be opened: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::App::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
@@ -331,6 +445,14 @@
     <message>
         <source>Recording schedule</source>
         <translation>Recording schedule</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Choose how the application looks and speaks.</source>
+        <translation>Choose how the application looks and speaks.</translation>
     </message>
 </context>
 <context>

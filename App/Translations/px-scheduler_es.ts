@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</source>
+        <translation>Guardar la configuración en &lt;file&gt; en lugar de la carpeta de configuración del sistema.</translation>
+    </message>
+    <message>
+        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>Usar &lt;language&gt; en esta ejecución, por ejemplo de o pt_BR.</translation>
+    </message>
+    <message>
+        <source>Use the theme light or dark in this run.</source>
+        <translation>Usar el tema light o dark en esta ejecución.</translation>
+    </message>
+    <message>
+        <source>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</source>
+        <translation>Recorrer la ventana con una copia de la configuración (de un ejemplo sin --settings), guardar una imagen de cada estado en &lt;folder&gt; y terminar.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Mostrar esta ayuda.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Mostrar la versión.</translation>
+    </message>
+    <message>
+        <source>%1: %2 (try --help)</source>
+        <translation>%1: %2 (pruebe --help)</translation>
+    </message>
+    <message>
+        <source>option --%1 needs a value</source>
+        <translation>la opción --%1 necesita un valor</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>argumento inesperado «%1»</translation>
+    </message>
+    <message>
+        <source>unknown theme &apos;%1&apos;; the themes are light and dark</source>
+        <translation>tema desconocido «%1»; los temas son light y dark</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;; the languages are %2</source>
+        <translation>idioma desconocido «%1»; los idiomas son %2</translation>
+    </message>
+    <message>
+        <source>Choose how screen recordings are timed.</source>
+        <translation>Elija cuándo empiezan y terminan las grabaciones de pantalla.</translation>
+    </message>
+</context>
+<context>
     <name>CreateRecordTaskWidget</name>
     <message>
         <source>New record:</source>
@@ -20,7 +71,7 @@
     </message>
     <message>
         <source>Action on finish:</source>
-        <translation>Acción al finalizar:</translation>
+        <translation>&amp;Acción al finalizar:</translation>
     </message>
     <message>
         <source>Create</source>
@@ -32,11 +83,11 @@
     </message>
     <message>
         <source>File name:</source>
-        <translation>Nombre de archivo:</translation>
+        <translation>&amp;Nombre de archivo:</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>Fecha:</translation>
+        <translation>&amp;Fecha:</translation>
     </message>
     <message>
         <source>dd.MM.yyyy</source>
@@ -44,7 +95,7 @@
     </message>
     <message>
         <source>Time:</source>
-        <translation>Hora:</translation>
+        <translation>&amp;Hora:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -52,7 +103,7 @@
     </message>
     <message>
         <source>Duration:</source>
-        <translation>Duración:</translation>
+        <translation>&amp;Duración:</translation>
     </message>
     <message>
         <source>Capture:</source>
@@ -134,15 +185,15 @@
     </message>
     <message>
         <source>Do not schedule capture</source>
-        <translation>No programar la grabación</translation>
+        <translation>No &amp;programar la grabación</translation>
     </message>
     <message>
         <source>Stop capture after</source>
-        <translation>Detener la grabación tras</translation>
+        <translation>D&amp;etener la grabación tras</translation>
     </message>
     <message>
         <source>Record on schedule</source>
-        <translation>Grabar según la programación</translation>
+        <translation>&amp;Grabar según la programación</translation>
     </message>
     <message>
         <source>Add record event</source>
@@ -150,7 +201,7 @@
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
-        <translation>Duración de la grabación:</translation>
+        <translation>&amp;Duración de la grabación:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -158,7 +209,7 @@
     </message>
     <message>
         <source>When capture ends:</source>
-        <translation>Al terminar la grabación:</translation>
+        <translation>Al &amp;terminar la grabación:</translation>
     </message>
 </context>
 <context>
@@ -279,6 +330,69 @@
     </message>
 </context>
 <context>
+    <name>Zentor::App::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>Idio&amp;ma:</translation>
+    </message>
+    <message>
+        <source>System default (%1)</source>
+        <translation>Como el sistema (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>&amp;Tema:</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>Como el sistema</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>&amp;Ask all questions again</source>
+        <translation>&amp;Volver a preguntar todo</translation>
+    </message>
+    <message>
+        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
+        <translation>Si algo va mal: la carpeta de su configuración y el registro de esta ejecución.</translation>
+    </message>
+    <message>
+        <source>Open settings &amp;folder</source>
+        <translation>Abrir la &amp;carpeta de configuración</translation>
+    </message>
+    <message>
+        <source>&amp;Open log</source>
+        <translation>Abrir el &amp;registro</translation>
+    </message>
+    <message>
+        <source>Some questions are no longer asked, because you chose so.</source>
+        <translation>Algunas preguntas ya no se hacen porque así lo eligió.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, such as before a task is deleted.</source>
+        <translation>Se hacen todas las preguntas, por ejemplo antes de eliminar una tarea.</translation>
+    </message>
+    <message>
+        <source>There is no log of this run.</source>
+        <translation>No hay ningún registro de esta ejecución.</translation>
+    </message>
+    <message>
+        <source>All questions are asked again</source>
+        <translation>Se vuelven a hacer todas las preguntas</translation>
+    </message>
+    <message>
+        <source>This cannot be opened: %1</source>
+        <translation>No se puede abrir: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::App::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
@@ -331,6 +445,14 @@
     <message>
         <source>Recording schedule</source>
         <translation>Programación de grabaciones</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Choose how the application looks and speaks.</source>
+        <translation>Elija el idioma y el aspecto de la aplicación.</translation>
     </message>
 </context>
 <context>

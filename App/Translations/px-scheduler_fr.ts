@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</source>
+        <translation>Conserver les paramètres dans &lt;file&gt; au lieu du dossier de configuration du système.</translation>
+    </message>
+    <message>
+        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>Parler &lt;language&gt; lors de cette exécution, par exemple de ou pt_BR.</translation>
+    </message>
+    <message>
+        <source>Use the theme light or dark in this run.</source>
+        <translation>Utiliser le thème light ou dark lors de cette exécution.</translation>
+    </message>
+    <message>
+        <source>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</source>
+        <translation>Parcourir la fenêtre sur une copie des paramètres (d’un exemple sans --settings), écrire une image de chaque état dans &lt;folder&gt;, puis terminer.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Afficher cette aide.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Afficher la version.</translation>
+    </message>
+    <message>
+        <source>%1: %2 (try --help)</source>
+        <translation>%1 : %2 (essayez --help)</translation>
+    </message>
+    <message>
+        <source>option --%1 needs a value</source>
+        <translation>l’option --%1 exige une valeur</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>argument inattendu « %1 »</translation>
+    </message>
+    <message>
+        <source>unknown theme &apos;%1&apos;; the themes are light and dark</source>
+        <translation>thème inconnu « %1 » ; les thèmes sont light et dark</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;; the languages are %2</source>
+        <translation>langue inconnue « %1 » ; les langues sont %2</translation>
+    </message>
+    <message>
+        <source>Choose how screen recordings are timed.</source>
+        <translation>Choisissez quand les enregistrements d’écran commencent et se terminent.</translation>
+    </message>
+</context>
+<context>
     <name>CreateRecordTaskWidget</name>
     <message>
         <source>New record:</source>
@@ -20,7 +71,7 @@
     </message>
     <message>
         <source>Action on finish:</source>
-        <translation>Action à la fin :</translation>
+        <translation>&amp;Action à la fin :</translation>
     </message>
     <message>
         <source>Create</source>
@@ -32,11 +83,11 @@
     </message>
     <message>
         <source>File name:</source>
-        <translation>Nom du fichier :</translation>
+        <translation>&amp;Nom du fichier :</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>Date :</translation>
+        <translation>&amp;Date :</translation>
     </message>
     <message>
         <source>dd.MM.yyyy</source>
@@ -44,7 +95,7 @@
     </message>
     <message>
         <source>Time:</source>
-        <translation>Heure :</translation>
+        <translation>&amp;Heure :</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -52,7 +103,7 @@
     </message>
     <message>
         <source>Duration:</source>
-        <translation>Durée :</translation>
+        <translation>D&amp;urée :</translation>
     </message>
     <message>
         <source>Capture:</source>
@@ -134,15 +185,15 @@
     </message>
     <message>
         <source>Do not schedule capture</source>
-        <translation>Ne pas planifier l’enregistrement</translation>
+        <translation>Ne &amp;pas planifier l’enregistrement</translation>
     </message>
     <message>
         <source>Stop capture after</source>
-        <translation>Arrêter l’enregistrement après</translation>
+        <translation>A&amp;rrêter l’enregistrement après</translation>
     </message>
     <message>
         <source>Record on schedule</source>
-        <translation>Enregistrer selon un planning</translation>
+        <translation>&amp;Enregistrer selon un planning</translation>
     </message>
     <message>
         <source>Add record event</source>
@@ -150,7 +201,7 @@
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
-        <translation>Durée de l’enregistrement :</translation>
+        <translation>D&amp;urée de l’enregistrement :</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -158,7 +209,7 @@
     </message>
     <message>
         <source>When capture ends:</source>
-        <translation>À la fin de l’enregistrement :</translation>
+        <translation>À la &amp;fin de l’enregistrement :</translation>
     </message>
 </context>
 <context>
@@ -279,6 +330,69 @@
     </message>
 </context>
 <context>
+    <name>Zentor::App::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Langue :</translation>
+    </message>
+    <message>
+        <source>System default (%1)</source>
+        <translation>Comme le système (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>&amp;Thème :</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>Comme le système</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>&amp;Ask all questions again</source>
+        <translation>Poser à nouveau toutes les &amp;questions</translation>
+    </message>
+    <message>
+        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
+        <translation>En cas de problème : le dossier de vos paramètres et le journal de cette exécution.</translation>
+    </message>
+    <message>
+        <source>Open settings &amp;folder</source>
+        <translation>Ouvrir le &amp;dossier des paramètres</translation>
+    </message>
+    <message>
+        <source>&amp;Open log</source>
+        <translation>Ouvrir le &amp;journal</translation>
+    </message>
+    <message>
+        <source>Some questions are no longer asked, because you chose so.</source>
+        <translation>Certaines questions ne sont plus posées, comme vous l’avez choisi.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, such as before a task is deleted.</source>
+        <translation>Toutes les questions sont posées, par exemple avant de supprimer une tâche.</translation>
+    </message>
+    <message>
+        <source>There is no log of this run.</source>
+        <translation>Il n’y a pas de journal de cette exécution.</translation>
+    </message>
+    <message>
+        <source>All questions are asked again</source>
+        <translation>Toutes les questions sont à nouveau posées</translation>
+    </message>
+    <message>
+        <source>This cannot be opened: %1</source>
+        <translation>Impossible d’ouvrir : %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::App::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
@@ -331,6 +445,14 @@
     <message>
         <source>Recording schedule</source>
         <translation>Planning d’enregistrement</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Choose how the application looks and speaks.</source>
+        <translation>Choisissez la langue et l’apparence de l’application.</translation>
     </message>
 </context>
 <context>

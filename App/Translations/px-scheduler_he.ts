@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</source>
+        <translation>לשמור את ההגדרות בקובץ &lt;file&gt; במקום בתיקיית ההגדרות של המערכת.</translation>
+    </message>
+    <message>
+        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>להשתמש בשפה &lt;language&gt; בהרצה זו, לדוגמה de או pt_BR.</translation>
+    </message>
+    <message>
+        <source>Use the theme light or dark in this run.</source>
+        <translation>להשתמש בערכת הנושא light או dark בהרצה זו.</translation>
+    </message>
+    <message>
+        <source>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</source>
+        <translation>לעבור על החלון עם עותק של ההגדרות (או של דוגמה ללא --settings), לכתוב תמונה של כל מצב אל &lt;folder&gt; ולסיים.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>להציג עזרה זו.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>להציג את הגרסה.</translation>
+    </message>
+    <message>
+        <source>%1: %2 (try --help)</source>
+        <translation>%1: %2 (נסו ‎--help)</translation>
+    </message>
+    <message>
+        <source>option --%1 needs a value</source>
+        <translation>האפשרות ‎--%1 דורשת ערך</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>ארגומנט לא צפוי ”%1“</translation>
+    </message>
+    <message>
+        <source>unknown theme &apos;%1&apos;; the themes are light and dark</source>
+        <translation>ערכת נושא לא מוכרת ”%1“; הערכות הן light ו-dark</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;; the languages are %2</source>
+        <translation>שפה לא מוכרת ”%1“; השפות הן %2</translation>
+    </message>
+    <message>
+        <source>Choose how screen recordings are timed.</source>
+        <translation>בחרו מתי יתחילו ויסתיימו הקלטות המסך.</translation>
+    </message>
+</context>
+<context>
     <name>CreateRecordTaskWidget</name>
     <message>
         <source>New record:</source>
@@ -20,7 +71,7 @@
     </message>
     <message>
         <source>Action on finish:</source>
-        <translation>פעולה בסיום:</translation>
+        <translation>&amp;פעולה בסיום:</translation>
     </message>
     <message>
         <source>Create</source>
@@ -32,11 +83,11 @@
     </message>
     <message>
         <source>File name:</source>
-        <translation>שם הקובץ:</translation>
+        <translation>&amp;שם הקובץ:</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>תאריך:</translation>
+        <translation>&amp;תאריך:</translation>
     </message>
     <message>
         <source>dd.MM.yyyy</source>
@@ -44,7 +95,7 @@
     </message>
     <message>
         <source>Time:</source>
-        <translation>שעה:</translation>
+        <translation>ש&amp;עה:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -52,7 +103,7 @@
     </message>
     <message>
         <source>Duration:</source>
-        <translation>משך:</translation>
+        <translation>&amp;משך:</translation>
     </message>
     <message>
         <source>Capture:</source>
@@ -134,15 +185,15 @@
     </message>
     <message>
         <source>Do not schedule capture</source>
-        <translation>ללא תזמון הקלטה</translation>
+        <translation>&amp;ללא תזמון הקלטה</translation>
     </message>
     <message>
         <source>Stop capture after</source>
-        <translation>עצירת ההקלטה לאחר</translation>
+        <translation>ע&amp;צירת ההקלטה לאחר</translation>
     </message>
     <message>
         <source>Record on schedule</source>
-        <translation>הקלטה לפי לוח זמנים</translation>
+        <translation>הקלטה לפי לוח &amp;זמנים</translation>
     </message>
     <message>
         <source>Add record event</source>
@@ -150,7 +201,7 @@
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
-        <translation>משך ההקלטה:</translation>
+        <translation>&amp;משך ההקלטה:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -158,7 +209,7 @@
     </message>
     <message>
         <source>When capture ends:</source>
-        <translation>בסיום ההקלטה:</translation>
+        <translation>&amp;בסיום ההקלטה:</translation>
     </message>
 </context>
 <context>
@@ -279,6 +330,69 @@
     </message>
 </context>
 <context>
+    <name>Zentor::App::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;שפה:</translation>
+    </message>
+    <message>
+        <source>System default (%1)</source>
+        <translation>כמו במערכת (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>&amp;ערכת נושא:</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>כמו במערכת</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>בהירה</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>כהה</translation>
+    </message>
+    <message>
+        <source>&amp;Ask all questions again</source>
+        <translation>לשאול שוב את &amp;כל השאלות</translation>
+    </message>
+    <message>
+        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
+        <translation>כשמשהו משתבש: תיקיית ההגדרות והיומן של הרצה זו.</translation>
+    </message>
+    <message>
+        <source>Open settings &amp;folder</source>
+        <translation>פתיחת תיקיית ה&amp;גדרות</translation>
+    </message>
+    <message>
+        <source>&amp;Open log</source>
+        <translation>פתיחת ה&amp;יומן</translation>
+    </message>
+    <message>
+        <source>Some questions are no longer asked, because you chose so.</source>
+        <translation>חלק מהשאלות אינן נשאלות עוד, לפי בחירתכם.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, such as before a task is deleted.</source>
+        <translation>כל השאלות נשאלות, למשל לפני מחיקת משימה.</translation>
+    </message>
+    <message>
+        <source>There is no log of this run.</source>
+        <translation>אין יומן להרצה זו.</translation>
+    </message>
+    <message>
+        <source>All questions are asked again</source>
+        <translation>כל השאלות יישאלו שוב</translation>
+    </message>
+    <message>
+        <source>This cannot be opened: %1</source>
+        <translation>לא ניתן לפתוח: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::App::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
@@ -331,6 +445,14 @@
     <message>
         <source>Recording schedule</source>
         <translation>לוח ההקלטות</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>כללי</translation>
+    </message>
+    <message>
+        <source>Choose how the application looks and speaks.</source>
+        <translation>בחרו את שפת היישום ואת מראהו.</translation>
     </message>
 </context>
 <context>

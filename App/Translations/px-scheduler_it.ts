@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</source>
+        <translation>Conserva le impostazioni in &lt;file&gt; anziché nella cartella di configurazione del sistema.</translation>
+    </message>
+    <message>
+        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>Usa &lt;language&gt; in questa esecuzione, per esempio de o pt_BR.</translation>
+    </message>
+    <message>
+        <source>Use the theme light or dark in this run.</source>
+        <translation>Usa il tema light o dark in questa esecuzione.</translation>
+    </message>
+    <message>
+        <source>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</source>
+        <translation>Percorre la finestra su una copia delle impostazioni (di un esempio senza --settings), scrive un’immagine di ogni stato in &lt;folder&gt; e termina.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Mostra questo aiuto.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Mostra la versione.</translation>
+    </message>
+    <message>
+        <source>%1: %2 (try --help)</source>
+        <translation>%1: %2 (prova --help)</translation>
+    </message>
+    <message>
+        <source>option --%1 needs a value</source>
+        <translation>l’opzione --%1 richiede un valore</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>argomento inatteso «%1»</translation>
+    </message>
+    <message>
+        <source>unknown theme &apos;%1&apos;; the themes are light and dark</source>
+        <translation>tema sconosciuto «%1»; i temi sono light e dark</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;; the languages are %2</source>
+        <translation>lingua sconosciuta «%1»; le lingue sono %2</translation>
+    </message>
+    <message>
+        <source>Choose how screen recordings are timed.</source>
+        <translation>Scegli quando iniziano e finiscono le registrazioni dello schermo.</translation>
+    </message>
+</context>
+<context>
     <name>CreateRecordTaskWidget</name>
     <message>
         <source>New record:</source>
@@ -20,7 +71,7 @@
     </message>
     <message>
         <source>Action on finish:</source>
-        <translation>Azione al termine:</translation>
+        <translation>A&amp;zione al termine:</translation>
     </message>
     <message>
         <source>Create</source>
@@ -32,11 +83,11 @@
     </message>
     <message>
         <source>File name:</source>
-        <translation>Nome file:</translation>
+        <translation>&amp;Nome file:</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>Data:</translation>
+        <translation>&amp;Data:</translation>
     </message>
     <message>
         <source>dd.MM.yyyy</source>
@@ -44,7 +95,7 @@
     </message>
     <message>
         <source>Time:</source>
-        <translation>Ora:</translation>
+        <translation>&amp;Ora:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -52,7 +103,7 @@
     </message>
     <message>
         <source>Duration:</source>
-        <translation>Durata:</translation>
+        <translation>D&amp;urata:</translation>
     </message>
     <message>
         <source>Capture:</source>
@@ -134,15 +185,15 @@
     </message>
     <message>
         <source>Do not schedule capture</source>
-        <translation>Non pianificare la registrazione</translation>
+        <translation>Non &amp;pianificare la registrazione</translation>
     </message>
     <message>
         <source>Stop capture after</source>
-        <translation>Interrompi la registrazione dopo</translation>
+        <translation>&amp;Interrompi la registrazione dopo</translation>
     </message>
     <message>
         <source>Record on schedule</source>
-        <translation>Registra secondo la pianificazione</translation>
+        <translation>&amp;Registra secondo la pianificazione</translation>
     </message>
     <message>
         <source>Add record event</source>
@@ -150,7 +201,7 @@
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
-        <translation>Durata della registrazione:</translation>
+        <translation>&amp;Durata della registrazione:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -158,7 +209,7 @@
     </message>
     <message>
         <source>When capture ends:</source>
-        <translation>Al termine della registrazione:</translation>
+        <translation>Al &amp;termine della registrazione:</translation>
     </message>
 </context>
 <context>
@@ -279,6 +330,69 @@
     </message>
 </context>
 <context>
+    <name>Zentor::App::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Lingua:</translation>
+    </message>
+    <message>
+        <source>System default (%1)</source>
+        <translation>Come il sistema (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>&amp;Tema:</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>Come il sistema</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Chiaro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Scuro</translation>
+    </message>
+    <message>
+        <source>&amp;Ask all questions again</source>
+        <translation>&amp;Riproponi tutte le domande</translation>
+    </message>
+    <message>
+        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
+        <translation>Se qualcosa non va: la cartella delle impostazioni e il registro di questa esecuzione.</translation>
+    </message>
+    <message>
+        <source>Open settings &amp;folder</source>
+        <translation>Apri la &amp;cartella delle impostazioni</translation>
+    </message>
+    <message>
+        <source>&amp;Open log</source>
+        <translation>Apri il re&amp;gistro</translation>
+    </message>
+    <message>
+        <source>Some questions are no longer asked, because you chose so.</source>
+        <translation>Alcune domande non vengono più poste, come hai scelto.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, such as before a task is deleted.</source>
+        <translation>Vengono poste tutte le domande, per esempio prima di eliminare un’attività.</translation>
+    </message>
+    <message>
+        <source>There is no log of this run.</source>
+        <translation>Non c’è alcun registro di questa esecuzione.</translation>
+    </message>
+    <message>
+        <source>All questions are asked again</source>
+        <translation>Tutte le domande vengono riproposte</translation>
+    </message>
+    <message>
+        <source>This cannot be opened: %1</source>
+        <translation>Impossibile aprire: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::App::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
@@ -331,6 +445,14 @@
     <message>
         <source>Recording schedule</source>
         <translation>Pianificazione delle registrazioni</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>Choose how the application looks and speaks.</source>
+        <translation>Scegli la lingua e l’aspetto dell’applicazione.</translation>
     </message>
 </context>
 <context>

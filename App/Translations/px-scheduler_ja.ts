@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</source>
+        <translation>設定をシステムの設定フォルダーではなく &lt;file&gt; に保存します。</translation>
+    </message>
+    <message>
+        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>今回の実行で &lt;language&gt; を使用します。例：de、pt_BR</translation>
+    </message>
+    <message>
+        <source>Use the theme light or dark in this run.</source>
+        <translation>今回の実行でテーマ light または dark を使用します。</translation>
+    </message>
+    <message>
+        <source>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</source>
+        <translation>設定のコピー（--settings がない場合はサンプル）でウィンドウを巡回し、各状態の画像を &lt;folder&gt; に書き込んで終了します。</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>このヘルプを表示します。</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>バージョンを表示します。</translation>
+    </message>
+    <message>
+        <source>%1: %2 (try --help)</source>
+        <translation>%1: %2（--help を参照）</translation>
+    </message>
+    <message>
+        <source>option --%1 needs a value</source>
+        <translation>オプション --%1 には値が必要です</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>予期しない引数「%1」</translation>
+    </message>
+    <message>
+        <source>unknown theme &apos;%1&apos;; the themes are light and dark</source>
+        <translation>不明なテーマ「%1」。テーマは light と dark です</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;; the languages are %2</source>
+        <translation>不明な言語「%1」。言語は %2 です</translation>
+    </message>
+    <message>
+        <source>Choose how screen recordings are timed.</source>
+        <translation>画面録画のタイミングを選択します。</translation>
+    </message>
+</context>
+<context>
     <name>CreateRecordTaskWidget</name>
     <message>
         <source>New record:</source>
@@ -20,7 +71,7 @@
     </message>
     <message>
         <source>Action on finish:</source>
-        <translation>終了時の動作：</translation>
+        <translation>終了時の動作(&amp;A)：</translation>
     </message>
     <message>
         <source>Create</source>
@@ -32,11 +83,11 @@
     </message>
     <message>
         <source>File name:</source>
-        <translation>ファイル名：</translation>
+        <translation>ファイル名(&amp;N)：</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>日付：</translation>
+        <translation>日付(&amp;D)：</translation>
     </message>
     <message>
         <source>dd.MM.yyyy</source>
@@ -44,7 +95,7 @@
     </message>
     <message>
         <source>Time:</source>
-        <translation>時刻：</translation>
+        <translation>時刻(&amp;T)：</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -52,7 +103,7 @@
     </message>
     <message>
         <source>Duration:</source>
-        <translation>録画時間：</translation>
+        <translation>録画時間(&amp;U)：</translation>
     </message>
     <message>
         <source>Capture:</source>
@@ -134,15 +185,15 @@
     </message>
     <message>
         <source>Do not schedule capture</source>
-        <translation>録画を予約しない</translation>
+        <translation>録画を予約しない(&amp;C)</translation>
     </message>
     <message>
         <source>Stop capture after</source>
-        <translation>指定時間後に録画を停止</translation>
+        <translation>指定時間後に録画を停止(&amp;P)</translation>
     </message>
     <message>
         <source>Record on schedule</source>
-        <translation>スケジュールに従って録画</translation>
+        <translation>スケジュールに従って録画(&amp;R)</translation>
     </message>
     <message>
         <source>Add record event</source>
@@ -150,7 +201,7 @@
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
-        <translation>録画時間：</translation>
+        <translation>録画時間(&amp;U)：</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -158,7 +209,7 @@
     </message>
     <message>
         <source>When capture ends:</source>
-        <translation>録画終了後：</translation>
+        <translation>録画終了後(&amp;W)：</translation>
     </message>
 </context>
 <context>
@@ -279,6 +330,69 @@
     </message>
 </context>
 <context>
+    <name>Zentor::App::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>言語(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>System default (%1)</source>
+        <translation>システムの設定（%1）</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>テーマ(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>システムの設定</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>&amp;Ask all questions again</source>
+        <translation>すべての質問を再表示(&amp;A)</translation>
+    </message>
+    <message>
+        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
+        <translation>問題が起きたとき：設定のフォルダーと、今回の実行のログ。</translation>
+    </message>
+    <message>
+        <source>Open settings &amp;folder</source>
+        <translation>設定フォルダーを開く(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Open log</source>
+        <translation>ログを開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Some questions are no longer asked, because you chose so.</source>
+        <translation>選択により、一部の質問は表示されなくなっています。</translation>
+    </message>
+    <message>
+        <source>Every question is asked, such as before a task is deleted.</source>
+        <translation>タスクを削除する前など、すべての質問が表示されます。</translation>
+    </message>
+    <message>
+        <source>There is no log of this run.</source>
+        <translation>今回の実行のログはありません。</translation>
+    </message>
+    <message>
+        <source>All questions are asked again</source>
+        <translation>すべての質問が再び表示されます</translation>
+    </message>
+    <message>
+        <source>This cannot be opened: %1</source>
+        <translation>開けません：%1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::App::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
@@ -331,6 +445,14 @@
     <message>
         <source>Recording schedule</source>
         <translation>録画スケジュール</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Choose how the application looks and speaks.</source>
+        <translation>アプリケーションの言語と外観を選択します。</translation>
     </message>
 </context>
 <context>

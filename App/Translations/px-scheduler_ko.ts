@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</source>
+        <translation>설정을 시스템 구성 폴더 대신 &lt;file&gt;에 보관합니다.</translation>
+    </message>
+    <message>
+        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>이번 실행에서 &lt;language&gt;을(를) 사용합니다. 예: de, pt_BR.</translation>
+    </message>
+    <message>
+        <source>Use the theme light or dark in this run.</source>
+        <translation>이번 실행에서 light 또는 dark 테마를 사용합니다.</translation>
+    </message>
+    <message>
+        <source>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</source>
+        <translation>설정의 사본(--settings가 없으면 예제)으로 창을 둘러보며 각 상태의 그림을 &lt;folder&gt;에 쓰고 끝냅니다.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>이 도움말을 표시합니다.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>버전을 표시합니다.</translation>
+    </message>
+    <message>
+        <source>%1: %2 (try --help)</source>
+        <translation>%1: %2(--help 참고)</translation>
+    </message>
+    <message>
+        <source>option --%1 needs a value</source>
+        <translation>옵션 --%1에 값이 필요합니다</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>예기치 않은 인수 &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>unknown theme &apos;%1&apos;; the themes are light and dark</source>
+        <translation>알 수 없는 테마 &apos;%1&apos;. 테마는 light와 dark입니다</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;; the languages are %2</source>
+        <translation>알 수 없는 언어 &apos;%1&apos;. 언어는 %2입니다</translation>
+    </message>
+    <message>
+        <source>Choose how screen recordings are timed.</source>
+        <translation>화면 녹화 시간을 선택하세요.</translation>
+    </message>
+</context>
+<context>
     <name>CreateRecordTaskWidget</name>
     <message>
         <source>New record:</source>
@@ -20,7 +71,7 @@
     </message>
     <message>
         <source>Action on finish:</source>
-        <translation>완료 시 동작:</translation>
+        <translation>완료 시 동작(&amp;A):</translation>
     </message>
     <message>
         <source>Create</source>
@@ -32,11 +83,11 @@
     </message>
     <message>
         <source>File name:</source>
-        <translation>파일 이름:</translation>
+        <translation>파일 이름(&amp;N):</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>날짜:</translation>
+        <translation>날짜(&amp;D):</translation>
     </message>
     <message>
         <source>dd.MM.yyyy</source>
@@ -44,7 +95,7 @@
     </message>
     <message>
         <source>Time:</source>
-        <translation>시간:</translation>
+        <translation>시간(&amp;T):</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -52,7 +103,7 @@
     </message>
     <message>
         <source>Duration:</source>
-        <translation>길이:</translation>
+        <translation>길이(&amp;U):</translation>
     </message>
     <message>
         <source>Capture:</source>
@@ -134,15 +185,15 @@
     </message>
     <message>
         <source>Do not schedule capture</source>
-        <translation>녹화 예약 안 함</translation>
+        <translation>녹화 예약 안 함(&amp;C)</translation>
     </message>
     <message>
         <source>Stop capture after</source>
-        <translation>지정한 시간 후 녹화 중지</translation>
+        <translation>지정한 시간 후 녹화 중지(&amp;P)</translation>
     </message>
     <message>
         <source>Record on schedule</source>
-        <translation>일정에 따라 녹화</translation>
+        <translation>일정에 따라 녹화(&amp;R)</translation>
     </message>
     <message>
         <source>Add record event</source>
@@ -150,7 +201,7 @@
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
-        <translation>녹화 시간:</translation>
+        <translation>녹화 시간(&amp;U):</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -158,7 +209,7 @@
     </message>
     <message>
         <source>When capture ends:</source>
-        <translation>녹화가 끝나면:</translation>
+        <translation>녹화가 끝나면(&amp;W):</translation>
     </message>
 </context>
 <context>
@@ -279,6 +330,69 @@
     </message>
 </context>
 <context>
+    <name>Zentor::App::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>언어(&amp;L):</translation>
+    </message>
+    <message>
+        <source>System default (%1)</source>
+        <translation>시스템 기본값(%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>테마(&amp;T):</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>시스템 기본값</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>밝게</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>어둡게</translation>
+    </message>
+    <message>
+        <source>&amp;Ask all questions again</source>
+        <translation>모든 질문 다시 표시(&amp;A)</translation>
+    </message>
+    <message>
+        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
+        <translation>문제가 생겼을 때: 설정 폴더와 이번 실행의 로그.</translation>
+    </message>
+    <message>
+        <source>Open settings &amp;folder</source>
+        <translation>설정 폴더 열기(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Open log</source>
+        <translation>로그 열기(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Some questions are no longer asked, because you chose so.</source>
+        <translation>선택하신 대로 일부 질문은 더 이상 표시되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, such as before a task is deleted.</source>
+        <translation>작업을 삭제하기 전과 같은 모든 질문이 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>There is no log of this run.</source>
+        <translation>이번 실행의 로그가 없습니다.</translation>
+    </message>
+    <message>
+        <source>All questions are asked again</source>
+        <translation>모든 질문이 다시 표시됩니다</translation>
+    </message>
+    <message>
+        <source>This cannot be opened: %1</source>
+        <translation>열 수 없습니다: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::App::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
@@ -331,6 +445,14 @@
     <message>
         <source>Recording schedule</source>
         <translation>녹화 일정</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>일반</translation>
+    </message>
+    <message>
+        <source>Choose how the application looks and speaks.</source>
+        <translation>응용 프로그램의 언어와 모양을 선택하세요.</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</source>
+        <translation>Przechowuj ustawienia w &lt;file&gt; zamiast w folderze konfiguracji systemu.</translation>
+    </message>
+    <message>
+        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>Użyj języka &lt;language&gt; w tym uruchomieniu, na przykład de lub pt_BR.</translation>
+    </message>
+    <message>
+        <source>Use the theme light or dark in this run.</source>
+        <translation>Użyj motywu light lub dark w tym uruchomieniu.</translation>
+    </message>
+    <message>
+        <source>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</source>
+        <translation>Przejdź przez okno na kopii ustawień (bez --settings na przykładzie), zapisz obraz każdego stanu w &lt;folder&gt; i zakończ.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Pokaż tę pomoc.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Pokaż wersję.</translation>
+    </message>
+    <message>
+        <source>%1: %2 (try --help)</source>
+        <translation>%1: %2 (spróbuj --help)</translation>
+    </message>
+    <message>
+        <source>option --%1 needs a value</source>
+        <translation>opcja --%1 wymaga wartości</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>nieoczekiwany argument „%1”</translation>
+    </message>
+    <message>
+        <source>unknown theme &apos;%1&apos;; the themes are light and dark</source>
+        <translation>nieznany motyw „%1”; dostępne motywy: light i dark</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;; the languages are %2</source>
+        <translation>nieznany język „%1”; dostępne języki: %2</translation>
+    </message>
+    <message>
+        <source>Choose how screen recordings are timed.</source>
+        <translation>Wybierz, kiedy nagrania ekranu mają się zaczynać i kończyć.</translation>
+    </message>
+</context>
+<context>
     <name>CreateRecordTaskWidget</name>
     <message>
         <source>New record:</source>
@@ -20,7 +71,7 @@
     </message>
     <message>
         <source>Action on finish:</source>
-        <translation>Po zakończeniu:</translation>
+        <translation>&amp;Po zakończeniu:</translation>
     </message>
     <message>
         <source>Create</source>
@@ -32,11 +83,11 @@
     </message>
     <message>
         <source>File name:</source>
-        <translation>Nazwa pliku:</translation>
+        <translation>&amp;Nazwa pliku:</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>Data:</translation>
+        <translation>&amp;Data:</translation>
     </message>
     <message>
         <source>dd.MM.yyyy</source>
@@ -44,7 +95,7 @@
     </message>
     <message>
         <source>Time:</source>
-        <translation>Godzina:</translation>
+        <translation>&amp;Godzina:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -52,7 +103,7 @@
     </message>
     <message>
         <source>Duration:</source>
-        <translation>Czas trwania:</translation>
+        <translation>&amp;Czas trwania:</translation>
     </message>
     <message>
         <source>Capture:</source>
@@ -134,15 +185,15 @@
     </message>
     <message>
         <source>Do not schedule capture</source>
-        <translation>Nie planuj nagrywania</translation>
+        <translation>Nie p&amp;lanuj nagrywania</translation>
     </message>
     <message>
         <source>Stop capture after</source>
-        <translation>Zatrzymaj nagrywanie po</translation>
+        <translation>&amp;Zatrzymaj nagrywanie po</translation>
     </message>
     <message>
         <source>Record on schedule</source>
-        <translation>Nagrywaj według harmonogramu</translation>
+        <translation>Nagrywaj według &amp;harmonogramu</translation>
     </message>
     <message>
         <source>Add record event</source>
@@ -150,7 +201,7 @@
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
-        <translation>Czas nagrywania:</translation>
+        <translation>&amp;Czas nagrywania:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -158,7 +209,7 @@
     </message>
     <message>
         <source>When capture ends:</source>
-        <translation>Po zakończeniu nagrywania:</translation>
+        <translation>&amp;Po zakończeniu nagrywania:</translation>
     </message>
 </context>
 <context>
@@ -279,6 +330,69 @@
     </message>
 </context>
 <context>
+    <name>Zentor::App::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Język:</translation>
+    </message>
+    <message>
+        <source>System default (%1)</source>
+        <translation>Jak w systemie (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>&amp;Motyw:</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>Jak w systemie</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Jasny</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Ciemny</translation>
+    </message>
+    <message>
+        <source>&amp;Ask all questions again</source>
+        <translation>&amp;Zadawaj znów wszystkie pytania</translation>
+    </message>
+    <message>
+        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
+        <translation>Gdy coś pójdzie nie tak: folder ustawień i dziennik tego uruchomienia.</translation>
+    </message>
+    <message>
+        <source>Open settings &amp;folder</source>
+        <translation>Otwórz &amp;folder ustawień</translation>
+    </message>
+    <message>
+        <source>&amp;Open log</source>
+        <translation>Otwórz &amp;dziennik</translation>
+    </message>
+    <message>
+        <source>Some questions are no longer asked, because you chose so.</source>
+        <translation>Niektóre pytania nie są już zadawane zgodnie z Twoim wyborem.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, such as before a task is deleted.</source>
+        <translation>Zadawane są wszystkie pytania, na przykład przed usunięciem zadania.</translation>
+    </message>
+    <message>
+        <source>There is no log of this run.</source>
+        <translation>Brak dziennika tego uruchomienia.</translation>
+    </message>
+    <message>
+        <source>All questions are asked again</source>
+        <translation>Wszystkie pytania są znów zadawane</translation>
+    </message>
+    <message>
+        <source>This cannot be opened: %1</source>
+        <translation>Nie można otworzyć: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::App::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
@@ -331,6 +445,14 @@
     <message>
         <source>Recording schedule</source>
         <translation>Harmonogram nagrywania</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Ogólne</translation>
+    </message>
+    <message>
+        <source>Choose how the application looks and speaks.</source>
+        <translation>Wybierz język i wygląd aplikacji.</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</source>
+        <translation>Guardar as configurações em &lt;file&gt; em vez da pasta de configuração do sistema.</translation>
+    </message>
+    <message>
+        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>Usar &lt;language&gt; nesta execução, por exemplo de ou pt_BR.</translation>
+    </message>
+    <message>
+        <source>Use the theme light or dark in this run.</source>
+        <translation>Usar o tema light ou dark nesta execução.</translation>
+    </message>
+    <message>
+        <source>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</source>
+        <translation>Percorrer a janela com uma cópia das configurações (de um exemplo sem --settings), gravar uma imagem de cada estado em &lt;folder&gt; e terminar.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Mostrar esta ajuda.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Mostrar a versão.</translation>
+    </message>
+    <message>
+        <source>%1: %2 (try --help)</source>
+        <translation>%1: %2 (tente --help)</translation>
+    </message>
+    <message>
+        <source>option --%1 needs a value</source>
+        <translation>a opção --%1 precisa de um valor</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>argumento inesperado “%1”</translation>
+    </message>
+    <message>
+        <source>unknown theme &apos;%1&apos;; the themes are light and dark</source>
+        <translation>tema desconhecido “%1”; os temas são light e dark</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;; the languages are %2</source>
+        <translation>idioma desconhecido “%1”; os idiomas são %2</translation>
+    </message>
+    <message>
+        <source>Choose how screen recordings are timed.</source>
+        <translation>Escolha quando as gravações de tela começam e terminam.</translation>
+    </message>
+</context>
+<context>
     <name>CreateRecordTaskWidget</name>
     <message>
         <source>New record:</source>
@@ -20,7 +71,7 @@
     </message>
     <message>
         <source>Action on finish:</source>
-        <translation>Ação ao terminar:</translation>
+        <translation>&amp;Ação ao terminar:</translation>
     </message>
     <message>
         <source>Create</source>
@@ -32,11 +83,11 @@
     </message>
     <message>
         <source>File name:</source>
-        <translation>Nome do arquivo:</translation>
+        <translation>&amp;Nome do arquivo:</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>Data:</translation>
+        <translation>&amp;Data:</translation>
     </message>
     <message>
         <source>dd.MM.yyyy</source>
@@ -44,7 +95,7 @@
     </message>
     <message>
         <source>Time:</source>
-        <translation>Hora:</translation>
+        <translation>&amp;Hora:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -52,7 +103,7 @@
     </message>
     <message>
         <source>Duration:</source>
-        <translation>Duração:</translation>
+        <translation>D&amp;uração:</translation>
     </message>
     <message>
         <source>Capture:</source>
@@ -134,15 +185,15 @@
     </message>
     <message>
         <source>Do not schedule capture</source>
-        <translation>Não programar a gravação</translation>
+        <translation>Não &amp;programar a gravação</translation>
     </message>
     <message>
         <source>Stop capture after</source>
-        <translation>Parar a gravação após</translation>
+        <translation>Pa&amp;rar a gravação após</translation>
     </message>
     <message>
         <source>Record on schedule</source>
-        <translation>Gravar conforme a programação</translation>
+        <translation>&amp;Gravar conforme a programação</translation>
     </message>
     <message>
         <source>Add record event</source>
@@ -150,7 +201,7 @@
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
-        <translation>Duração da gravação:</translation>
+        <translation>&amp;Duração da gravação:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -158,7 +209,7 @@
     </message>
     <message>
         <source>When capture ends:</source>
-        <translation>Quando a gravação terminar:</translation>
+        <translation>&amp;Quando a gravação terminar:</translation>
     </message>
 </context>
 <context>
@@ -279,6 +330,69 @@
     </message>
 </context>
 <context>
+    <name>Zentor::App::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>I&amp;dioma:</translation>
+    </message>
+    <message>
+        <source>System default (%1)</source>
+        <translation>Como o sistema (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>&amp;Tema:</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>Como o sistema</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Escuro</translation>
+    </message>
+    <message>
+        <source>&amp;Ask all questions again</source>
+        <translation>&amp;Voltar a perguntar tudo</translation>
+    </message>
+    <message>
+        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
+        <translation>Se algo der errado: a pasta das suas configurações e o registro desta execução.</translation>
+    </message>
+    <message>
+        <source>Open settings &amp;folder</source>
+        <translation>Abrir a &amp;pasta das configurações</translation>
+    </message>
+    <message>
+        <source>&amp;Open log</source>
+        <translation>Abrir o &amp;registro</translation>
+    </message>
+    <message>
+        <source>Some questions are no longer asked, because you chose so.</source>
+        <translation>Algumas perguntas não são mais feitas, como você escolheu.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, such as before a task is deleted.</source>
+        <translation>Todas as perguntas são feitas, por exemplo antes de excluir uma tarefa.</translation>
+    </message>
+    <message>
+        <source>There is no log of this run.</source>
+        <translation>Não há registro desta execução.</translation>
+    </message>
+    <message>
+        <source>All questions are asked again</source>
+        <translation>Todas as perguntas voltam a ser feitas</translation>
+    </message>
+    <message>
+        <source>This cannot be opened: %1</source>
+        <translation>Não é possível abrir: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::App::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
@@ -331,6 +445,14 @@
     <message>
         <source>Recording schedule</source>
         <translation>Programação de gravações</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Choose how the application looks and speaks.</source>
+        <translation>Escolha o idioma e a aparência do aplicativo.</translation>
     </message>
 </context>
 <context>

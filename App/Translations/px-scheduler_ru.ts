@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</source>
+        <translation>Хранить настройки в &lt;file&gt;, а не в системной папке конфигурации.</translation>
+    </message>
+    <message>
+        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>Использовать язык &lt;language&gt; в этом запуске, например de или pt_BR.</translation>
+    </message>
+    <message>
+        <source>Use the theme light or dark in this run.</source>
+        <translation>Использовать тему light или dark в этом запуске.</translation>
+    </message>
+    <message>
+        <source>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</source>
+        <translation>Пройти по окну на копии настроек (без --settings на образце), записать снимок каждого состояния в &lt;folder&gt; и завершить работу.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Показать эту справку.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Показать версию.</translation>
+    </message>
+    <message>
+        <source>%1: %2 (try --help)</source>
+        <translation>%1: %2 (см. --help)</translation>
+    </message>
+    <message>
+        <source>option --%1 needs a value</source>
+        <translation>для параметра --%1 нужно значение</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>неожиданный аргумент «%1»</translation>
+    </message>
+    <message>
+        <source>unknown theme &apos;%1&apos;; the themes are light and dark</source>
+        <translation>неизвестная тема «%1»; есть темы light и dark</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;; the languages are %2</source>
+        <translation>неизвестный язык «%1»; есть языки %2</translation>
+    </message>
+    <message>
+        <source>Choose how screen recordings are timed.</source>
+        <translation>Выберите, когда начинается и заканчивается запись экрана.</translation>
+    </message>
+</context>
+<context>
     <name>CreateRecordTaskWidget</name>
     <message>
         <source>New record:</source>
@@ -20,7 +71,7 @@
     </message>
     <message>
         <source>Action on finish:</source>
-        <translation>По завершении:</translation>
+        <translation>По &amp;завершении:</translation>
     </message>
     <message>
         <source>Create</source>
@@ -32,11 +83,11 @@
     </message>
     <message>
         <source>File name:</source>
-        <translation>Имя файла:</translation>
+        <translation>&amp;Имя файла:</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>Дата:</translation>
+        <translation>&amp;Дата:</translation>
     </message>
     <message>
         <source>dd.MM.yyyy</source>
@@ -44,7 +95,7 @@
     </message>
     <message>
         <source>Time:</source>
-        <translation>Время:</translation>
+        <translation>&amp;Время:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -52,7 +103,7 @@
     </message>
     <message>
         <source>Duration:</source>
-        <translation>Длительность:</translation>
+        <translation>Д&amp;лительность:</translation>
     </message>
     <message>
         <source>Capture:</source>
@@ -134,15 +185,15 @@
     </message>
     <message>
         <source>Do not schedule capture</source>
-        <translation>Не планировать запись</translation>
+        <translation>Не &amp;планировать запись</translation>
     </message>
     <message>
         <source>Stop capture after</source>
-        <translation>Остановить запись через</translation>
+        <translation>Остановить запись &amp;через</translation>
     </message>
     <message>
         <source>Record on schedule</source>
-        <translation>Записывать по расписанию</translation>
+        <translation>Записывать по &amp;расписанию</translation>
     </message>
     <message>
         <source>Add record event</source>
@@ -150,7 +201,7 @@
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
-        <translation>Длительность записи:</translation>
+        <translation>&amp;Длительность записи:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -158,7 +209,7 @@
     </message>
     <message>
         <source>When capture ends:</source>
-        <translation>По окончании записи:</translation>
+        <translation>По &amp;окончании записи:</translation>
     </message>
 </context>
 <context>
@@ -279,6 +330,69 @@
     </message>
 </context>
 <context>
+    <name>Zentor::App::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Язык:</translation>
+    </message>
+    <message>
+        <source>System default (%1)</source>
+        <translation>Как в системе (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>&amp;Тема:</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>Как в системе</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Светлая</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Тёмная</translation>
+    </message>
+    <message>
+        <source>&amp;Ask all questions again</source>
+        <translation>&amp;Снова задавать все вопросы</translation>
+    </message>
+    <message>
+        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
+        <translation>Если что-то пошло не так: папка настроек и журнал этого запуска.</translation>
+    </message>
+    <message>
+        <source>Open settings &amp;folder</source>
+        <translation>Открыть &amp;папку настроек</translation>
+    </message>
+    <message>
+        <source>&amp;Open log</source>
+        <translation>Открыть &amp;журнал</translation>
+    </message>
+    <message>
+        <source>Some questions are no longer asked, because you chose so.</source>
+        <translation>Некоторые вопросы больше не задаются: так вы выбрали.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, such as before a task is deleted.</source>
+        <translation>Задаются все вопросы, например перед удалением задачи.</translation>
+    </message>
+    <message>
+        <source>There is no log of this run.</source>
+        <translation>Журнала этого запуска нет.</translation>
+    </message>
+    <message>
+        <source>All questions are asked again</source>
+        <translation>Все вопросы снова задаются</translation>
+    </message>
+    <message>
+        <source>This cannot be opened: %1</source>
+        <translation>Не удаётся открыть: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::App::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
@@ -331,6 +445,14 @@
     <message>
         <source>Recording schedule</source>
         <translation>Расписание записи</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <source>Choose how the application looks and speaks.</source>
+        <translation>Выберите язык и вид приложения.</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</source>
+        <translation>Ayarları sistemin yapılandırma klasörü yerine &lt;file&gt; dosyasında tut.</translation>
+    </message>
+    <message>
+        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>Bu çalıştırmada &lt;language&gt; dilini kullan; örneğin de veya pt_BR.</translation>
+    </message>
+    <message>
+        <source>Use the theme light or dark in this run.</source>
+        <translation>Bu çalıştırmada light veya dark temasını kullan.</translation>
+    </message>
+    <message>
+        <source>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</source>
+        <translation>Ayarların bir kopyasıyla (--settings yoksa bir örnekle) pencereyi gez, her durumun görüntüsünü &lt;folder&gt; klasörüne yaz ve bitir.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Bu yardımı göster.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Sürümü göster.</translation>
+    </message>
+    <message>
+        <source>%1: %2 (try --help)</source>
+        <translation>%1: %2 (--help deneyin)</translation>
+    </message>
+    <message>
+        <source>option --%1 needs a value</source>
+        <translation>--%1 seçeneği bir değer ister</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>beklenmeyen bağımsız değişken “%1”</translation>
+    </message>
+    <message>
+        <source>unknown theme &apos;%1&apos;; the themes are light and dark</source>
+        <translation>bilinmeyen tema “%1”; temalar light ve dark</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;; the languages are %2</source>
+        <translation>bilinmeyen dil “%1”; diller: %2</translation>
+    </message>
+    <message>
+        <source>Choose how screen recordings are timed.</source>
+        <translation>Ekran kayıtlarının ne zaman başlayıp biteceğini seçin.</translation>
+    </message>
+</context>
+<context>
     <name>CreateRecordTaskWidget</name>
     <message>
         <source>New record:</source>
@@ -20,7 +71,7 @@
     </message>
     <message>
         <source>Action on finish:</source>
-        <translation>Bitince yapılacak:</translation>
+        <translation>Bitince &amp;yapılacak:</translation>
     </message>
     <message>
         <source>Create</source>
@@ -32,11 +83,11 @@
     </message>
     <message>
         <source>File name:</source>
-        <translation>Dosya adı:</translation>
+        <translation>Dosya &amp;adı:</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>Tarih:</translation>
+        <translation>&amp;Tarih:</translation>
     </message>
     <message>
         <source>dd.MM.yyyy</source>
@@ -44,7 +95,7 @@
     </message>
     <message>
         <source>Time:</source>
-        <translation>Saat:</translation>
+        <translation>&amp;Saat:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -52,7 +103,7 @@
     </message>
     <message>
         <source>Duration:</source>
-        <translation>Süre:</translation>
+        <translation>Sü&amp;re:</translation>
     </message>
     <message>
         <source>Capture:</source>
@@ -134,15 +185,15 @@
     </message>
     <message>
         <source>Do not schedule capture</source>
-        <translation>Kaydı zamanlama</translation>
+        <translation>Kaydı &amp;zamanlama</translation>
     </message>
     <message>
         <source>Stop capture after</source>
-        <translation>Kaydı şu süre sonunda durdur</translation>
+        <translation>Kaydı şu süre sonunda &amp;durdur</translation>
     </message>
     <message>
         <source>Record on schedule</source>
-        <translation>Takvime göre kaydet</translation>
+        <translation>Takvime göre &amp;kaydet</translation>
     </message>
     <message>
         <source>Add record event</source>
@@ -150,7 +201,7 @@
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
-        <translation>Kayıt süresi:</translation>
+        <translation>Kayıt &amp;süresi:</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -158,7 +209,7 @@
     </message>
     <message>
         <source>When capture ends:</source>
-        <translation>Kayıt bittiğinde:</translation>
+        <translation>Kayıt bitti&amp;ğinde:</translation>
     </message>
 </context>
 <context>
@@ -279,6 +330,69 @@
     </message>
 </context>
 <context>
+    <name>Zentor::App::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Dil:</translation>
+    </message>
+    <message>
+        <source>System default (%1)</source>
+        <translation>Sistemdeki gibi (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>&amp;Tema:</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>Sistemdeki gibi</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Açık</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Koyu</translation>
+    </message>
+    <message>
+        <source>&amp;Ask all questions again</source>
+        <translation>Tüm soruları &amp;yeniden sor</translation>
+    </message>
+    <message>
+        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
+        <translation>Bir sorun olursa: ayarlarınızın klasörü ve bu çalıştırmanın günlüğü.</translation>
+    </message>
+    <message>
+        <source>Open settings &amp;folder</source>
+        <translation>Ayar &amp;klasörünü aç</translation>
+    </message>
+    <message>
+        <source>&amp;Open log</source>
+        <translation>&amp;Günlüğü aç</translation>
+    </message>
+    <message>
+        <source>Some questions are no longer asked, because you chose so.</source>
+        <translation>Seçiminiz gereği bazı sorular artık sorulmuyor.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, such as before a task is deleted.</source>
+        <translation>Bir görev silinmeden önceki gibi tüm sorular sorulur.</translation>
+    </message>
+    <message>
+        <source>There is no log of this run.</source>
+        <translation>Bu çalıştırmanın günlüğü yok.</translation>
+    </message>
+    <message>
+        <source>All questions are asked again</source>
+        <translation>Tüm sorular yeniden soruluyor</translation>
+    </message>
+    <message>
+        <source>This cannot be opened: %1</source>
+        <translation>Bu açılamıyor: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::App::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
@@ -331,6 +445,14 @@
     <message>
         <source>Recording schedule</source>
         <translation>Kayıt takvimi</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Genel</translation>
+    </message>
+    <message>
+        <source>Choose how the application looks and speaks.</source>
+        <translation>Uygulamanın dilini ve görünümünü seçin.</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Keep the settings in &lt;file&gt; instead of the platform&apos;s configuration folder.</source>
+        <translation>将设置保存在 &lt;file&gt; 中，而不是系统的配置文件夹中。</translation>
+    </message>
+    <message>
+        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>本次运行使用 &lt;language&gt;，例如 de 或 pt_BR。</translation>
+    </message>
+    <message>
+        <source>Use the theme light or dark in this run.</source>
+        <translation>本次运行使用主题 light 或 dark。</translation>
+    </message>
+    <message>
+        <source>Walk through the window on a copy of the settings (of a sample without --settings), write a picture of each state into &lt;folder&gt;, and end.</source>
+        <translation>使用设置的副本（没有 --settings 时使用示例）遍历窗口，将每个状态的图片写入 &lt;folder&gt;，然后结束。</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+    <message>
+        <source>%1: %2 (try --help)</source>
+        <translation>%1：%2（请尝试 --help）</translation>
+    </message>
+    <message>
+        <source>option --%1 needs a value</source>
+        <translation>选项 --%1 需要一个值</translation>
+    </message>
+    <message>
+        <source>unexpected argument &apos;%1&apos;</source>
+        <translation>意外的参数“%1”</translation>
+    </message>
+    <message>
+        <source>unknown theme &apos;%1&apos;; the themes are light and dark</source>
+        <translation>未知主题“%1”；可用主题为 light 和 dark</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;; the languages are %2</source>
+        <translation>未知语言“%1”；可用语言为 %2</translation>
+    </message>
+    <message>
+        <source>Choose how screen recordings are timed.</source>
+        <translation>选择屏幕录制的时间安排。</translation>
+    </message>
+</context>
+<context>
     <name>CreateRecordTaskWidget</name>
     <message>
         <source>New record:</source>
@@ -20,7 +71,7 @@
     </message>
     <message>
         <source>Action on finish:</source>
-        <translation>完成后操作：</translation>
+        <translation>完成后操作(&amp;A)：</translation>
     </message>
     <message>
         <source>Create</source>
@@ -32,11 +83,11 @@
     </message>
     <message>
         <source>File name:</source>
-        <translation>文件名：</translation>
+        <translation>文件名(&amp;N)：</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>日期：</translation>
+        <translation>日期(&amp;D)：</translation>
     </message>
     <message>
         <source>dd.MM.yyyy</source>
@@ -44,7 +95,7 @@
     </message>
     <message>
         <source>Time:</source>
-        <translation>时间：</translation>
+        <translation>时间(&amp;T)：</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -52,7 +103,7 @@
     </message>
     <message>
         <source>Duration:</source>
-        <translation>时长：</translation>
+        <translation>时长(&amp;U)：</translation>
     </message>
     <message>
         <source>Capture:</source>
@@ -134,15 +185,15 @@
     </message>
     <message>
         <source>Do not schedule capture</source>
-        <translation>不计划录制</translation>
+        <translation>不计划录制(&amp;C)</translation>
     </message>
     <message>
         <source>Stop capture after</source>
-        <translation>在指定时长后停止录制</translation>
+        <translation>在指定时长后停止录制(&amp;P)</translation>
     </message>
     <message>
         <source>Record on schedule</source>
-        <translation>按计划录制</translation>
+        <translation>按计划录制(&amp;R)</translation>
     </message>
     <message>
         <source>Add record event</source>
@@ -150,7 +201,7 @@
     </message>
     <message>
         <source>Capture duration in limited capture:</source>
-        <translation>录制时长：</translation>
+        <translation>录制时长(&amp;U)：</translation>
     </message>
     <message>
         <source>hh:mm:ss</source>
@@ -158,7 +209,7 @@
     </message>
     <message>
         <source>When capture ends:</source>
-        <translation>录制结束时：</translation>
+        <translation>录制结束时(&amp;W)：</translation>
     </message>
 </context>
 <context>
@@ -279,6 +330,69 @@
     </message>
 </context>
 <context>
+    <name>Zentor::App::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>语言(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>System default (%1)</source>
+        <translation>跟随系统（%1）</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>主题(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>跟随系统</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>&amp;Ask all questions again</source>
+        <translation>重新显示所有询问(&amp;A)</translation>
+    </message>
+    <message>
+        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
+        <translation>出现问题时：设置所在的文件夹和本次运行的日志。</translation>
+    </message>
+    <message>
+        <source>Open settings &amp;folder</source>
+        <translation>打开设置文件夹(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Open log</source>
+        <translation>打开日志(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Some questions are no longer asked, because you chose so.</source>
+        <translation>按照您的选择，部分询问不再显示。</translation>
+    </message>
+    <message>
+        <source>Every question is asked, such as before a task is deleted.</source>
+        <translation>所有询问都会显示，例如在删除任务之前。</translation>
+    </message>
+    <message>
+        <source>There is no log of this run.</source>
+        <translation>没有本次运行的日志。</translation>
+    </message>
+    <message>
+        <source>All questions are asked again</source>
+        <translation>所有询问将重新显示</translation>
+    </message>
+    <message>
+        <source>This cannot be opened: %1</source>
+        <translation>无法打开：%1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::App::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
@@ -331,6 +445,14 @@
     <message>
         <source>Recording schedule</source>
         <translation>录制计划</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Choose how the application looks and speaks.</source>
+        <translation>选择应用程序的语言和外观。</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,240 @@
+#include <QLabel>
+#include <QLocale>
+#include <QTemporaryDir>
+
+#include "Appearance.h"
+#include "Application.h"
+#include "Application/LookAndFeelManager.h"
+#include "CpuTimer.h"
+#include "FakePortal.h"
+#include "MainWindow.h"
+#include "PXUserSettings/SettingsStore.h"
+#include "Theme.h"
+#include "WidgetTest.h"
+
+namespace Zentor::Tests {
+namespace {
+
+using App::Look;
+using App::Theme;
+
+Theme CurrentTheme()
+{
+    return App::ThemeOf(QApplication::palette());
+}
+
+/// Counts what a widget on screen is told, and notes which language the host spoke then.
+class Witness final : public QLabel {
+public:
+    explicit Witness(std::shared_ptr<App::LookAndFeelManager> lookAndFeel)
+        : m_lookAndFeel(std::move(lookAndFeel))
+    {
+    }
+
+    int languageChanges = 0;
+    int styleChanges = 0;
+    std::string languageSeen;
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        languageChanges += event->type() == QEvent::LanguageChange ? 1 : 0;
+        styleChanges += event->type() == QEvent::StyleChange ? 1 : 0;
+        if (event->type() == QEvent::LanguageChange) {
+            languageSeen = m_lookAndFeel->GetLanguage();
+        }
+        QLabel::changeEvent(event);
+    }
+
+private:
+    std::shared_ptr<App::LookAndFeelManager> m_lookAndFeel;
+};
+
+} // namespace
+
+class tst_Appearance : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { App::RegisterResources(); }
+
+    void init()
+    {
+        WidgetTest::init();
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_store = std::make_shared<PX::SettingsStore>(
+            m_folder->filePath(QStringLiteral("settings.json")));
+        QString error;
+        QVERIFY2(m_store->Open(&error), qPrintable(error));
+    }
+
+    void cleanup()
+    {
+        m_appearance.reset();
+        QCoreApplication::sendPostedEvents();
+        m_store.reset();
+        m_folder.reset();
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        QLocale::setDefault(QLocale::c());
+        WidgetTest::cleanup();
+    }
+
+    void takesTheFirstThatIsGiven_data()
+    {
+        QTest::addColumn<QString>("wantedLanguage");
+        QTest::addColumn<QString>("storedLanguage");
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("wantedTheme");
+        QTest::addColumn<QString>("storedTheme");
+        QTest::addColumn<QString>("theme");
+        const auto row = [](const char* name, const char* wantedLanguage,
+                            const char* storedLanguage, const char* language,
+                            const char* wantedTheme, const char* storedTheme, const char* theme) {
+            QTest::newRow(name) << QString::fromLatin1(wantedLanguage)
+                                << QString::fromLatin1(storedLanguage)
+                                << QString::fromLatin1(language) << QString::fromLatin1(wantedTheme)
+                                << QString::fromLatin1(storedTheme) << QString::fromLatin1(theme);
+        };
+        row("nothing chosen", "", "", "en_US", "", "", "light");
+        row("stored", "", "fr", "fr_FR", "", "dark", "dark");
+        row("wanted in this run", "de", "fr", "de_DE", "light", "dark", "light");
+        row("wanted only", "pt_BR", "", "pt_BR", "dark", "", "dark");
+        row("stored nonsense", "", "tlh", "en_US", "", "blue", "light");
+    }
+
+    void takesTheFirstThatIsGiven()
+    {
+        QFETCH(QString, wantedLanguage);
+        QFETCH(QString, storedLanguage);
+        QFETCH(QString, language);
+        QFETCH(QString, wantedTheme);
+        QFETCH(QString, storedTheme);
+        QFETCH(QString, theme);
+        const FakePortal portal(2);
+        Choose(storedLanguage, storedTheme);
+        Start({wantedLanguage, wantedTheme});
+        QCOMPARE(QString::fromStdString(m_lookAndFeel->GetLanguage()), language);
+        QCOMPARE(QLocale().name(), language);
+        QCOMPARE(App::ThemeName(CurrentTheme()), theme);
+    }
+
+    void takesOverAChoiceAtOnce()
+    {
+        // What was wanted for this run gives way to what the user chooses in it.
+        Start({QStringLiteral("de"), QStringLiteral("light")});
+        Choose(QStringLiteral("ar"), QStringLiteral("light"));
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(QLocale().language(), QLocale::Arabic);
+        QCOMPARE(QApplication::layoutDirection(), Qt::RightToLeft);
+        Choose(QStringLiteral("ar"), QStringLiteral("dark"));
+        QCOMPARE(CurrentTheme(), Theme::Dark);
+        Choose(QStringLiteral("fr"), QStringLiteral("dark"));
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(QLocale().language(), QLocale::French);
+        QCOMPARE(QApplication::layoutDirection(), Qt::LeftToRight);
+        Choose({}, QStringLiteral("dark"));
+        QCOMPARE(QLocale().language(), QLocale::English);
+    }
+
+    void followsTheDesktopUnlessChosen()
+    {
+        FakePortal portal(1);
+        Start({});
+        QCOMPARE(CurrentTheme(), Theme::Dark);
+        portal.Prefer(2);
+        QTRY_COMPARE(CurrentTheme(), Theme::Light);
+        Choose({}, QStringLiteral("light"));
+        portal.Prefer(1);
+        QTest::qWait(50);
+        QCOMPARE(CurrentTheme(), Theme::Light);
+        Choose({}, {});
+        QCOMPARE(CurrentTheme(), Theme::Dark);
+    }
+
+    void tellsEachWidgetOnce()
+    {
+        Start({QStringLiteral("en"), QStringLiteral("light")});
+        Witness witness(m_lookAndFeel);
+        witness.show();
+        QCoreApplication::sendPostedEvents();
+        witness.languageChanges = 0;
+        witness.styleChanges = 0;
+
+        Choose({}, QStringLiteral("dark"));
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(witness.styleChanges, 1);
+        QCOMPARE(witness.languageChanges, 0);
+
+        Choose(QStringLiteral("fr"), QStringLiteral("dark"));
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(witness.languageChanges, 1);
+        QCOMPARE(witness.languageSeen, std::string("fr_FR"));
+        QCOMPARE(witness.styleChanges, 1);
+    }
+
+    void leavesTheRestAloneWhenOtherSettingsChange()
+    {
+        Start({});
+        Witness witness(m_lookAndFeel);
+        witness.show();
+        QCoreApplication::sendPostedEvents();
+        witness.languageChanges = 0;
+        witness.styleChanges = 0;
+        m_store->Change(
+            [](PX::UserSettings& settings) { settings.page = QStringLiteral("files"); });
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(witness.styleChanges, 0);
+        QCOMPARE(witness.languageChanges, 0);
+    }
+
+    void costsNoMoreThanTheStyleSheet()
+    {
+        Start({QStringLiteral("en"), QStringLiteral("light")});
+        App::MainWindow window(m_store, m_lookAndFeel);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        double whole = 0;
+        double sheet = 0;
+        constexpr int rounds = 10;
+        for (int round = 0; round < rounds; ++round) {
+            const bool isDark = round % 2 == 0;
+            const CpuTimer wholeTimer;
+            Choose({}, isDark ? QStringLiteral("dark") : QStringLiteral("light"));
+            QCoreApplication::sendPostedEvents();
+            whole += wholeTimer.Milliseconds();
+            const CpuTimer sheetTimer;
+            qApp->setStyleSheet(App::StyleSheetOf(isDark ? Theme::Light : Theme::Dark));
+            QCoreApplication::sendPostedEvents();
+            sheet += sheetTimer.Milliseconds();
+            qApp->setStyleSheet(App::StyleSheetOf(isDark ? Theme::Dark : Theme::Light));
+        }
+        qInfo("theme %.1f ms, style sheet alone %.1f ms", whole / rounds, sheet / rounds);
+        QVERIFY(whole < 1.5 * sheet);
+    }
+
+private:
+    void Start(const Look& wanted)
+    {
+        m_lookAndFeel = std::make_shared<App::LookAndFeelManager>();
+        m_appearance = std::make_unique<App::Appearance>(m_store, m_lookAndFeel, wanted);
+    }
+
+    void Choose(const QString& language, const QString& theme)
+    {
+        m_store->Change([&](PX::UserSettings& settings) {
+            settings.language = language;
+            settings.theme = theme;
+        });
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::shared_ptr<PX::SettingsStore> m_store;
+    std::shared_ptr<App::LookAndFeelManager> m_lookAndFeel;
+    std::unique_ptr<App::Appearance> m_appearance;
+};
+
+} // namespace Zentor::Tests
+
+SCHEDULER_TEST_MAIN(Zentor::Tests::tst_Appearance)
+
+#include "tst_Appearance.moc"
