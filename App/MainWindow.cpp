@@ -13,6 +13,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QStyledItemDelegate>
+#include <QTimer>
 
 #include "Application/SettingsManager.h"
 #include "FilesPage.h"
@@ -183,7 +184,14 @@ Page* MainWindow::CreateGeneralPage()
 
 void MainWindow::Connect()
 {
-    connect(m_pageList, &QListWidget::currentRowChanged, m_pages, &QStackedWidget::setCurrentIndex);
+    connect(m_pageList, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (!IsTaskUnfinished()) {
+            m_pages->setCurrentIndex(row);
+        } else {
+            // Later: a list that is being clicked must not wait for an answer.
+            QTimer::singleShot(0, this, &MainWindow::FollowPageList);
+        }
+    });
     connect(m_panel, &PX::Scheduler::UI::RecordSchedulerWidget::OpenFilesSettingsRequested, this,
             [this] { ShowPage(FilesId()); });
     connect(m_generalPage, &GeneralPage::Happened, m_statusBar,
@@ -216,6 +224,35 @@ void MainWindow::StartRecording()
     const bool isReady = m_panel->ValidateSettings();
     if (!self.isNull() && isReady) {
         Announce(m_statusBar, tr("Ready to record"), messageMilliseconds);
+    }
+}
+
+bool MainWindow::IsTaskUnfinished() const
+{
+    return m_panel->findChild<QWidget*>(QStringLiteral("createRecordTaskWidget"))->isVisible();
+}
+
+bool MainWindow::FinishTask()
+{
+    if (!IsTaskUnfinished()) {
+        return true;
+    }
+    // The window may be destroyed while the panel asks.
+    const QPointer<MainWindow> self(this);
+    m_panel->findChild<QPushButton*>(QStringLiteral("scheduledCaptureSettingsBackButton"))->click();
+    return !self.isNull() && !IsTaskUnfinished();
+}
+
+void MainWindow::FollowPageList()
+{
+    if (m_pageList->currentRow() == m_pages->currentIndex()) {
+        return;
+    }
+    const QPointer<MainWindow> self(this);
+    if (FinishTask()) {
+        m_pages->setCurrentIndex(m_pageList->currentRow());
+    } else if (!self.isNull()) {
+        m_pageList->setCurrentRow(m_pages->currentIndex());
     }
 }
 
@@ -318,6 +355,10 @@ void MainWindow::changeEvent(QEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    if (!FinishTask()) {
+        event->ignore();
+        return;
+    }
     m_filesPage->Apply();
     RememberPlace();
     event->setAccepted(m_store->Flush() || IsClosingWithoutSavingAccepted());

@@ -41,7 +41,7 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
-    /// Asks before closing when the settings could not be saved.
+    /// Asks before closing when a task is unfinished and when the settings could not be saved.
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -60,6 +60,12 @@ private:
     void Retranslate();
     void RetranslatePage(int index, const QString& title, const QString& description);
     void UpdateIcons();
+    /// Shows the page that is chosen in the list, unless an unfinished task keeps the user here.
+    void FollowPageList();
+    bool IsTaskUnfinished() const;
+    /// Has the panel ask what becomes of an unfinished task, which it would forget when it is
+    /// hidden. Returns whether none is left.
+    bool FinishTask();
     /// Starts a recording when the panel has nothing against it.
     void StartRecording();
     void ShowSaveProblem(const QString& reason);

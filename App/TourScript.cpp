@@ -154,6 +154,9 @@ void ShowForm(ScreenshotTour& tour)
 void ShowFiles(ScreenshotTour& tour)
 {
     tour.ClickEntry(QStringLiteral("pageList"), 1);
+    WaitForBox(tour);
+    tour.ClickInBox(QMessageBox::No);
+    WaitForNoBox(tour);
     WaitUntilShown(tour, QStringLiteral("resultsFolderEdit"));
     tour.PointAway();
     tour.Picture(QStringLiteral("12-files"));

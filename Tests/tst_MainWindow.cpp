@@ -392,6 +392,69 @@ private Q_SLOTS:
         QVERIFY(!label->isVisible());
     }
 
+    void asksAboutAnUnfinishedTaskBeforeAnotherPage_data() { AddAnswers(); }
+
+    void asksAboutAnUnfinishedTaskBeforeAnotherPage()
+    {
+        QFETCH(int, answer);
+        QFETCH(QString, title);
+        QFETCH(bool, isFinished);
+        QFETCH(QString, titles);
+        BeginTask(title);
+        const ExpectedBox box(static_cast<QMessageBox::StandardButton>(answer));
+        ClickPage(1);
+        QTRY_VERIFY(box.Came());
+        QCOMPARE(PageList()->currentRow(), isFinished ? 1 : 0);
+        QCOMPARE(PageList()->selectedItems(), QList{PageList()->currentItem()});
+        QCOMPARE(Find<QLineEdit>("resultsFolderEdit")->isVisible(), isFinished);
+        QCOMPARE(NameEdit()->isVisible(), !isFinished);
+        QCOMPARE(Titles().join(QLatin1Char(',')), titles);
+        if (!isFinished) {
+            QCOMPARE(NameEdit()->text(), title);
+        }
+    }
+
+    void asksAboutAnUnfinishedTaskBeforeItCloses_data() { AddAnswers(); }
+
+    void asksAboutAnUnfinishedTaskBeforeItCloses()
+    {
+        QFETCH(int, answer);
+        QFETCH(QString, title);
+        QFETCH(bool, isFinished);
+        QFETCH(QString, titles);
+        BeginTask(title);
+        const ExpectedBox box(static_cast<QMessageBox::StandardButton>(answer));
+        QCOMPARE(m_window->close(), isFinished);
+        QVERIFY(box.Came());
+        QCOMPARE(Titles().join(QLatin1Char(',')), titles);
+        if (!isFinished) {
+            QVERIFY(NameEdit()->isVisible());
+            QCOMPARE(NameEdit()->text(), title);
+        }
+    }
+
+    void survivesItsEndWhileItAsks_data()
+    {
+        QTest::addColumn<bool>("isClosing");
+        QTest::newRow("another page") << false;
+        QTest::newRow("closing") << true;
+    }
+
+    void survivesItsEndWhileItAsks()
+    {
+        QFETCH(bool, isClosing);
+        BeginTask(QStringLiteral("Unfinished"));
+        const ExpectedBox box([this](QMessageBox&) { m_window.reset(); });
+        if (isClosing) {
+            // As a user does it, who leaves no caller behind in the window.
+            QTimer::singleShot(0, m_window.get(), &QWidget::close);
+        } else {
+            ClickPage(1);
+        }
+        QTRY_VERIFY(box.Came());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
     void asksBeforeItClosesOnUnsavedSettings()
     {
         Open();
@@ -529,8 +592,8 @@ private Q_SLOTS:
             m_window->setFocus();
             // With its text, for letters that Qt Test knows no key of.
             const QString letter = QChar(key[0] & ~Qt::ALT);
-            QTest::sendKeyEvent(QTest::Click, m_window->windowHandle(),
-                                Qt::Key(key[0] & ~Qt::ALT), letter, Qt::AltModifier);
+            QTest::sendKeyEvent(QTest::Click, m_window->windowHandle(), Qt::Key(key[0] & ~Qt::ALT),
+                                letter, Qt::AltModifier);
             QVERIFY2(field->hasFocus(), qPrintable(label->text()));
             ++reached;
         }
@@ -543,6 +606,48 @@ private Q_SLOTS:
 
 private:
     QString SettingsFile() const { return m_folder->filePath(QStringLiteral("settings.json")); }
+
+    static void AddAnswers()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<bool>("isFinished");
+        QTest::addColumn<QString>("titles");
+        const QString before = QStringLiteral("Task 0");
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << QStringLiteral("Unfinished") << false
+                                << before;
+        QTest::newRow("do not add")
+            << int(QMessageBox::No) << QStringLiteral("Unfinished") << true << before;
+        QTest::newRow("add") << int(QMessageBox::Yes) << QStringLiteral("Unfinished") << true
+                             << QStringLiteral("Unfinished,Task 0");
+        QTest::newRow("add what cannot be added")
+            << int(QMessageBox::Yes) << before << false << before;
+    }
+
+    /// Opens the window with one task and types the title of another one.
+    void BeginTask(const QString& title)
+    {
+        Open({Record(QStringLiteral("Task 0"), At("10:00") + 24h * 3650, 30min)});
+        Click("scheduledCaptureSettingsAddRecordButton");
+        NameEdit()->setText(title);
+    }
+
+    /// Gives up the task in the form, if the form is open.
+    void FinishTask()
+    {
+        if (NameEdit()->isVisible()) {
+            const ExpectedBox box(QMessageBox::No);
+            Click("scheduledCaptureSettingsBackButton");
+        }
+    }
+
+    void ClickPage(int row)
+    {
+        const QRect place = PageList()->visualItemRect(PageList()->item(row));
+        QTest::mouseClick(PageList()->viewport(), Qt::LeftButton, Qt::NoModifier, place.center());
+    }
+
+    QLineEdit* NameEdit() const { return Find<QLineEdit>("scheduledCaptureSettingsNameLineEdit"); }
 
     /// The keys of the buttons that are on screen.
     QList<QKeySequence> KeysOfButtons() const
@@ -594,6 +699,7 @@ private:
     void Close()
     {
         if (m_window != nullptr && m_window->isVisible()) {
+            FinishTask();
             m_window->close();
         }
         m_window.reset();
