@@ -10,47 +10,36 @@ namespace Zentor::App {
 namespace {
 
 struct Language {
-    QString code;
-    QString name;
+    const char* code;
+    const char* name;
 };
 
-const std::vector<Language>& Languages()
-{
-    static const std::vector<Language> languages{
-        {QStringLiteral("en"), QStringLiteral("English")},
-        {QStringLiteral("de"), QStringLiteral("Deutsch")},
-        {QStringLiteral("fr"), QStringLiteral("Français")},
-        {QStringLiteral("es"), QStringLiteral("Español")},
-        {QStringLiteral("it"), QStringLiteral("Italiano")},
-        {QStringLiteral("pt_BR"), QStringLiteral("Português (Brasil)")},
-        {QStringLiteral("pl"), QStringLiteral("Polski")},
-        {QStringLiteral("ru"), QStringLiteral("Русский")},
-        {QStringLiteral("tr"), QStringLiteral("Türkçe")},
-        {QStringLiteral("ja"), QStringLiteral("日本語")},
-        {QStringLiteral("ko"), QStringLiteral("한국어")},
-        {QStringLiteral("zh_CN"), QStringLiteral("简体中文")},
-        {QStringLiteral("ar"), QStringLiteral("العربية")},
-        {QStringLiteral("he"), QStringLiteral("עברית")}};
-    return languages;
-}
+constexpr Language languages[] = {
+    {"en", "English"}, {"de", "Deutsch"},  {"fr", "Français"},
+    {"es", "Español"}, {"it", "Italiano"}, {"pt_BR", "Português (Brasil)"},
+    {"pl", "Polski"},  {"ru", "Русский"},  {"tr", "Türkçe"},
+    {"ja", "日本語"},  {"ko", "한국어"},   {"zh_CN", "简体中文"},
+    {"ar", "العربية"}, {"he", "עברית"},
+};
 
 } // namespace
 
 QStringList LanguageCodes()
 {
     QStringList codes;
-    for (const auto& [code, name] : Languages()) {
-        codes << code;
+    for (const Language& language : languages) {
+        codes << QString::fromLatin1(language.code);
     }
     return codes;
 }
 
 QString LanguageName(const QString& code)
 {
-    const auto& languages = Languages();
-    return std::find_if(languages.begin(), languages.end(),
-                        [&](const Language& language) { return language.code == code; })
-        ->name;
+    const auto* language =
+        std::find_if(std::begin(languages), std::end(languages), [&](const Language& candidate) {
+            return code == QLatin1String(candidate.code);
+        });
+    return QString::fromUtf8(language->name);
 }
 
 bool IsLanguage(const QString& code)
