@@ -166,13 +166,13 @@ private Q_SLOTS:
         app.Press(Qt::Key_Insert);
         app.Type("Task 1");
         QCOMPARE(app.StatusText(), DuplicateProblem());
+        const ExpectedBox box(QMessageBox::No);
         if (byPage) {
             app.PageList()->setCurrentRow(1);
         } else {
-            const ExpectedBox box(QMessageBox::No);
             app.Press(Qt::Key_Escape);
-            QVERIFY(box.Came());
         }
+        QTRY_VERIFY(box.Came());
         QCOMPARE(app.StatusText(), QString());
     }
 
@@ -208,6 +208,7 @@ private Q_SLOTS:
         QTest::newRow("schedule") << 0 << "scheduledCaptureRadioButton" << false << 9;
         QTest::newRow("form") << 0 << "scheduledCaptureRadioButton" << true << 14;
         QTest::newRow("files") << 1 << "scheduledCaptureRadioButton" << false << 4;
+        QTest::newRow("general") << 2 << "scheduledCaptureRadioButton" << false << 7;
     }
 
     void namesEveryControl()
