@@ -18,6 +18,7 @@
 #include "Application/SettingsManager.h"
 #include "FilesPage.h"
 #include "GeneralPage.h"
+#include "HostInterfaces.h"
 #include "Page.h"
 #include "PanelAnnouncer.h"
 #include "PanelKeyboard.h"
@@ -133,9 +134,10 @@ QWidget* MainWindow::CreateFoot(QWidget* parent)
     foot->setObjectName(QStringLiteral("foot"));
     m_statusBar = new StatusLine(foot);
     m_statusBar->setSizeGripEnabled(false);
-    m_saveProblemLabel = new QLabel(m_statusBar);
+    m_saveProblemLabel = new ZLabel(m_statusBar);
     m_saveProblemLabel->setObjectName(QStringLiteral("saveProblemLabel"));
-    m_saveProblemLabel->setTextFormat(Qt::PlainText);
+    // A long reason is shortened; it takes no room from the button.
+    m_saveProblemLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_saveProblemLabel->hide();
     m_statusBar->addWidget(m_saveProblemLabel, 1);
     m_startButton = new QPushButton(foot);

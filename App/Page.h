@@ -8,7 +8,8 @@ namespace Zentor::App {
 
 /// One page of settings: a title, a line that says what the page is for, and the settings.
 ///
-/// Where the window is too small for the page, the page scrolls.
+/// Where the window is too small for the page, the page scrolls: also to what receives the focus
+/// other than by mouse.
 class Page : public QScrollArea {
     Q_OBJECT
 
@@ -22,8 +23,12 @@ public:
     /// Sets the title and the line below it.
     void SetTexts(const QString& title, const QString& description);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QString m_id;
+    QWidget* m_head = nullptr;
     QLabel* m_title = nullptr;
     QLabel* m_description = nullptr;
 };

@@ -20,9 +20,6 @@
 namespace Zentor::App {
 namespace {
 
-/// Kept free around a control that is scrolled into view.
-constexpr int viewMargin = 8;
-
 QAbstractButton* DeleteButtonOf(const QWidget* row)
 {
     // The placeholder of an empty schedule has none.
@@ -72,7 +69,6 @@ PanelKeyboard::PanelKeyboard(PX::Scheduler::UI::RecordSchedulerWidget* panel)
     WatchRows();
     WatchForm();
     WatchModes();
-    WatchFocus();
 }
 
 PanelKeyboard::~PanelKeyboard() = default;
@@ -127,17 +123,6 @@ void PanelKeyboard::WatchModes()
         Qt::QueuedConnection);
 }
 
-void PanelKeyboard::WatchFocus()
-{
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        // What is pressed with the mouse must not move away from under it.
-        if (now != nullptr && m_panel->isAncestorOf(now)
-            && QGuiApplication::mouseButtons() == Qt::NoButton) {
-            ShowFocused(now);
-        }
-    });
-}
-
 void PanelKeyboard::TakeInNewRows()
 {
     const auto rows = m_newRows;
@@ -187,17 +172,6 @@ QList<QAbstractButton*> PanelKeyboard::DeleteButtons() const
         }
     }
     return buttons;
-}
-
-void PanelKeyboard::ShowFocused(QWidget* focused)
-{
-    for (QWidget* parent = focused->parentWidget(); parent != nullptr;
-         parent = parent->parentWidget()) {
-        auto* area = qobject_cast<QScrollArea*>(parent);
-        if (area != nullptr && area->widget()->isAncestorOf(focused)) {
-            area->ensureWidgetVisible(focused, viewMargin, viewMargin);
-        }
-    }
 }
 
 void PanelKeyboard::FocusNameField()

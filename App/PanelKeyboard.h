@@ -26,7 +26,7 @@ namespace Zentor::App {
 ///
 /// The focus follows: into the name field when the form opens, to the button that adds a task when
 /// the form closes, to the next task when one is deleted, to the mode that stays in use when
-/// leaving it is refused. What receives the focus other than by mouse is scrolled into view.
+/// leaving it is refused.
 class PanelKeyboard : public QObject {
     Q_OBJECT
 
@@ -41,12 +41,10 @@ private:
     void WatchRows();
     void WatchForm();
     void WatchModes();
-    void WatchFocus();
     void TakeInNewRows();
     void WatchRow(QWidget* row);
     void OrderTabs();
     QList<QAbstractButton*> DeleteButtons() const;
-    void ShowFocused(QWidget* focused);
     void FocusNameField();
     void FocusAddButton();
     void FocusAfterDeletion(QWidget* row);
