@@ -31,6 +31,9 @@ scheduler_test_runs_program(tst_ScreenshotTour)
 scheduler_add_test(tst_StatusLine LIBRARIES px-scheduler-app)
 scheduler_add_test(tst_Theme LIBRARIES px-scheduler-app)
 target_compile_definitions(tst_Theme PRIVATE PX_ICON_TEMPLATES="${PROJECT_SOURCE_DIR}/App/Icons")
+scheduler_add_test(tst_Untranslated
+    SOURCES Support/AppScenes.cpp Support/AppScenes.h Support/WideLetters.h
+    LIBRARIES px-scheduler-app Qt5::GuiPrivate)
 
 # Needs a display of its own and the accessibility bus; says so and is skipped without them.
 # Under the sanitizers the program answers too slowly for the bus.

@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QListWidget>
+#include <QLocale>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTemporaryDir>
@@ -36,8 +37,9 @@ public:
             settings.scheduledCaptureEnabled = taskCount > 0;
             settings.resultsFolderPath = folder.path();
         });
-        window =
-            std::make_unique<App::MainWindow>(store, std::make_shared<App::LookAndFeelManager>());
+        const auto lookAndFeel = std::make_shared<App::LookAndFeelManager>();
+        lookAndFeel->SetLanguage(QLocale().name().toStdString());
+        window = std::make_unique<App::MainWindow>(store, lookAndFeel);
     }
 
     /// Shows the window and waits until it has the keyboard.

@@ -42,9 +42,9 @@ private:
 };
 
 /// Adds a screen to the right of the real one. Owned by Qt until it is unplugged.
-inline FakeScreen* Plug(const QString& name, bool isPrimary = false)
+inline FakeScreen* Plug(const QString& name, bool isPrimary = false, QSize size = {1280, 720})
 {
-    auto* screen = new FakeScreen(name, QRect(2000, 0, 1280, 720));
+    auto* screen = new FakeScreen(name, QRect(QPoint(2000, 0), size));
     QWindowSystemInterface::handleScreenAdded(screen, isPrimary);
     return screen;
 }

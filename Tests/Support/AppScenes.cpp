@@ -1,0 +1,398 @@
+#include "AppScenes.h"
+
+#include <QCalendarWidget>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTimeEdit>
+#include <QToolTip>
+
+#include "Boxes.h"
+#include "FakeScreen.h"
+#include "WidgetTest.h"
+
+namespace Zentor::Tests {
+namespace {
+
+constexpr const char* nothingButton = "disableScheduledCaptureRadioButton";
+constexpr const char* limitedButton = "limitedCaptureDurationRadioButton";
+constexpr const char* scheduleButton = "scheduledCaptureRadioButton";
+constexpr const char* addButton = "scheduledCaptureSettingsAddRecordButton";
+constexpr const char* nameEdit = "scheduledCaptureSettingsNameLineEdit";
+constexpr const char* startEdit = "scheduledCaptureSettingsStartTime";
+constexpr const char* folderEdit = "resultsFolderEdit";
+
+/// More than the list shows without scrolling.
+constexpr int manyTasks = 8;
+
+QString LongTitle()
+{
+    return QStringLiteral("Quarterly review with everybody who has something to say about it");
+}
+
+QString ReasonNotToSave()
+{
+    return QStringLiteral("/home/user/.config/px-scheduler/settings.json: no space is left");
+}
+
+QString SecondScreen()
+{
+    return QStringLiteral("HDMI-A-1");
+}
+
+/// A small screen with the mouse on it, by which boxes choose their width. It is the same at every
+/// scale, while the one of the offscreen platform shrinks when the scale grows.
+class SmallScreen {
+public:
+    SmallScreen()
+        : m_screen(Plug(SecondScreen(), false, QSize(800, 600) * qApp->devicePixelRatio()))
+    {
+        QCursor::setPos(m_screen->screen()->geometry().center());
+    }
+    ~SmallScreen()
+    {
+        QCursor::setPos(0, 0);
+        Unplug(m_screen);
+    }
+    SmallScreen(const SmallScreen&) = delete;
+    SmallScreen& operator=(const SmallScreen&) = delete;
+
+private:
+    FakeScreen* m_screen;
+};
+
+/// Takes one window from state to state.
+class Stage {
+public:
+    Stage(int taskCount, const QSize& size, const SceneVisitor& visit)
+        : m_app(taskCount)
+        , m_visit(visit)
+    {
+        if (!size.isEmpty()) {
+            m_app.window->resize(size);
+        }
+        TakeKeyboard();
+    }
+
+    /// Not every platform hands the keyboard back to the window when a popup is closed.
+    void TakeKeyboard() const
+    {
+        // The platform's news about the popup come before those about the window.
+        QCoreApplication::processEvents();
+        QVERIFY(m_app.Show());
+        QTRY_COMPARE(QGuiApplication::focusWindow(), m_app.window->windowHandle());
+    }
+
+    const AppWindow& App() const { return m_app; }
+    template <typename T> T* Find(const char* objectName) const
+    {
+        return m_app.Find<T>(objectName);
+    }
+
+    /// Lets the visitor look at \a scene, which \a isReached says has come.
+    void Show(const QString& scene, bool isReached) const
+    {
+        QVERIFY2(isReached, qPrintable(scene));
+        Settle();
+        m_visit(scene, m_app);
+    }
+
+    /// Shows the box that \a ask opens, and answers it.
+    void ShowBox(const QString& scene, QMessageBox::StandardButton answer,
+                 const std::function<void()>& ask) const
+    {
+        const SmallScreen screen;
+        const ExpectedBox box([&](QMessageBox& opened) {
+            Show(scene, opened.isVisible());
+            opened.button(answer)->click();
+        });
+        ask();
+        QVERIFY2(box.Came(), qPrintable(scene));
+        Settle();
+    }
+
+    void Click(const char* objectName) const
+    {
+        m_app.Button(objectName)->click();
+        Settle();
+    }
+    void ClickInBox(const char* objectName, QMessageBox::StandardButton answer) const
+    {
+        const ExpectedBox box(answer);
+        Click(objectName);
+        QVERIFY2(box.Came(), objectName);
+    }
+
+    void ShowPage(int row) const
+    {
+        m_app.PageList()->setCurrentRow(row);
+        Settle();
+    }
+
+    void EnterFolder(const QString& folder) const
+    {
+        auto* edit = Find<QLineEdit>(folderEdit);
+        edit->setText(folder);
+        Q_EMIT edit->editingFinished();
+    }
+
+    bool IsMarked(const char* objectName) const
+    {
+        return m_app.Find(objectName)->property("SubStyle") == QLatin1String("Invalid");
+    }
+
+private:
+    AppWindow m_app;
+    const SceneVisitor& m_visit;
+};
+
+void ShowListsOfPage(const Stage& stage, const QString& page)
+{
+    const auto boxes = stage.App().window->findChildren<QComboBox*>();
+    for (QComboBox* box : boxes) {
+        if (!box->isVisible() || !box->isEnabled()) {
+            continue;
+        }
+        box->showPopup();
+        stage.Show(page + QStringLiteral(", list of ") + box->objectName(),
+                   box->view()->isVisible());
+        box->hidePopup();
+        stage.TakeKeyboard();
+    }
+}
+
+void ShowPages(const Stage& stage)
+{
+    const int count = stage.App().PageList()->count();
+    for (int row = 0; row < count; ++row) {
+        stage.ShowPage(row);
+        const QString page = QStringLiteral("page %1").arg(row);
+        stage.Show(page, stage.Find<QStackedWidget>("pages")->currentIndex() == row);
+        ShowListsOfPage(stage, page);
+    }
+    stage.ShowPage(0);
+}
+
+void ShowModes(const Stage& stage)
+{
+    stage.Click(limitedButton);
+    stage.Show(QStringLiteral("limited duration"),
+               stage.App().Find("limitedCaptureDurationSettingsFrame")->isVisible());
+    ShowListsOfPage(stage, QStringLiteral("limited duration"));
+    stage.Click(scheduleButton);
+    stage.Show(QStringLiteral("empty schedule"),
+               stage.App().Find("stubInfoRecordFrame")->isVisible());
+    stage.Click(nothingButton);
+    stage.Show(QStringLiteral("nothing scheduled"), stage.App().Button(nothingButton)->isChecked());
+}
+
+void ShowFolderProblems(const Stage& stage)
+{
+    stage.ShowPage(1);
+    const std::pair<const char*, const char*> folders[] = {
+        {"folder that is no path", "recordings"},
+        {"folder that is a file", "/etc/passwd"},
+        // Not even the administrator may write there.
+        {"folder without permission", "/proc/sys"}};
+    for (const auto& [scene, folder] : folders) {
+        stage.EnterFolder(QLatin1String(folder));
+        stage.Show(QLatin1String(scene), stage.App().Find("folderProblemLabel")->isVisible());
+    }
+    stage.EnterFolder(stage.App().folder.path());
+    stage.App().store->Change([](auto& settings) { settings.resultsFolderPath.clear(); });
+    stage.ShowPage(0);
+    stage.ShowPage(1);
+    stage.Show(QStringLiteral("folder of unknown space"), !stage.IsMarked(folderEdit));
+    stage.EnterFolder(stage.App().folder.path());
+    stage.ShowPage(0);
+}
+
+void ShowGeneralPage(const Stage& stage)
+{
+    const auto forgo = [&](bool isForgone) {
+        stage.App().store->Change([&](auto& settings) {
+            settings.confirmations[QStringLiteral("remove_schedule_record_always")] = isForgone;
+        });
+    };
+    stage.ShowPage(2);
+    forgo(true);
+    stage.Show(QStringLiteral("question that is not asked"),
+               stage.App().Button("askAgainButton")->isEnabled());
+    stage.Click("askAgainButton");
+    forgo(false);
+    stage.Show(QStringLiteral("questions that are asked again"),
+               !stage.App().Button("askAgainButton")->isEnabled());
+    const QString folder = stage.App().folder.path();
+    QVERIFY(QDir().rename(folder, folder + QStringLiteral("-1")));
+    stage.Click("openFolderButton");
+    stage.Show(QStringLiteral("folder that cannot be opened"),
+               stage.App().Find("openProblemLabel")->isVisible());
+    QVERIFY(QDir().rename(folder + QStringLiteral("-1"), folder));
+    stage.ShowPage(0);
+}
+
+void ShowCalendar(const Stage& stage)
+{
+    auto* date = stage.Find<QDateTimeEdit>("scheduledCaptureSettingsDate");
+    constexpr int toButton = 8;
+    const QRect rect = date->rect();
+    QTest::mouseClick(date, Qt::LeftButton, {},
+                      QStyle::visualPos(date->layoutDirection(), rect,
+                                        QPoint(rect.right() - toButton, rect.center().y())));
+    stage.Show(QStringLiteral("calendar"), date->calendarWidget()->isVisible());
+    date->calendarWidget()->window()->close();
+    stage.TakeKeyboard();
+}
+
+void ShowAreaTip(const Stage& stage)
+{
+    stage.Click("scheduledCaptureSettingsSelectedAreaInfoButton");
+    stage.Show(QStringLiteral("tip about the area"), QToolTip::isVisible());
+    QToolTip::hideText();
+}
+
+void ShowScreens(const Stage& stage)
+{
+    FakeScreen* screen = Plug(SecondScreen());
+    const auto* screens = stage.Find<QComboBox>("scheduledCaptureSettingsScreenSelectBox");
+    stage.Show(QStringLiteral("form with two screens"), screens->isVisible());
+    ShowListsOfPage(stage, QStringLiteral("form with two screens"));
+    Unplug(screen);
+}
+
+void ShowForm(const Stage& stage)
+{
+    stage.Click(scheduleButton);
+    stage.Click(addButton);
+    stage.Show(QStringLiteral("form"), stage.App().IsFormOpen());
+    ShowAreaTip(stage);
+    ShowCalendar(stage);
+    ShowListsOfPage(stage, QStringLiteral("form"));
+    ShowScreens(stage);
+    stage.Find<QLineEdit>(nameEdit)->clear();
+    stage.Show(QStringLiteral("form without name"), stage.IsMarked(nameEdit));
+    stage.ClickInBox("scheduledCaptureSettingsBackButton", QMessageBox::No);
+}
+
+void ShowSaveProblems(const Stage& stage)
+{
+    auto* store = stage.App().store.get();
+    Q_EMIT store->SaveFailed(ReasonNotToSave());
+    stage.Show(QStringLiteral("changes that could not be saved"),
+               stage.App().Find("saveProblemLabel")->isVisible());
+    Q_EMIT store->Saved();
+    stage.Show(QStringLiteral("changes that are saved again"), !stage.App().StatusText().isEmpty());
+}
+
+void ShowClosingQuestion(const Stage& stage)
+{
+    const QString file = stage.App().folder.filePath(QStringLiteral("settings.json"));
+    QVERIFY(stage.App().store->Flush());
+    // Nothing can be written where a folder stands in the way.
+    QVERIFY(QFile::remove(file));
+    QVERIFY(QDir().mkpath(file + QStringLiteral("/1")));
+    stage.ShowBox(QStringLiteral("question about closing"), QMessageBox::Cancel,
+                  [&] { stage.App().window->close(); });
+    QVERIFY(QDir(file).removeRecursively());
+}
+
+void ShowRefusedTasks(const Stage& stage)
+{
+    stage.Click(addButton);
+    stage.Find<QLineEdit>(nameEdit)->setText(QStringLiteral("Task 1"));
+    stage.Show(QStringLiteral("form with a name that is taken"), stage.IsMarked(nameEdit));
+    stage.Find<QLineEdit>(nameEdit)->setText(LongTitle());
+    stage.Find<QDateTimeEdit>("scheduledCaptureSettingsDate")->setDate(QDate(2030, 3, 1));
+    auto* start = stage.Find<QTimeEdit>(startEdit);
+    start->setTime(QTime(1, 10));
+    stage.Show(QStringLiteral("form with a time that is taken"), stage.IsMarked(startEdit));
+    start->setTime(QTime(20, 0));
+    stage.Show(QStringLiteral("form without problem"), !stage.IsMarked(startEdit));
+    stage.ShowBox(QStringLiteral("question about an unsaved task"), QMessageBox::Yes,
+                  [&] { stage.Click("scheduledCaptureSettingsBackButton"); });
+    stage.Show(QStringLiteral("long title"), stage.App().Titles().endsWith(LongTitle()));
+}
+
+void ShowRecordingStart(const Stage& stage)
+{
+    stage.Click("startRecordingButton");
+    stage.Show(QStringLiteral("ready to record"), !stage.App().StatusText().isEmpty());
+    // A file system that has no room for files.
+    stage.EnterFolder(QStringLiteral("/proc/recordings"));
+    stage.ShowBox(QStringLiteral("full disk"), QMessageBox::Cancel,
+                  [&] { stage.Click("startRecordingButton"); });
+}
+
+void ShowSchedule(const Stage& stage)
+{
+    stage.Show(QStringLiteral("schedule"), stage.App().Find("infoRecordFrame")->isVisible());
+    ShowRefusedTasks(stage);
+    ShowRecordingStart(stage);
+    stage.ShowBox(QStringLiteral("question about leaving the schedule"), QMessageBox::Cancel,
+                  [&] { stage.Click(nothingButton); });
+    stage.ShowBox(QStringLiteral("question about deleting"), QMessageBox::Ok,
+                  [&] { stage.Click("deleteToolButton"); });
+    stage.Show(QStringLiteral("deleted task"), !stage.App().StatusText().isEmpty());
+    stage.ClickInBox(nothingButton, QMessageBox::Ok);
+    stage.Show(QStringLiteral("deleted schedule"), stage.App().Titles().isEmpty());
+}
+
+void ShowLongSchedule(const Stage& stage)
+{
+    stage.Show(QStringLiteral("long schedule"), stage.App().Find("infoRecordFrame")->isVisible());
+}
+
+} // namespace
+
+void Settle()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    // It takes some rounds until the widths of a page and the heights of its wrapped texts agree.
+    constexpr int rounds = 10;
+    for (int round = 0; round < rounds; ++round) {
+        QCoreApplication::sendPostedEvents();
+    }
+}
+
+void VisitAppScenes(const QSize& size, const SceneVisitor& visit)
+{
+    // Qt's own platforms say so of themselves; a popup wants the keyboard for itself.
+    WidgetTest::AllowWarning(QStringLiteral("^This plugin does not support grabbing the keyboard"));
+    // At once on screen, not a while later.
+    for (const auto effect : {Qt::UI_AnimateCombo, Qt::UI_AnimateTooltip, Qt::UI_FadeTooltip}) {
+        QApplication::setEffectEnabled(effect, false);
+    }
+    using Play = void (*)(const Stage&);
+    struct Part {
+        int taskCount;
+        std::vector<Play> plays;
+    };
+    const Part parts[] = {{0,
+                           {ShowPages, ShowModes, ShowFolderProblems, ShowGeneralPage, ShowForm,
+                            ShowSaveProblems, ShowClosingQuestion}},
+                          {2, {ShowSchedule}},
+                          {manyTasks, {ShowLongSchedule}}};
+    for (const Part& part : parts) {
+        const Stage stage(part.taskCount, size, visit);
+        for (const Play play : part.plays) {
+            play(stage);
+            if (QTest::currentTestFailed()) {
+                return;
+            }
+        }
+    }
+}
+
+QStringList TextsOfTheUser(const AppWindow& app)
+{
+    QStringList texts{app.folder.filePath(QStringLiteral("settings.json")), app.folder.path(),
+                      LongTitle(), SecondScreen(), ReasonNotToSave()};
+    for (int number = 1; number <= manyTasks; ++number) {
+        texts << QStringLiteral("Task %1").arg(number);
+    }
+    return texts;
+}
+
+} // namespace Zentor::Tests
