@@ -20,6 +20,13 @@ scheduler_test_runs_program(tst_CommandLine)
 scheduler_add_test(tst_FilesPage LIBRARIES px-scheduler-app)
 scheduler_add_test(tst_GeneralPage LIBRARIES px-scheduler-app)
 scheduler_add_test(tst_Languages LIBRARIES px-scheduler-app)
+scheduler_add_test(tst_Layout
+    SOURCES Support/AppScenes.cpp Support/AppScenes.h
+        Support/LayoutProblems.cpp Support/LayoutProblems.h
+    LIBRARIES px-scheduler-app Qt5::GuiPrivate)
+scheduler_repeat_test(tst_Layout tst_Layout_125 QT_SCALE_FACTOR=1.25)
+scheduler_repeat_test(tst_Layout tst_Layout_150 QT_SCALE_FACTOR=1.5)
+scheduler_repeat_test(tst_Layout tst_Layout_200 QT_SCALE_FACTOR=2)
 scheduler_add_test(tst_Log LIBRARIES px-scheduler-app)
 scheduler_add_test(tst_MainWindow LIBRARIES px-scheduler-app)
 scheduler_add_test(tst_RestoringManyTasks LIBRARIES px-scheduler-app)

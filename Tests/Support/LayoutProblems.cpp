@@ -1,0 +1,368 @@
+#include "LayoutProblems.h"
+
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStackedLayout>
+#include <QStatusBar>
+#include <QStyleOptionButton>
+#include <QStyleOptionComboBox>
+#include <QTextDocument>
+
+namespace Zentor::Tests {
+namespace {
+
+/// A text of a widget: the room that it takes, and the room that there is.
+struct TextRoom {
+    QString text;
+    QSize needed;
+    QSize available;
+};
+using TextRooms = std::vector<TextRoom>;
+
+/// What a line edit keeps free on each side of its text.
+constexpr int lineEditMargin = 2;
+
+QString NameOf(const QWidget& widget)
+{
+    return QStringLiteral("%1 \"%2\"")
+        .arg(QString::fromLatin1(widget.metaObject()->className()), widget.objectName());
+}
+
+QString Text(const QSize& size)
+{
+    return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
+}
+
+QString Text(const QRect& rect)
+{
+    return QStringLiteral("%1 at %2,%3").arg(Text(rect.size())).arg(rect.x()).arg(rect.y());
+}
+
+/// The room that a line of \a text takes in \a widget when it is painted. What is free above, below
+/// and behind the letters may be cut off: some fonts have much of it.
+QSize SizeOf(const QString& text, const QWidget& widget)
+{
+    const QSize line = widget.fontMetrics().size(Qt::TextShowMnemonic, text);
+    const QRect letters = widget.fontMetrics().tightBoundingRect(text);
+    return line.boundedTo({qMax(0, letters.x()) + letters.width(), letters.height()});
+}
+
+QSize NeededBy(const QLabel& label, int width)
+{
+    const QString text = label.text();
+    if (label.textFormat() == Qt::RichText
+        || (label.textFormat() == Qt::AutoText && Qt::mightBeRichText(text))) {
+        QTextDocument document;
+        document.setDefaultFont(label.font());
+        document.setDocumentMargin(0);
+        document.setHtml(text);
+        document.setTextWidth(width);
+        return QSizeF(document.idealWidth(), document.size().height()).toSize();
+    }
+    const int flags = label.buddy() != nullptr ? Qt::TextShowMnemonic : 0;
+    if (label.wordWrap()) {
+        const QRect page(0, 0, width, QWIDGETSIZE_MAX);
+        return label.fontMetrics().boundingRect(page, flags | Qt::TextWordWrap, text).size();
+    }
+    return {label.fontMetrics().size(flags, text).width(), SizeOf(text, label).height()};
+}
+
+/// Whether \a label may shorten its text, which is the user's, and tells the whole in its tip.
+bool IsShortenedWithTip(const QLabel& label)
+{
+    const QStringList shortened{QStringLiteral("titleLabel"), QStringLiteral("saveProblemLabel")};
+    return shortened.contains(label.objectName()) && label.inherits("Zentor::ZLabel")
+        && !label.toolTip().isEmpty();
+}
+
+TextRooms RoomsOf(const QLabel& label)
+{
+    const int margin = label.margin();
+    const QSize room = label.contentsRect().adjusted(margin, margin, -margin, -margin).size();
+    if (label.text().isEmpty() || IsShortenedWithTip(label)) {
+        return {};
+    }
+    return {{label.text(), NeededBy(label, room.width()), room}};
+}
+
+TextRooms RoomsOf(const QAbstractButton& button)
+{
+    if (button.text().isEmpty()) {
+        return {};
+    }
+    QStyleOptionButton option;
+    option.initFrom(&button);
+    option.text = button.text();
+    const auto room = [&](QStyle::SubElement element) -> TextRooms {
+        const QRect rect = button.style()->subElementRect(element, &option, &button);
+        return {{button.text(), SizeOf(button.text(), button), rect.size()}};
+    };
+    if (qobject_cast<const QPushButton*>(&button) != nullptr) {
+        return room(QStyle::SE_PushButtonContents);
+    }
+    if (qobject_cast<const QRadioButton*>(&button) != nullptr) {
+        return room(QStyle::SE_RadioButtonContents);
+    }
+    if (qobject_cast<const QCheckBox*>(&button) != nullptr) {
+        return room(QStyle::SE_CheckBoxContents);
+    }
+    return {{button.text(), button.sizeHint(), button.size()}};
+}
+
+TextRooms RoomsOf(const QComboBox& box)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(&box);
+    option.frame = box.hasFrame();
+    const QSize room =
+        box.style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &box)
+            .size();
+    TextRooms rooms;
+    for (int index = 0; index < box.count(); ++index) {
+        rooms.push_back({box.itemText(index), SizeOf(box.itemText(index), box), room});
+    }
+    return rooms;
+}
+
+/// \a text as wide as it gets: with its digits replaced by the widest one.
+QString Widest(QString text, const QFontMetrics& metrics)
+{
+    QChar widest = QLatin1Char('0');
+    for (char digit = '0'; digit <= '9'; ++digit) {
+        const QLatin1Char candidate(digit);
+        if (metrics.horizontalAdvance(candidate) > metrics.horizontalAdvance(widest)) {
+            widest = candidate;
+        }
+    }
+    for (QChar& character : text) {
+        character = character.isDigit() ? widest : character;
+    }
+    return text;
+}
+
+TextRooms RoomsOf(const QAbstractSpinBox& editor)
+{
+    const auto* field = editor.findChild<QLineEdit*>();
+    const QString text = Widest(editor.text(), field->fontMetrics());
+    const QSize room = field->contentsRect().adjusted(lineEditMargin, 0, -lineEditMargin, 0).size();
+    return {{text, SizeOf(text, *field), room}};
+}
+
+TextRooms RoomsOf(const QLineEdit& field)
+{
+    const QString text = field.placeholderText();
+    const QSize room = field.contentsRect().adjusted(lineEditMargin, 0, -lineEditMargin, 0).size();
+    return text.isEmpty() ? TextRooms() : TextRooms{{text, SizeOf(text, field), room}};
+}
+
+TextRooms RoomsOf(const QAbstractItemView& view)
+{
+    TextRooms rooms;
+    const auto& model = *view.model();
+    for (int row = 0; row < model.rowCount(); ++row) {
+        for (int column = 0; column < model.columnCount(); ++column) {
+            const QModelIndex index = model.index(row, column);
+            const QRect place = view.visualRect(index);
+            const bool isList = model.columnCount() == 1;
+            // The cells of a table share its width, whatever each would like.
+            rooms.push_back(
+                {index.data().toString(),
+                 isList ? view.sizeHintForIndex(index) : SizeOf(index.data().toString(), view),
+                 isList ? QSize(view.viewport()->width(), place.height()) : place.size()});
+        }
+    }
+    return rooms;
+}
+
+TextRooms RoomsOf(const QStatusBar& bar)
+{
+    if (bar.currentMessage().isEmpty() || !bar.toolTip().isEmpty()) {
+        return {};
+    }
+    constexpr int margin = 6;
+    return {{bar.currentMessage(), SizeOf(bar.currentMessage(), bar),
+             bar.rect().adjusted(margin, 0, -margin, 0).size()}};
+}
+
+TextRooms RoomsOf(const QWidget& widget)
+{
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+        return RoomsOf(*label);
+    }
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+        return RoomsOf(*button);
+    }
+    if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
+        return RoomsOf(*box);
+    }
+    if (const auto* editor = qobject_cast<const QAbstractSpinBox*>(&widget)) {
+        return RoomsOf(*editor);
+    }
+    if (const auto* field = qobject_cast<const QLineEdit*>(&widget)) {
+        return RoomsOf(*field);
+    }
+    if (const auto* view = qobject_cast<const QAbstractItemView*>(&widget)) {
+        return RoomsOf(*view);
+    }
+    if (const auto* bar = qobject_cast<const QStatusBar*>(&widget)) {
+        return RoomsOf(*bar);
+    }
+    if (const auto* group = qobject_cast<const QGroupBox*>(&widget)) {
+        return {{group->title(), SizeOf(group->title(), *group), group->size()}};
+    }
+    return {};
+}
+
+QStringList ClippedTexts(const QWidget& widget)
+{
+    QStringList problems;
+    for (const TextRoom& room : RoomsOf(widget)) {
+        if (room.needed.boundedTo(room.available) != room.needed) {
+            problems << QStringLiteral("%1 needs %2 and has %3: \"%4\"")
+                            .arg(NameOf(widget), Text(room.needed), Text(room.available),
+                                 room.text);
+        }
+    }
+    return problems;
+}
+
+QWidgetList VisibleWidgetsOf(const QLayout& layout)
+{
+    if (qobject_cast<const QStackedLayout*>(&layout) != nullptr) {
+        return {};
+    }
+    QWidgetList widgets;
+    for (int index = 0; QLayoutItem* item = layout.itemAt(index); ++index) {
+        if (QWidget* widget = item->widget(); widget != nullptr && widget->isVisible()) {
+            widgets << widget;
+        } else if (const QLayout* inner = item->layout()) {
+            widgets << VisibleWidgetsOf(*inner);
+        }
+    }
+    return widgets;
+}
+
+/// The widgets in the layout of \a parent that lie on one another.
+QStringList Overlaps(const QWidget& parent)
+{
+    QStringList problems;
+    const QWidgetList widgets =
+        parent.layout() != nullptr ? VisibleWidgetsOf(*parent.layout()) : QWidgetList();
+    for (const QWidget* one : widgets) {
+        for (const QWidget* other : widgets) {
+            if (one < other && one->geometry().intersects(other->geometry())) {
+                problems << QStringLiteral("%1 (%2) overlaps %3 (%4)")
+                                .arg(NameOf(*one), Text(one->geometry()), NameOf(*other),
+                                     Text(other->geometry()));
+            }
+        }
+    }
+    return problems;
+}
+
+/// Whether \a widget is what a scroll area moves about.
+bool IsScrolled(const QWidget& widget)
+{
+    const auto* area = qobject_cast<const QScrollArea*>(widget.parentWidget()->parentWidget());
+    return area != nullptr && area->widget() == &widget
+        && area->horizontalScrollBarPolicy() != Qt::ScrollBarAlwaysOff
+        && area->verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff;
+}
+
+QStringList ReachesOut(const QWidget& widget)
+{
+    const QWidget* parent = widget.parentWidget();
+    if (widget.isWindow() || parent->rect().contains(widget.geometry()) || IsScrolled(widget)) {
+        return {};
+    }
+    return {
+        QStringLiteral("%1 (%2) reaches out of %3 (%4)")
+            .arg(NameOf(widget), Text(widget.geometry()), NameOf(*parent), Text(parent->size()))};
+}
+
+std::vector<QScrollArea*> ScrollAreasAround(const QWidget& widget)
+{
+    std::vector<QScrollArea*> areas;
+    for (QWidget* parent = widget.parentWidget(); parent != nullptr;
+         parent = parent->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(parent)) {
+            areas.push_back(area);
+        }
+    }
+    return areas;
+}
+
+/// Scrolls \a area as far as \a widget is from the start of the view.
+void ScrollTo(QScrollArea& area, const QWidget& widget)
+{
+    const QRect view = area.viewport()->rect();
+    const QRect place(widget.mapTo(area.viewport(), QPoint(0, 0)), widget.size());
+    const QPoint fromStart = QStyle::visualRect(area.layoutDirection(), view, place).topLeft();
+    auto* sideways = area.horizontalScrollBar();
+    auto* down = area.verticalScrollBar();
+    sideways->setValue(sideways->value() + fromStart.x());
+    down->setValue(down->value() + fromStart.y());
+}
+
+/// Whether the focus stops at \a widget itself, not at one that has taken it in.
+bool IsStopOfTab(const QWidget& widget)
+{
+    return widget.isVisible() && widget.isEnabled() && widget.focusProxy() == nullptr
+        && qobject_cast<const QAbstractSpinBox*>(widget.parentWidget()) == nullptr
+        && (widget.focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
+}
+
+} // namespace
+
+QStringList LayoutProblems()
+{
+    QStringList problems;
+    const auto widgets = QApplication::allWidgets();
+    for (const QWidget* widget : widgets) {
+        if (widget->isVisible()) {
+            problems << ClippedTexts(*widget) << Overlaps(*widget) << ReachesOut(*widget);
+        }
+    }
+    return problems;
+}
+
+QStringList HiddenPart(const QWidget& control)
+{
+    QSize needed = control.size();
+    for (const QScrollArea* area : ScrollAreasAround(control)) {
+        needed = needed.boundedTo(area->viewport()->size());
+    }
+    const QSize seen = control.visibleRegion().boundingRect().size();
+    return seen == needed ? QStringList()
+                          : QStringList(QStringLiteral("%1: %2 of %3 can be seen")
+                                            .arg(NameOf(control), Text(seen), Text(needed)));
+}
+
+QStringList UnreachableControls(const QWidget& window)
+{
+    QStringList problems;
+    const auto controls = window.findChildren<QWidget*>();
+    for (const QWidget* control : controls) {
+        if (!IsStopOfTab(*control)) {
+            continue;
+        }
+        for (QScrollArea* area : ScrollAreasAround(*control)) {
+            ScrollTo(*area, *control);
+        }
+        problems << HiddenPart(*control);
+    }
+    return problems;
+}
+
+} // namespace Zentor::Tests

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QStringList>
+
+class QWidget;
+
+namespace Zentor::Tests {
+
+/// What is wrong with the places of all that is on screen, one line for each problem: text that has
+/// less room than it needs, widgets that lie on one another, and widgets that reach out of the one
+/// they are in. A title of the user's may be shortened where a tool tip has the whole of it.
+QStringList LayoutProblems();
+
+/// The controls of \a window that the keyboard reaches, but that cannot be scrolled into view, one
+/// line for each.
+QStringList UnreachableControls(const QWidget& window);
+
+/// What is wrong when less of \a control can be seen than there is room for; empty when not.
+QStringList HiddenPart(const QWidget& control);
+
+} // namespace Zentor::Tests
