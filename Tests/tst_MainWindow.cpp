@@ -1,5 +1,6 @@
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
@@ -12,6 +13,7 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimeEdit>
+#include <QToolButton>
 
 #include "Application.h"
 #include "Application/LookAndFeelManager.h"
@@ -485,6 +487,36 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(picture.rect().bottomRight()), ground);
         QCOMPARE(Find<QWidget>("scheduledCaptureSettingsRecordTableWidget")->width(), 710);
         App::ApplyTheme(App::Theme::Light);
+    }
+
+    void turnsToOtherMonthsInTheDirectionOfWriting_data()
+    {
+        QTest::addColumn<int>("direction");
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("after");
+        const auto left = QStringLiteral("arrow-left");
+        const auto right = QStringLiteral("arrow-right");
+        QTest::newRow("to the right") << int(Qt::LeftToRight) << left << right;
+        QTest::newRow("to the left") << int(Qt::RightToLeft) << right << left;
+    }
+
+    void turnsToOtherMonthsInTheDirectionOfWriting()
+    {
+        QFETCH(int, direction);
+        QFETCH(QString, before);
+        QFETCH(QString, after);
+        QGuiApplication::setLayoutDirection(static_cast<Qt::LayoutDirection>(direction));
+        Open();
+        const auto* calendar =
+            Find<QDateTimeEdit>("scheduledCaptureSettingsDate")->calendarWidget();
+        const auto shows = [&](const char* button, const QString& icon) {
+            auto* arrow = calendar->findChild<QToolButton*>(QLatin1String(button));
+            arrow->ensurePolished();
+            return arrow->icon().pixmap(16).toImage() == App::ThemedIcon(icon).pixmap(16).toImage();
+        };
+        QVERIFY(shows("qt_calendar_prevmonth", before));
+        QVERIFY(shows("qt_calendar_nextmonth", after));
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     }
 
     void showsFocusOnEveryControl_data()

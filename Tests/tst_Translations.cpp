@@ -136,6 +136,22 @@ private Q_SLOTS:
         }
     }
 
+    void underlinesNoJoinedLetter_data() { AddLanguages(); }
+
+    /// Underlined within its word, such a letter takes another form and does not fit its place.
+    void underlinesNoJoinedLetter()
+    {
+        QFETCH(QString, code);
+        for (const Entry& entry : ReadEntries(PathOf(code))) {
+            const int mark = entry.translation.indexOf(QLatin1Char('&'));
+            const QString letters = entry.translation.mid(qMax(0, mark - 1), 4);
+            const auto joined = std::count_if(letters.begin(), letters.end(), [](QChar letter) {
+                return letter.joiningType() > QChar::Joining_None;
+            });
+            QVERIFY2(mark < 0 || joined <= 1, qPrintable(entry.source));
+        }
+    }
+
     void givesDatesAndTimesAsWhole_data() { AddLanguages(); }
 
     void givesDatesAndTimesAsWhole()
