@@ -23,17 +23,18 @@ QLayout* CreateRow(QWidget* widget)
 }
 
 /// Scrolls by \a bar until \a start to \a end, counted from where the view starts, is in it, with
-/// something of what is around it where there is room. Of what is longer than the view, the start
-/// is.
+/// something of what is around it where there is room. What is longer than the view fills half of
+/// it at least: before its start there may be its caption.
 void Scroll(QScrollBar& bar, int start, int end)
 {
     constexpr int wanted = 8;
     const int length = bar.pageStep();
-    const int around = qBound(0, (length - (end - start)) / 2, wanted);
-    if (start < around || end - start > length) {
+    const int last = end - start > length ? start + length / 2 : end;
+    const int around = qBound(0, (length - (last - start)) / 2, wanted);
+    if (start < around) {
         bar.setValue(bar.value() + start - around);
-    } else if (end > length - around) {
-        bar.setValue(bar.value() + end - length + around);
+    } else if (last > length - around) {
+        bar.setValue(bar.value() + last - length + around);
     }
 }
 

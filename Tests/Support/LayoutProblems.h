@@ -15,7 +15,8 @@ QStringList LayoutProblems();
 /// line for each.
 QStringList UnreachableControls(const QWidget& window);
 
-/// What is wrong when less of \a control can be seen than there is room for; empty when not.
+/// What is wrong when a part of \a control cannot be seen, or when one that is larger than the view
+/// does not fill half of it; empty when all is well.
 QStringList HiddenPart(const QWidget& control);
 
 } // namespace Zentor::Tests
