@@ -43,12 +43,16 @@ void Appearance::TakeOverChanges()
     const bool isLanguageNew = look.language != m_stored.language;
     const bool isThemeNew = look.theme != m_stored.theme;
     m_stored = look;
+    const auto directionBefore = QGuiApplication::layoutDirection();
     if (isLanguageNew) {
         m_wanted.language = look.language;
         UseLanguage();
     }
     if (isThemeNew) {
         m_wanted.theme = look.theme;
+    }
+    // Some rules of the style sheet are for one direction of writing.
+    if (isThemeNew || QGuiApplication::layoutDirection() != directionBefore) {
         UseTheme();
     }
 }

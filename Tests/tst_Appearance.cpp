@@ -1,6 +1,8 @@
+#include <QCalendarWidget>
 #include <QLabel>
 #include <QLocale>
 #include <QTemporaryDir>
+#include <QToolButton>
 
 #include "Appearance.h"
 #include "Application.h"
@@ -134,6 +136,25 @@ private Q_SLOTS:
         QCOMPARE(QApplication::layoutDirection(), Qt::LeftToRight);
         Choose({}, QStringLiteral("dark"));
         QCOMPARE(QLocale().language(), QLocale::English);
+    }
+
+    void turnsTheArrowsOfACalendarWithTheDirectionOfWriting()
+    {
+        Start({QStringLiteral("en"), QStringLiteral("light")});
+        QCalendarWidget calendar;
+        calendar.show();
+        const auto* next =
+            calendar.findChild<QToolButton*>(QStringLiteral("qt_calendar_nextmonth"));
+        const auto shows = [&](const char* icon) {
+            constexpr int size = 16;
+            return next->icon().pixmap(size).toImage()
+                == App::ThemedIcon(QLatin1String(icon)).pixmap(size).toImage();
+        };
+        QVERIFY(shows("arrow-right"));
+        Choose(QStringLiteral("he"), QStringLiteral("light"));
+        QVERIFY(shows("arrow-left"));
+        Choose(QStringLiteral("en"), QStringLiteral("light"));
+        QVERIFY(shows("arrow-right"));
     }
 
     void followsTheDesktopUnlessChosen()
