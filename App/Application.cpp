@@ -64,7 +64,9 @@ QString DefaultSettingsFile()
 
 int RunTour(MainWindow& window, const QString& folder)
 {
-    // Pictures of the same state are the same: no blinking cursor, no half-way animation.
+    // Pictures of the same state are the same: of one size, whatever the screen, with no blinking
+    // cursor and no half-way animation.
+    window.resize(MainWindow::FirstSize());
     QApplication::setCursorFlashTime(0);
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
     QString problem;

@@ -55,6 +55,18 @@ QComboBox* CreateBox(const QString& objectName, const QStringList& values, QWidg
     return box;
 }
 
+/// Makes \a box as wide as its longest text. By itself it goes by the ink of the letters, which is
+/// less than what they take.
+void MakeRoom(QComboBox& box)
+{
+    const QFontMetrics metrics = box.fontMetrics();
+    int widest = 0;
+    for (int index = 0; index < box.count(); ++index) {
+        widest = std::max(widest, metrics.horizontalAdvance(box.itemText(index)));
+    }
+    box.setMinimumContentsLength(1 + widest / metrics.horizontalAdvance(QLatin1Char('X')));
+}
+
 /// Selects \a value or, where it is none of the box's, the first entry, which stands for no choice.
 void Select(QComboBox& box, const QString& value)
 {
@@ -166,10 +178,12 @@ void GeneralPage::Retranslate()
     for (int index = 1; index < m_languageBox->count(); ++index) {
         m_languageBox->setItemText(index, LanguageName(m_languageBox->itemData(index).toString()));
     }
+    MakeRoom(*m_languageBox);
     m_themeLabel->setText(tr("&Theme:"));
     m_themeBox->setItemText(0, tr("System default"));
     m_themeBox->setItemText(1, tr("Light"));
     m_themeBox->setItemText(2, tr("Dark"));
+    MakeRoom(*m_themeBox);
     m_askAgainButton->setText(tr("&Ask all questions again"));
     m_supportLabel->setText(
         tr("When something goes wrong: the folder of your settings, and the log "
@@ -187,8 +201,8 @@ void GeneralPage::ShowStored()
     const bool isSomeForgone = std::find(answers.begin(), answers.end(), true) != answers.end();
     m_askAgainButton->setEnabled(isSomeForgone);
     m_questionsLabel->setText(
-        isSomeForgone ? tr("Some questions are no longer asked, because you chose so.")
-                      : tr("Every question is asked, such as before a task is deleted."));
+        isSomeForgone ? tr("You have chosen not to be asked some questions.")
+                      : tr("Every question is asked, for example before a task is deleted."));
 }
 
 void GeneralPage::ShowLog()
@@ -205,7 +219,7 @@ void GeneralPage::ShowLog()
 void GeneralPage::ForgetAnswers()
 {
     SettingsManager(m_store).ForgetAll();
-    Q_EMIT Happened(tr("All questions are asked again"));
+    Q_EMIT Happened(tr("All questions will be asked again"));
 }
 
 void GeneralPage::OpenLog()

@@ -1,18 +1,21 @@
 #include "MainWindow.h"
 
 #include <QAccessible>
+#include <QApplication>
+#include <QCalendarWidget>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QStyledItemDelegate>
+#include <QTextCharFormat>
 #include <QTimer>
 
 #include "Application/SettingsManager.h"
@@ -22,6 +25,7 @@
 #include "Page.h"
 #include "PanelAnnouncer.h"
 #include "PanelKeyboard.h"
+#include "PanelMouse.h"
 #include "PXUserSettings/SettingsStore.h"
 #include "PXUserSettings/StoredSettings.h"
 #include "RecordSchedulerWidget.h"
@@ -31,7 +35,6 @@
 namespace Zentor::App {
 namespace {
 
-constexpr QSize firstSize(1040, 760);
 constexpr QSize smallestSize(480, 320);
 constexpr int messageMilliseconds = 5000;
 
@@ -117,7 +120,6 @@ QWidget* MainWindow::CreatePageColumn(QWidget* parent)
     AddPage(CreateSchedulePage());
     AddPage(CreateFilesPage());
     AddPage(CreateGeneralPage());
-    LetSheetDrawLists(*m_pages);
 
     QWidget* foot = CreateFoot(pageColumn);
     auto* layout = new QVBoxLayout(pageColumn);
@@ -158,17 +160,26 @@ void MainWindow::AddPage(Page* page)
     m_pageList->addItem(new QListWidgetItem);
 }
 
+PX::Scheduler::UI::RecordSchedulerWidget* MainWindow::CreatePanel()
+{
+    auto* panel = new PX::Scheduler::UI::RecordSchedulerWidget(
+        m_lookAndFeel, std::make_shared<SettingsManager>(m_store), m_pages);
+    panel->setObjectName(QStringLiteral("recordSchedulerWidget"));
+    panel->SetSchedulerSettings(std::make_shared<PX::StoredSchedulerSettings>(m_store));
+    panel->SetCaptureFinishActionSettings(
+        std::make_shared<PX::StoredCaptureFinishActionSettings>(m_store));
+    panel->SetPathSettings(std::make_shared<PX::StoredPathsSettings>(m_store));
+    panel->SetSettingsWatcher(std::make_shared<PX::StoringSettingsWatcher>(m_store));
+    panel->RestoreSettings();
+    LetSheetDrawLists(*panel);
+    connect(panel, &PX::Scheduler::UI::RecordSchedulerWidget::OpenFilesSettingsRequested, this,
+            [this] { ShowPage(FilesId()); });
+    return panel;
+}
+
 Page* MainWindow::CreateSchedulePage()
 {
-    m_panel = new PX::Scheduler::UI::RecordSchedulerWidget(
-        m_lookAndFeel, std::make_shared<SettingsManager>(m_store), m_pages);
-    m_panel->setObjectName(QStringLiteral("recordSchedulerWidget"));
-    m_panel->SetSchedulerSettings(std::make_shared<PX::StoredSchedulerSettings>(m_store));
-    m_panel->SetCaptureFinishActionSettings(
-        std::make_shared<PX::StoredCaptureFinishActionSettings>(m_store));
-    m_panel->SetPathSettings(std::make_shared<PX::StoredPathsSettings>(m_store));
-    m_panel->SetSettingsWatcher(std::make_shared<PX::StoringSettingsWatcher>(m_store));
-    m_panel->RestoreSettings();
+    m_panel = CreatePanel();
     return new Page(ScheduleId(), m_panel, m_pages);
 }
 
@@ -181,6 +192,7 @@ Page* MainWindow::CreateFilesPage()
 Page* MainWindow::CreateGeneralPage()
 {
     m_generalPage = new GeneralPage(m_store, m_pages);
+    LetSheetDrawLists(*m_generalPage);
     return new Page(GeneralId(), m_generalPage, m_pages);
 }
 
@@ -194,8 +206,6 @@ void MainWindow::Connect()
             QTimer::singleShot(0, this, &MainWindow::FollowPageList);
         }
     });
-    connect(m_panel, &PX::Scheduler::UI::RecordSchedulerWidget::OpenFilesSettingsRequested, this,
-            [this] { ShowPage(FilesId()); });
     connect(m_generalPage, &GeneralPage::Happened, m_statusBar,
             [this](const QString& text) { Announce(m_statusBar, text, messageMilliseconds); });
     connect(m_startButton, &QPushButton::clicked, this, &MainWindow::StartRecording);
@@ -208,6 +218,7 @@ void MainWindow::Connect()
 void MainWindow::AssistPanel()
 {
     new PanelKeyboard(m_panel);
+    new PanelMouse(m_panel);
     const auto* announcer = new PanelAnnouncer(m_panel, m_store);
     // The form is hidden once more at the end of the window, when only its widgets are left.
     QStatusBar* const bar = m_statusBar;
@@ -216,6 +227,31 @@ void MainWindow::AssistPanel()
     // Longer on screen than the tip at the field, which goes after some seconds.
     connect(announcer, &PanelAnnouncer::ProblemChanged, bar,
             [bar](const QString& problem) { Announce(bar, problem, 0); });
+    m_panel->findChild<QWidget*>(QStringLiteral("recordTableScrollArea"))
+        ->setAccessibleName(tr("Recording schedule"));
+    ColorCalendar();
+}
+
+void MainWindow::RebuildPanel()
+{
+    auto* page = qobject_cast<Page*>(m_pages->widget(0));
+    m_panel = CreatePanel();
+    page->ReplaceSettings(m_panel);
+    AssistPanel();
+}
+
+void MainWindow::ColorCalendar()
+{
+    QTextCharFormat ofWeekend;
+    ofWeekend.setForeground(
+        QColor(ColorsOf(ThemeOf(QApplication::palette())).value(QStringLiteral("danger"))));
+    const auto workdays = QLocale().weekdays();
+    auto* calendar = m_panel->findChild<QCalendarWidget*>();
+    for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
+        const auto weekday = static_cast<Qt::DayOfWeek>(day);
+        calendar->setWeekdayTextFormat(weekday,
+                                       workdays.contains(weekday) ? QTextCharFormat() : ofWeekend);
+    }
 }
 
 void MainWindow::StartRecording()
@@ -255,6 +291,8 @@ void MainWindow::FollowPageList()
         m_pages->setCurrentIndex(m_pageList->currentRow());
     } else if (!self.isNull()) {
         m_pageList->setCurrentRow(m_pages->currentIndex());
+        m_panel->findChild<QWidget*>(QStringLiteral("scheduledCaptureSettingsNameLineEdit"))
+            ->setFocus(Qt::OtherFocusReason);
     }
 }
 
@@ -271,10 +309,26 @@ void MainWindow::RestorePlace()
 {
     const PX::UserSettings& settings = m_store->Settings();
     if (settings.windowGeometry.isEmpty() || !restoreGeometry(settings.windowGeometry)) {
-        resize(firstSize);
+        resize(FirstSize());
     }
+    FitScreen();
     m_pageList->setCurrentRow(0);
     ShowPage(settings.page);
+}
+
+void MainWindow::FitScreen()
+{
+    // The frame that the desktop will draw is not known yet; it is much like the style's own.
+    const int frame = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, this);
+    const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    const QRect room = screen()->availableGeometry().adjusted(frame, title, -frame, -frame);
+    resize(size().boundedTo(room.size()));
+    const QPoint place(qBound(room.left(), x(), room.right() + 1 - width()),
+                       qBound(room.top(), y(), room.bottom() + 1 - height()));
+    // Only from a place that was remembered: where a new window comes is the desktop's choice.
+    if (testAttribute(Qt::WA_Moved) && place != pos()) {
+        move(place);
+    }
 }
 
 void MainWindow::RememberPlace()
@@ -289,16 +343,17 @@ void MainWindow::RememberPlace()
 void MainWindow::Retranslate()
 {
     const QString name = tr("Recording Scheduler");
+    // First: the desktop would add the name in the language before to the title. It shows the name
+    // on boxes that have no title of their own.
+    QApplication::setApplicationDisplayName(name);
     setWindowTitle(name);
-    // The desktop shows it on boxes that have no title of their own.
-    QGuiApplication::setApplicationDisplayName(name);
+    // What it says is in the language before.
+    m_statusBar->clearMessage();
     m_pageList->setAccessibleName(tr("Settings pages"));
     m_startButton->setText(tr("&Start recording"));
-    m_panel->findChild<QWidget*>(QStringLiteral("recordTableScrollArea"))
-        ->setAccessibleName(tr("Recording schedule"));
     RetranslatePage(0, tr("Schedule"), tr("Choose when a recording stops or starts by itself."));
     RetranslatePage(1, tr("Files"), tr("Choose where recordings are kept."));
-    RetranslatePage(2, tr("General"), tr("Choose how the application looks and speaks."));
+    RetranslatePage(2, tr("General"), tr("Choose the language and the look."));
 }
 
 void MainWindow::RetranslatePage(int index, const QString& title, const QString& description)
@@ -348,9 +403,13 @@ void MainWindow::changeEvent(QEvent* event)
     // Both arrive for the first time while the window is still being built.
     if (m_startButton != nullptr && event->type() == QEvent::LanguageChange) {
         Retranslate();
+        if (!IsTaskUnfinished()) {
+            RebuildPanel();
+        }
     }
     if (m_startButton != nullptr && event->type() == QEvent::PaletteChange) {
         UpdateIcons();
+        ColorCalendar();
     }
     QMainWindow::changeEvent(event);
 }

@@ -36,6 +36,9 @@ public:
                std::shared_ptr<ILookAndFeelManager> lookAndFeel, QWidget* parent = nullptr);
     ~MainWindow() override;
 
+    /// The size at first, where the screen has room for it.
+    static QSize FirstSize() { return {1040, 760}; }
+
     /// Shows the page called \a id; does nothing when there is none.
     void ShowPage(const QString& id);
 
@@ -49,13 +52,20 @@ private:
     QWidget* CreateFoot(QWidget* parent);
     QWidget* CreatePageColumn(QWidget* parent);
     void AddPage(Page* page);
+    PX::Scheduler::UI::RecordSchedulerWidget* CreatePanel();
     Page* CreateSchedulePage();
     Page* CreateFilesPage();
     Page* CreateGeneralPage();
     void Connect();
-    /// Makes the panel usable by keyboard alone, and speaks of what happens in it.
+    /// Gives the panel what it has not by itself: the use by keyboard alone, a voice for what
+    /// happens in it, the colours of the theme in its calendar.
     void AssistPanel();
+    /// Has the tasks in the list written in the language in use: a panel writes each only once.
+    void RebuildPanel();
+    void ColorCalendar();
     void RestorePlace();
+    /// Makes the window no larger than its screen, and moves it there.
+    void FitScreen();
     void RememberPlace();
     void Retranslate();
     void RetranslatePage(int index, const QString& title, const QString& description);

@@ -1,5 +1,7 @@
 #include "Page.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QLabel>
 #include <QScrollBar>
@@ -86,6 +88,7 @@ QLabel* CreateLabel(const QString& objectName, QWidget* parent)
 Page::Page(const QString& id, QWidget* settings, QWidget* parent)
     : QScrollArea(parent)
     , m_id(id)
+    , m_settings(settings)
 {
     setObjectName(QStringLiteral("pageScrollArea"));
     setWidgetResizable(true);
@@ -113,6 +116,14 @@ Page::Page(const QString& id, QWidget* settings, QWidget* parent)
     column->addStretch(1);
     setWidget(contents);
     WatchFocus(contents);
+}
+
+void Page::ReplaceSettings(QWidget* settings)
+{
+    delete widget()->layout()->replaceWidget(m_settings, settings);
+    // Now: the layout would show it only later.
+    settings->show();
+    delete std::exchange(m_settings, settings);
 }
 
 void Page::SetTexts(const QString& title, const QString& description)

@@ -20,6 +20,9 @@ public:
     /// The id given to the constructor.
     QString Id() const { return m_id; }
 
+    /// Puts \a settings in the place of those before, which are deleted. Takes ownership.
+    void ReplaceSettings(QWidget* settings);
+
     /// Sets the title and the line below it.
     void SetTexts(const QString& title, const QString& description);
 
@@ -28,6 +31,7 @@ protected:
 
 private:
     QString m_id;
+    QWidget* m_settings = nullptr;
     QWidget* m_head = nullptr;
     QLabel* m_title = nullptr;
     QLabel* m_description = nullptr;

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStackedWidget>
@@ -20,6 +21,7 @@
 #include "Boxes.h"
 #include "Languages.h"
 #include "MainWindow.h"
+#include "MarkingTranslator.h"
 #include "PXUserSettings/SettingsStore.h"
 #include "RecordSchedulerWidget.h"
 #include "Samples.h"
@@ -190,13 +192,13 @@ private Q_SLOTS:
         }
         PageList()->setCurrentRow(1);
         Find<QLineEdit>("resultsFolderEdit")->setText(QDir::tempPath());
-        m_window->setGeometry(30, 40, 720, 560);
+        m_window->setGeometry(30, 40, 720, 500);
         Close();
 
         Reopen();
         QCOMPARE(PageList()->currentRow(), 1);
         QCOMPARE(Find<QLineEdit>("resultsFolderEdit")->text(), QDir::tempPath());
-        QCOMPARE(m_window->geometry(), QRect(30, 40, 720, 560));
+        QCOMPARE(m_window->geometry(), QRect(30, 40, 720, 500));
         PageList()->setCurrentRow(0);
         QVERIFY(Button("scheduledCaptureRadioButton")->isChecked());
         QCOMPARE(Titles(), (QStringList{QStringLiteral("Task 1"), QStringLiteral("Task 2")}));
@@ -392,6 +394,53 @@ private Q_SLOTS:
         QCOMPARE(label->textFormat(), Qt::PlainText);
         Q_EMIT m_store->Saved();
         QVERIFY(!label->isVisible());
+    }
+
+    void fitsTheScreen_data()
+    {
+        QTest::addColumn<QRect>("left");
+        // The screen of the test: 800 x 800.
+        QTest::newRow("new") << QRect();
+        QTest::newRow("left on a larger screen") << QRect(200, 100, 1600, 1200);
+        QTest::newRow("left beyond the edge") << QRect(700, 700, 500, 400);
+    }
+
+    void fitsTheScreen()
+    {
+        QFETCH(QRect, left);
+        OpenStore();
+        ShowWindow();
+        if (!left.isNull()) {
+            m_window->setGeometry(left);
+            Close();
+            Reopen();
+        }
+        const QRect room = m_window->screen()->availableGeometry();
+        QCOMPARE(room.united(m_window->frameGeometry()), room);
+    }
+
+    void writesTheListInANewLanguage()
+    {
+        Open(Tasks(1));
+        const auto date = [this] { return Find<QLabel>("dateLabel")->text(); };
+        const QString before = date();
+        LanguageSwitch language;
+        language.Toggle();
+        QCOMPARE(QDate::fromString(date(), QStringLiteral("yyyy-MM-dd")),
+                 QDate::fromString(before, QStringLiteral("dd.MM.yyyy")));
+        QVERIFY(date() != before);
+        QCOMPARE(m_window->findChildren<QLabel*>(QStringLiteral("dateLabel")).size(), 1);
+        QCOMPARE(m_window->findChildren<Panel*>().size(), 1);
+        QCOMPARE(Titles(), QStringList{QStringLiteral("Task 0")});
+        QVERIFY(Button("scheduledCaptureRadioButton")->isChecked());
+        QCOMPARE(Find<QWidget>("recordTableScrollArea")->accessibleName(),
+                 QStringLiteral("~Recording schedule"));
+
+        // The new panel is assisted as the one before, and an unfinished task stays as it is.
+        Click("scheduledCaptureSettingsAddRecordButton");
+        QCOMPARE(m_window->focusWidget()->objectName(), NameEdit()->objectName());
+        language.Toggle();
+        QVERIFY(NameEdit()->isVisible());
     }
 
     void asksAboutAnUnfinishedTaskBeforeAnotherPage_data() { AddAnswers(); }
@@ -704,6 +753,8 @@ private:
             settings.scheduledCaptureEnabled = !tasks.empty();
         });
         ShowWindow();
+        // Whatever room the screen of the test has.
+        m_window->resize(App::MainWindow::FirstSize());
     }
 
     /// Opens a window on the settings as they were left.

@@ -372,24 +372,24 @@
         <translation>فتح السجل (&amp;ف)</translation>
     </message>
     <message>
-        <source>Some questions are no longer asked, because you chose so.</source>
-        <translation>لم تعد بعض الأسئلة تُطرح بناءً على اختيارك.</translation>
-    </message>
-    <message>
-        <source>Every question is asked, such as before a task is deleted.</source>
-        <translation>تُطرح كل الأسئلة، مثل السؤال قبل حذف مهمة.</translation>
-    </message>
-    <message>
         <source>There is no log of this run.</source>
         <translation>لا يوجد سجل لهذا التشغيل.</translation>
     </message>
     <message>
-        <source>All questions are asked again</source>
-        <translation>تُطرح كل الأسئلة من جديد</translation>
-    </message>
-    <message>
         <source>This cannot be opened: %1</source>
         <translation>تعذّر الفتح: %1</translation>
+    </message>
+    <message>
+        <source>You have chosen not to be asked some questions.</source>
+        <translation>لم تعد بعض الأسئلة تُطرح بناءً على اختيارك.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, for example before a task is deleted.</source>
+        <translation>تُطرح كل الأسئلة، مثل السؤال قبل حذف مهمة.</translation>
+    </message>
+    <message>
+        <source>All questions will be asked again</source>
+        <translation>تُطرح كل الأسئلة من جديد</translation>
     </message>
 </context>
 <context>
@@ -451,7 +451,7 @@
         <translation>عام</translation>
     </message>
     <message>
-        <source>Choose how the application looks and speaks.</source>
+        <source>Choose the language and the look.</source>
         <translation>اختر لغة التطبيق ومظهره.</translation>
     </message>
 </context>

@@ -372,24 +372,24 @@
         <translation>&amp;Protokoll öffnen</translation>
     </message>
     <message>
-        <source>Some questions are no longer asked, because you chose so.</source>
-        <translation>Manche Fragen werden auf Ihren Wunsch nicht mehr gestellt.</translation>
-    </message>
-    <message>
-        <source>Every question is asked, such as before a task is deleted.</source>
-        <translation>Jede Frage wird gestellt, zum Beispiel bevor eine Aufgabe gelöscht wird.</translation>
-    </message>
-    <message>
         <source>There is no log of this run.</source>
         <translation>Es gibt kein Protokoll dieses Laufs.</translation>
     </message>
     <message>
-        <source>All questions are asked again</source>
-        <translation>Alle Fragen werden wieder gestellt</translation>
-    </message>
-    <message>
         <source>This cannot be opened: %1</source>
         <translation>Das lässt sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>You have chosen not to be asked some questions.</source>
+        <translation>Manche Fragen werden auf Ihren Wunsch nicht mehr gestellt.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, for example before a task is deleted.</source>
+        <translation>Jede Frage wird gestellt, zum Beispiel bevor eine Aufgabe gelöscht wird.</translation>
+    </message>
+    <message>
+        <source>All questions will be asked again</source>
+        <translation>Alle Fragen werden wieder gestellt</translation>
     </message>
 </context>
 <context>
@@ -451,7 +451,7 @@
         <translation>Allgemein</translation>
     </message>
     <message>
-        <source>Choose how the application looks and speaks.</source>
+        <source>Choose the language and the look.</source>
         <translation>Legen Sie Sprache und Aussehen der Anwendung fest.</translation>
     </message>
 </context>

@@ -372,24 +372,24 @@
         <translation>&amp;Open log</translation>
     </message>
     <message>
-        <source>Some questions are no longer asked, because you chose so.</source>
-        <translation>Some questions are no longer asked, because you chose so.</translation>
-    </message>
-    <message>
-        <source>Every question is asked, such as before a task is deleted.</source>
-        <translation>Every question is asked, such as before a task is deleted.</translation>
-    </message>
-    <message>
         <source>There is no log of this run.</source>
         <translation>There is no log of this run.</translation>
     </message>
     <message>
-        <source>All questions are asked again</source>
-        <translation>All questions are asked again</translation>
-    </message>
-    <message>
         <source>This cannot be opened: %1</source>
         <translation>This cannot be opened: %1</translation>
+    </message>
+    <message>
+        <source>You have chosen not to be asked some questions.</source>
+        <translation>You have chosen not to be asked some questions.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, for example before a task is deleted.</source>
+        <translation>Every question is asked, for example before a task is deleted.</translation>
+    </message>
+    <message>
+        <source>All questions will be asked again</source>
+        <translation>All questions will be asked again</translation>
     </message>
 </context>
 <context>
@@ -451,8 +451,8 @@
         <translation>General</translation>
     </message>
     <message>
-        <source>Choose how the application looks and speaks.</source>
-        <translation>Choose how the application looks and speaks.</translation>
+        <source>Choose the language and the look.</source>
+        <translation>Choose the language and the look.</translation>
     </message>
 </context>
 <context>

@@ -372,24 +372,24 @@
         <translation>Abrir el &amp;registro</translation>
     </message>
     <message>
-        <source>Some questions are no longer asked, because you chose so.</source>
-        <translation>Algunas preguntas ya no se hacen porque así lo eligió.</translation>
-    </message>
-    <message>
-        <source>Every question is asked, such as before a task is deleted.</source>
-        <translation>Se hacen todas las preguntas, por ejemplo antes de eliminar una tarea.</translation>
-    </message>
-    <message>
         <source>There is no log of this run.</source>
         <translation>No hay ningún registro de esta ejecución.</translation>
     </message>
     <message>
-        <source>All questions are asked again</source>
-        <translation>Se vuelven a hacer todas las preguntas</translation>
-    </message>
-    <message>
         <source>This cannot be opened: %1</source>
         <translation>No se puede abrir: %1</translation>
+    </message>
+    <message>
+        <source>You have chosen not to be asked some questions.</source>
+        <translation>Algunas preguntas ya no se hacen porque así lo eligió.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, for example before a task is deleted.</source>
+        <translation>Se hacen todas las preguntas, por ejemplo antes de eliminar una tarea.</translation>
+    </message>
+    <message>
+        <source>All questions will be asked again</source>
+        <translation>Se vuelven a hacer todas las preguntas</translation>
     </message>
 </context>
 <context>
@@ -451,7 +451,7 @@
         <translation>General</translation>
     </message>
     <message>
-        <source>Choose how the application looks and speaks.</source>
+        <source>Choose the language and the look.</source>
         <translation>Elija el idioma y el aspecto de la aplicación.</translation>
     </message>
 </context>

@@ -372,24 +372,24 @@
         <translation>Ouvrir le &amp;journal</translation>
     </message>
     <message>
-        <source>Some questions are no longer asked, because you chose so.</source>
-        <translation>Certaines questions ne sont plus posées, comme vous l’avez choisi.</translation>
-    </message>
-    <message>
-        <source>Every question is asked, such as before a task is deleted.</source>
-        <translation>Toutes les questions sont posées, par exemple avant de supprimer une tâche.</translation>
-    </message>
-    <message>
         <source>There is no log of this run.</source>
         <translation>Il n’y a pas de journal de cette exécution.</translation>
     </message>
     <message>
-        <source>All questions are asked again</source>
-        <translation>Toutes les questions sont à nouveau posées</translation>
-    </message>
-    <message>
         <source>This cannot be opened: %1</source>
         <translation>Impossible d’ouvrir : %1</translation>
+    </message>
+    <message>
+        <source>You have chosen not to be asked some questions.</source>
+        <translation>Certaines questions ne sont plus posées, comme vous l’avez choisi.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, for example before a task is deleted.</source>
+        <translation>Toutes les questions sont posées, par exemple avant de supprimer une tâche.</translation>
+    </message>
+    <message>
+        <source>All questions will be asked again</source>
+        <translation>Toutes les questions sont à nouveau posées</translation>
     </message>
 </context>
 <context>
@@ -451,7 +451,7 @@
         <translation>Général</translation>
     </message>
     <message>
-        <source>Choose how the application looks and speaks.</source>
+        <source>Choose the language and the look.</source>
         <translation>Choisissez la langue et l’apparence de l’application.</translation>
     </message>
 </context>

@@ -372,24 +372,24 @@
         <translation>פתיחת ה&amp;יומן</translation>
     </message>
     <message>
-        <source>Some questions are no longer asked, because you chose so.</source>
-        <translation>חלק מהשאלות אינן נשאלות עוד, לפי בחירתכם.</translation>
-    </message>
-    <message>
-        <source>Every question is asked, such as before a task is deleted.</source>
-        <translation>כל השאלות נשאלות, למשל לפני מחיקת משימה.</translation>
-    </message>
-    <message>
         <source>There is no log of this run.</source>
         <translation>אין יומן להרצה זו.</translation>
     </message>
     <message>
-        <source>All questions are asked again</source>
-        <translation>כל השאלות יישאלו שוב</translation>
-    </message>
-    <message>
         <source>This cannot be opened: %1</source>
         <translation>לא ניתן לפתוח: %1</translation>
+    </message>
+    <message>
+        <source>You have chosen not to be asked some questions.</source>
+        <translation>חלק מהשאלות אינן נשאלות עוד, לפי בחירתכם.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, for example before a task is deleted.</source>
+        <translation>כל השאלות נשאלות, למשל לפני מחיקת משימה.</translation>
+    </message>
+    <message>
+        <source>All questions will be asked again</source>
+        <translation>כל השאלות יישאלו שוב</translation>
     </message>
 </context>
 <context>
@@ -451,7 +451,7 @@
         <translation>כללי</translation>
     </message>
     <message>
-        <source>Choose how the application looks and speaks.</source>
+        <source>Choose the language and the look.</source>
         <translation>בחרו את שפת היישום ואת מראהו.</translation>
     </message>
 </context>

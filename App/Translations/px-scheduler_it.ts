@@ -372,24 +372,24 @@
         <translation>Apri il re&amp;gistro</translation>
     </message>
     <message>
-        <source>Some questions are no longer asked, because you chose so.</source>
-        <translation>Alcune domande non vengono più poste, come hai scelto.</translation>
-    </message>
-    <message>
-        <source>Every question is asked, such as before a task is deleted.</source>
-        <translation>Vengono poste tutte le domande, per esempio prima di eliminare un’attività.</translation>
-    </message>
-    <message>
         <source>There is no log of this run.</source>
         <translation>Non c’è alcun registro di questa esecuzione.</translation>
     </message>
     <message>
-        <source>All questions are asked again</source>
-        <translation>Tutte le domande vengono riproposte</translation>
-    </message>
-    <message>
         <source>This cannot be opened: %1</source>
         <translation>Impossibile aprire: %1</translation>
+    </message>
+    <message>
+        <source>You have chosen not to be asked some questions.</source>
+        <translation>Alcune domande non vengono più poste, come hai scelto.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, for example before a task is deleted.</source>
+        <translation>Vengono poste tutte le domande, per esempio prima di eliminare un’attività.</translation>
+    </message>
+    <message>
+        <source>All questions will be asked again</source>
+        <translation>Tutte le domande vengono riproposte</translation>
     </message>
 </context>
 <context>
@@ -451,7 +451,7 @@
         <translation>Generale</translation>
     </message>
     <message>
-        <source>Choose how the application looks and speaks.</source>
+        <source>Choose the language and the look.</source>
         <translation>Scegli la lingua e l’aspetto dell’applicazione.</translation>
     </message>
 </context>

@@ -372,24 +372,24 @@
         <translation>ログを開く(&amp;O)</translation>
     </message>
     <message>
-        <source>Some questions are no longer asked, because you chose so.</source>
-        <translation>選択により、一部の質問は表示されなくなっています。</translation>
-    </message>
-    <message>
-        <source>Every question is asked, such as before a task is deleted.</source>
-        <translation>タスクを削除する前など、すべての質問が表示されます。</translation>
-    </message>
-    <message>
         <source>There is no log of this run.</source>
         <translation>今回の実行のログはありません。</translation>
     </message>
     <message>
-        <source>All questions are asked again</source>
-        <translation>すべての質問が再び表示されます</translation>
-    </message>
-    <message>
         <source>This cannot be opened: %1</source>
         <translation>開けません：%1</translation>
+    </message>
+    <message>
+        <source>You have chosen not to be asked some questions.</source>
+        <translation>選択により、一部の質問は表示されなくなっています。</translation>
+    </message>
+    <message>
+        <source>Every question is asked, for example before a task is deleted.</source>
+        <translation>タスクを削除する前など、すべての質問が表示されます。</translation>
+    </message>
+    <message>
+        <source>All questions will be asked again</source>
+        <translation>すべての質問が再び表示されます</translation>
     </message>
 </context>
 <context>
@@ -451,7 +451,7 @@
         <translation>全般</translation>
     </message>
     <message>
-        <source>Choose how the application looks and speaks.</source>
+        <source>Choose the language and the look.</source>
         <translation>アプリケーションの言語と外観を選択します。</translation>
     </message>
 </context>

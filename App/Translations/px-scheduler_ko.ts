@@ -372,24 +372,24 @@
         <translation>로그 열기(&amp;O)</translation>
     </message>
     <message>
-        <source>Some questions are no longer asked, because you chose so.</source>
-        <translation>선택하신 대로 일부 질문은 더 이상 표시되지 않습니다.</translation>
-    </message>
-    <message>
-        <source>Every question is asked, such as before a task is deleted.</source>
-        <translation>작업을 삭제하기 전과 같은 모든 질문이 표시됩니다.</translation>
-    </message>
-    <message>
         <source>There is no log of this run.</source>
         <translation>이번 실행의 로그가 없습니다.</translation>
     </message>
     <message>
-        <source>All questions are asked again</source>
-        <translation>모든 질문이 다시 표시됩니다</translation>
-    </message>
-    <message>
         <source>This cannot be opened: %1</source>
         <translation>열 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>You have chosen not to be asked some questions.</source>
+        <translation>선택하신 대로 일부 질문은 더 이상 표시되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, for example before a task is deleted.</source>
+        <translation>작업을 삭제하기 전과 같은 모든 질문이 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>All questions will be asked again</source>
+        <translation>모든 질문이 다시 표시됩니다</translation>
     </message>
 </context>
 <context>
@@ -451,7 +451,7 @@
         <translation>일반</translation>
     </message>
     <message>
-        <source>Choose how the application looks and speaks.</source>
+        <source>Choose the language and the look.</source>
         <translation>응용 프로그램의 언어와 모양을 선택하세요.</translation>
     </message>
 </context>

@@ -372,24 +372,24 @@
         <translation>Otwórz &amp;dziennik</translation>
     </message>
     <message>
-        <source>Some questions are no longer asked, because you chose so.</source>
-        <translation>Niektóre pytania nie są już zadawane zgodnie z Twoim wyborem.</translation>
-    </message>
-    <message>
-        <source>Every question is asked, such as before a task is deleted.</source>
-        <translation>Zadawane są wszystkie pytania, na przykład przed usunięciem zadania.</translation>
-    </message>
-    <message>
         <source>There is no log of this run.</source>
         <translation>Brak dziennika tego uruchomienia.</translation>
     </message>
     <message>
-        <source>All questions are asked again</source>
-        <translation>Wszystkie pytania są znów zadawane</translation>
-    </message>
-    <message>
         <source>This cannot be opened: %1</source>
         <translation>Nie można otworzyć: %1</translation>
+    </message>
+    <message>
+        <source>You have chosen not to be asked some questions.</source>
+        <translation>Niektóre pytania nie są już zadawane zgodnie z Twoim wyborem.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, for example before a task is deleted.</source>
+        <translation>Zadawane są wszystkie pytania, na przykład przed usunięciem zadania.</translation>
+    </message>
+    <message>
+        <source>All questions will be asked again</source>
+        <translation>Wszystkie pytania są znów zadawane</translation>
     </message>
 </context>
 <context>
@@ -451,7 +451,7 @@
         <translation>Ogólne</translation>
     </message>
     <message>
-        <source>Choose how the application looks and speaks.</source>
+        <source>Choose the language and the look.</source>
         <translation>Wybierz język i wygląd aplikacji.</translation>
     </message>
 </context>

@@ -372,24 +372,24 @@
         <translation>Abrir o &amp;registro</translation>
     </message>
     <message>
-        <source>Some questions are no longer asked, because you chose so.</source>
-        <translation>Algumas perguntas não são mais feitas, como você escolheu.</translation>
-    </message>
-    <message>
-        <source>Every question is asked, such as before a task is deleted.</source>
-        <translation>Todas as perguntas são feitas, por exemplo antes de excluir uma tarefa.</translation>
-    </message>
-    <message>
         <source>There is no log of this run.</source>
         <translation>Não há registro desta execução.</translation>
     </message>
     <message>
-        <source>All questions are asked again</source>
-        <translation>Todas as perguntas voltam a ser feitas</translation>
-    </message>
-    <message>
         <source>This cannot be opened: %1</source>
         <translation>Não é possível abrir: %1</translation>
+    </message>
+    <message>
+        <source>You have chosen not to be asked some questions.</source>
+        <translation>Algumas perguntas não são mais feitas, como você escolheu.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, for example before a task is deleted.</source>
+        <translation>Todas as perguntas são feitas, por exemplo antes de excluir uma tarefa.</translation>
+    </message>
+    <message>
+        <source>All questions will be asked again</source>
+        <translation>Todas as perguntas voltam a ser feitas</translation>
     </message>
 </context>
 <context>
@@ -451,7 +451,7 @@
         <translation>Geral</translation>
     </message>
     <message>
-        <source>Choose how the application looks and speaks.</source>
+        <source>Choose the language and the look.</source>
         <translation>Escolha o idioma e a aparência do aplicativo.</translation>
     </message>
 </context>

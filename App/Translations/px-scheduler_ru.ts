@@ -372,24 +372,24 @@
         <translation>Открыть &amp;журнал</translation>
     </message>
     <message>
-        <source>Some questions are no longer asked, because you chose so.</source>
-        <translation>Некоторые вопросы больше не задаются: так вы выбрали.</translation>
-    </message>
-    <message>
-        <source>Every question is asked, such as before a task is deleted.</source>
-        <translation>Задаются все вопросы, например перед удалением задачи.</translation>
-    </message>
-    <message>
         <source>There is no log of this run.</source>
         <translation>Журнала этого запуска нет.</translation>
     </message>
     <message>
-        <source>All questions are asked again</source>
-        <translation>Все вопросы снова задаются</translation>
-    </message>
-    <message>
         <source>This cannot be opened: %1</source>
         <translation>Не удаётся открыть: %1</translation>
+    </message>
+    <message>
+        <source>You have chosen not to be asked some questions.</source>
+        <translation>Некоторые вопросы больше не задаются: так вы выбрали.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, for example before a task is deleted.</source>
+        <translation>Задаются все вопросы, например перед удалением задачи.</translation>
+    </message>
+    <message>
+        <source>All questions will be asked again</source>
+        <translation>Все вопросы снова задаются</translation>
     </message>
 </context>
 <context>
@@ -451,7 +451,7 @@
         <translation>Общие</translation>
     </message>
     <message>
-        <source>Choose how the application looks and speaks.</source>
+        <source>Choose the language and the look.</source>
         <translation>Выберите язык и вид приложения.</translation>
     </message>
 </context>

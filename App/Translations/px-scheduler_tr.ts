@@ -372,24 +372,24 @@
         <translation>&amp;Günlüğü aç</translation>
     </message>
     <message>
-        <source>Some questions are no longer asked, because you chose so.</source>
-        <translation>Seçiminiz gereği bazı sorular artık sorulmuyor.</translation>
-    </message>
-    <message>
-        <source>Every question is asked, such as before a task is deleted.</source>
-        <translation>Bir görev silinmeden önceki gibi tüm sorular sorulur.</translation>
-    </message>
-    <message>
         <source>There is no log of this run.</source>
         <translation>Bu çalıştırmanın günlüğü yok.</translation>
     </message>
     <message>
-        <source>All questions are asked again</source>
-        <translation>Tüm sorular yeniden soruluyor</translation>
-    </message>
-    <message>
         <source>This cannot be opened: %1</source>
         <translation>Bu açılamıyor: %1</translation>
+    </message>
+    <message>
+        <source>You have chosen not to be asked some questions.</source>
+        <translation>Seçiminiz gereği bazı sorular artık sorulmuyor.</translation>
+    </message>
+    <message>
+        <source>Every question is asked, for example before a task is deleted.</source>
+        <translation>Bir görev silinmeden önceki gibi tüm sorular sorulur.</translation>
+    </message>
+    <message>
+        <source>All questions will be asked again</source>
+        <translation>Tüm sorular yeniden soruluyor</translation>
     </message>
 </context>
 <context>
@@ -451,7 +451,7 @@
         <translation>Genel</translation>
     </message>
     <message>
-        <source>Choose how the application looks and speaks.</source>
+        <source>Choose the language and the look.</source>
         <translation>Uygulamanın dilini ve görünümünü seçin.</translation>
     </message>
 </context>

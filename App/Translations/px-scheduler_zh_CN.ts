@@ -372,24 +372,24 @@
         <translation>打开日志(&amp;O)</translation>
     </message>
     <message>
-        <source>Some questions are no longer asked, because you chose so.</source>
-        <translation>按照您的选择，部分询问不再显示。</translation>
-    </message>
-    <message>
-        <source>Every question is asked, such as before a task is deleted.</source>
-        <translation>所有询问都会显示，例如在删除任务之前。</translation>
-    </message>
-    <message>
         <source>There is no log of this run.</source>
         <translation>没有本次运行的日志。</translation>
     </message>
     <message>
-        <source>All questions are asked again</source>
-        <translation>所有询问将重新显示</translation>
-    </message>
-    <message>
         <source>This cannot be opened: %1</source>
         <translation>无法打开：%1</translation>
+    </message>
+    <message>
+        <source>You have chosen not to be asked some questions.</source>
+        <translation>按照您的选择，部分询问不再显示。</translation>
+    </message>
+    <message>
+        <source>Every question is asked, for example before a task is deleted.</source>
+        <translation>所有询问都会显示，例如在删除任务之前。</translation>
+    </message>
+    <message>
+        <source>All questions will be asked again</source>
+        <translation>所有询问将重新显示</translation>
     </message>
 </context>
 <context>
@@ -451,7 +451,7 @@
         <translation>常规</translation>
     </message>
     <message>
-        <source>Choose how the application looks and speaks.</source>
+        <source>Choose the language and the look.</source>
         <translation>选择应用程序的语言和外观。</translation>
     </message>
 </context>

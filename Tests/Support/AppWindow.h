@@ -40,6 +40,8 @@ public:
         const auto lookAndFeel = std::make_shared<App::LookAndFeelManager>();
         lookAndFeel->SetLanguage(QLocale().name().toStdString());
         window = std::make_unique<App::MainWindow>(store, lookAndFeel);
+        // Whatever room the screen of the test has.
+        window->resize(App::MainWindow::FirstSize());
     }
 
     /// Shows the window and waits until it has the keyboard.

@@ -124,9 +124,11 @@ TextRooms RoomsOf(const QComboBox& box)
     QStyleOptionComboBox option;
     option.initFrom(&box);
     option.frame = box.hasFrame();
+    // The style keeps a pixel free on each side and cuts off the rest.
     const QSize room =
         box.style()
             ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &box)
+            .adjusted(1, 0, -1, 0)
             .size();
     TextRooms rooms;
     for (int index = 0; index < box.count(); ++index) {

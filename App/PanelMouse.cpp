@@ -1,0 +1,52 @@
+#include "PanelMouse.h"
+
+#include <QDateTimeEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QStyleOptionComboBox>
+
+#include "RecordSchedulerWidget.h"
+
+namespace Zentor::App {
+
+PanelMouse::PanelMouse(PX::Scheduler::UI::RecordSchedulerWidget* panel)
+    : QObject(panel)
+    , m_date(panel->findChild<QDateTimeEdit*>(QStringLiteral("scheduledCaptureSettingsDate")))
+    , m_addButton(
+          panel->findChild<QPushButton*>(QStringLiteral("scheduledCaptureSettingsAddRecordButton")))
+{
+    m_date->installEventFilter(this);
+    m_addButton->installEventFilter(this);
+}
+
+PanelMouse::~PanelMouse() = default;
+
+bool PanelMouse::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isSecondPress = event->type() == QEvent::MouseButtonDblClick;
+    if (watched == m_addButton) {
+        return isSecondPress;
+    }
+    if (event->type() != QEvent::MouseButtonPress && !isSecondPress) {
+        return false;
+    }
+    // A field with a calendar takes its frame for the arrow that a field without one has there.
+    if (IsOnArrow(static_cast<QMouseEvent*>(event)->pos())) {
+        return false;
+    }
+    m_date->setFocus(Qt::MouseFocusReason);
+    return true;
+}
+
+bool PanelMouse::IsOnArrow(const QPoint& point) const
+{
+    QStyleOptionComboBox option;
+    option.initFrom(m_date);
+    option.editable = true;
+    option.frame = m_date->hasFrame();
+    option.subControls = QStyle::SC_All;
+    return m_date->style()->hitTestComplexControl(QStyle::CC_ComboBox, &option, point, m_date)
+        == QStyle::SC_ComboBoxArrow;
+}
+
+} // namespace Zentor::App
