@@ -219,13 +219,13 @@ void MainWindow::AssistPanel()
 {
     new PanelKeyboard(m_panel);
     new PanelMouse(m_panel);
-    const auto* announcer = new PanelAnnouncer(m_panel, m_store);
+    m_announcer = new PanelAnnouncer(m_panel, m_store);
     // The form is hidden once more at the end of the window, when only its widgets are left.
     QStatusBar* const bar = m_statusBar;
-    connect(announcer, &PanelAnnouncer::Happened, bar,
+    connect(m_announcer, &PanelAnnouncer::Happened, bar,
             [bar](const QString& text) { Announce(bar, text, messageMilliseconds); });
     // Longer on screen than the tip at the field, which goes after some seconds.
-    connect(announcer, &PanelAnnouncer::ProblemChanged, bar,
+    connect(m_announcer, &PanelAnnouncer::ProblemChanged, bar,
             [bar](const QString& problem) { Announce(bar, problem, 0); });
     m_panel->findChild<QWidget*>(QStringLiteral("recordTableScrollArea"))
         ->setAccessibleName(tr("Recording schedule"));
@@ -234,6 +234,8 @@ void MainWindow::AssistPanel()
 
 void MainWindow::RebuildPanel()
 {
+    // A panel adds its tasks one by one to the stored ones, which is nothing to speak of.
+    delete m_announcer;
     auto* page = qobject_cast<Page*>(m_pages->widget(0));
     m_panel = CreatePanel();
     page->ReplaceSettings(m_panel);

@@ -23,6 +23,7 @@ class FilesPage;
 class GeneralPage;
 class ILookAndFeelManager;
 class Page;
+class PanelAnnouncer;
 
 /// The window of the application: a list of settings pages, and the chosen page beside it.
 ///
@@ -89,6 +90,7 @@ private:
     PX::Scheduler::UI::RecordSchedulerWidget* m_panel = nullptr;
     FilesPage* m_filesPage = nullptr;
     GeneralPage* m_generalPage = nullptr;
+    PanelAnnouncer* m_announcer = nullptr;
     QStatusBar* m_statusBar = nullptr;
     QLabel* m_saveProblemLabel = nullptr;
     QPushButton* m_startButton = nullptr;

@@ -8,7 +8,11 @@ namespace Zentor::App {
 StatusLine::StatusLine(QWidget* parent)
     : QStatusBar(parent)
 {
-    connect(this, &QStatusBar::messageChanged, this, &StatusLine::UpdateToolTip);
+    connect(this, &QStatusBar::messageChanged, this, [this] {
+        UpdateToolTip();
+        // All of it: where people write from right to left, the base class leaves an edge as it is.
+        update();
+    });
 }
 
 QRect StatusLine::MessageRect() const

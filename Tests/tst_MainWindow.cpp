@@ -429,6 +429,7 @@ private Q_SLOTS:
         QCOMPARE(QDate::fromString(date(), QStringLiteral("yyyy-MM-dd")),
                  QDate::fromString(before, QStringLiteral("dd.MM.yyyy")));
         QVERIFY(date() != before);
+        QCOMPARE(StatusText(), QString());
         QCOMPARE(m_window->findChildren<QLabel*>(QStringLiteral("dateLabel")).size(), 1);
         QCOMPARE(m_window->findChildren<Panel*>().size(), 1);
         QCOMPARE(Titles(), QStringList{QStringLiteral("Task 0")});

@@ -1,7 +1,26 @@
+#include <QPaintEvent>
+
 #include "StatusLine.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {
+
+namespace {
+
+/// Notes what is painted anew.
+class PaintedLine final : public App::StatusLine {
+public:
+    QRegion painted;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        painted += event->region();
+        App::StatusLine::paintEvent(event);
+    }
+};
+
+} // namespace
 
 class tst_StatusLine : public WidgetTest {
     Q_OBJECT
@@ -22,6 +41,28 @@ private Q_SLOTS:
         QCOMPARE(line.toolTip(), QString());
         line.clearMessage();
         QCOMPARE(line.toolTip(), QString());
+    }
+
+    void clearsTheWholeMessage_data()
+    {
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("left to right") << Qt::LeftToRight;
+        QTest::newRow("right to left") << Qt::RightToLeft;
+    }
+
+    void clearsTheWholeMessage()
+    {
+        QFETCH(Qt::LayoutDirection, direction);
+        PaintedLine line;
+        line.setLayoutDirection(direction);
+        line.resize(200, 24);
+        line.show();
+        line.showMessage("Message");
+        QVERIFY(QTest::qWaitForWindowExposed(&line));
+        QTRY_VERIFY(!line.painted.isEmpty());
+        line.painted = {};
+        line.clearMessage();
+        QTRY_COMPARE(line.painted.boundingRect(), line.rect());
     }
 
     void paintsTheMessageShortened()
