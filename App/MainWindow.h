@@ -38,7 +38,7 @@ public:
     ~MainWindow() override;
 
     /// The size at first, where the screen has room for it.
-    static QSize FirstSize() { return {1040, 760}; }
+    static QSize FirstSize() { return {1040, 800}; }
 
     /// Shows the page called \a id; does nothing when there is none.
     void ShowPage(const QString& id);
