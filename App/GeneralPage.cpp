@@ -186,8 +186,8 @@ void GeneralPage::Retranslate()
     MakeRoom(*m_themeBox);
     m_askAgainButton->setText(tr("&Ask all questions again"));
     m_supportLabel->setText(
-        tr("When something goes wrong: the folder of your settings, and the log "
-           "of this run."));
+        tr("When something goes wrong, your settings and the log of this run help "
+           "to find out why."));
     m_openFolderButton->setText(tr("Open settings &folder"));
     m_openLogButton->setText(tr("&Open log"));
 }

@@ -360,10 +360,6 @@
         <translation>طرح كل الأسئلة من جديد (&amp;ط)</translation>
     </message>
     <message>
-        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
-        <translation>عند حدوث مشكلة: مجلد إعداداتك وسجل هذا التشغيل.</translation>
-    </message>
-    <message>
         <source>Open settings &amp;folder</source>
         <translation>فتح مجلد الإعدادات (&amp;ج)</translation>
     </message>
@@ -390,6 +386,10 @@
     <message>
         <source>All questions will be asked again</source>
         <translation>تُطرح كل الأسئلة من جديد</translation>
+    </message>
+    <message>
+        <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
+        <translation>عند حدوث مشكلة، تساعد إعداداتك وسجل هذا التشغيل على معرفة السبب.</translation>
     </message>
 </context>
 <context>

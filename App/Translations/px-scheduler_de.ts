@@ -360,10 +360,6 @@
         <translation>Alle &amp;Fragen wieder stellen</translation>
     </message>
     <message>
-        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
-        <translation>Wenn etwas nicht stimmt: der Ordner Ihrer Einstellungen und das Protokoll dieses Laufs.</translation>
-    </message>
-    <message>
         <source>Open settings &amp;folder</source>
         <translation>&amp;Ordner der Einstellungen öffnen</translation>
     </message>
@@ -390,6 +386,10 @@
     <message>
         <source>All questions will be asked again</source>
         <translation>Alle Fragen werden wieder gestellt</translation>
+    </message>
+    <message>
+        <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
+        <translation>Wenn etwas nicht stimmt, helfen Ihre Einstellungen und das Protokoll dieses Laufs, den Grund zu finden.</translation>
     </message>
 </context>
 <context>

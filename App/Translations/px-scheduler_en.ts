@@ -360,10 +360,6 @@
         <translation>&amp;Ask all questions again</translation>
     </message>
     <message>
-        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
-        <translation>When something goes wrong: the folder of your settings, and the log of this run.</translation>
-    </message>
-    <message>
         <source>Open settings &amp;folder</source>
         <translation>Open settings &amp;folder</translation>
     </message>
@@ -390,6 +386,10 @@
     <message>
         <source>All questions will be asked again</source>
         <translation>All questions will be asked again</translation>
+    </message>
+    <message>
+        <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
+        <translation>When something goes wrong, your settings and the log of this run help to find out why.</translation>
     </message>
 </context>
 <context>

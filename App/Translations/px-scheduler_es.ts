@@ -360,10 +360,6 @@
         <translation>&amp;Volver a preguntar todo</translation>
     </message>
     <message>
-        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
-        <translation>Si algo va mal: la carpeta de su configuración y el registro de esta ejecución.</translation>
-    </message>
-    <message>
         <source>Open settings &amp;folder</source>
         <translation>Abrir la &amp;carpeta de configuración</translation>
     </message>
@@ -390,6 +386,10 @@
     <message>
         <source>All questions will be asked again</source>
         <translation>Se vuelven a hacer todas las preguntas</translation>
+    </message>
+    <message>
+        <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
+        <translation>Si algo va mal, su configuración y el registro de esta ejecución ayudan a averiguar el motivo.</translation>
     </message>
 </context>
 <context>

@@ -360,10 +360,6 @@
         <translation>Poser à nouveau toutes les &amp;questions</translation>
     </message>
     <message>
-        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
-        <translation>En cas de problème : le dossier de vos paramètres et le journal de cette exécution.</translation>
-    </message>
-    <message>
         <source>Open settings &amp;folder</source>
         <translation>Ouvrir le &amp;dossier des paramètres</translation>
     </message>
@@ -390,6 +386,10 @@
     <message>
         <source>All questions will be asked again</source>
         <translation>Toutes les questions sont à nouveau posées</translation>
+    </message>
+    <message>
+        <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
+        <translation>En cas de problème, vos paramètres et le journal de cette exécution aident à trouver la cause.</translation>
     </message>
 </context>
 <context>

@@ -360,10 +360,6 @@
         <translation>לשאול שוב את &amp;כל השאלות</translation>
     </message>
     <message>
-        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
-        <translation>כשמשהו משתבש: תיקיית ההגדרות והיומן של הרצה זו.</translation>
-    </message>
-    <message>
         <source>Open settings &amp;folder</source>
         <translation>פתיחת תיקיית ה&amp;גדרות</translation>
     </message>
@@ -390,6 +386,10 @@
     <message>
         <source>All questions will be asked again</source>
         <translation>כל השאלות יישאלו שוב</translation>
+    </message>
+    <message>
+        <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
+        <translation>כשמשהו משתבש, ההגדרות והיומן של הרצה זו עוזרים למצוא את הסיבה.</translation>
     </message>
 </context>
 <context>

@@ -360,10 +360,6 @@
         <translation>&amp;Riproponi tutte le domande</translation>
     </message>
     <message>
-        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
-        <translation>Se qualcosa non va: la cartella delle impostazioni e il registro di questa esecuzione.</translation>
-    </message>
-    <message>
         <source>Open settings &amp;folder</source>
         <translation>Apri la &amp;cartella delle impostazioni</translation>
     </message>
@@ -390,6 +386,10 @@
     <message>
         <source>All questions will be asked again</source>
         <translation>Tutte le domande vengono riproposte</translation>
+    </message>
+    <message>
+        <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
+        <translation>Se qualcosa non va, le impostazioni e il registro di questa esecuzione aiutano a capire perché.</translation>
     </message>
 </context>
 <context>

@@ -360,10 +360,6 @@
         <translation>すべての質問を再表示(&amp;A)</translation>
     </message>
     <message>
-        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
-        <translation>問題が起きたとき：設定のフォルダーと、今回の実行のログ。</translation>
-    </message>
-    <message>
         <source>Open settings &amp;folder</source>
         <translation>設定フォルダーを開く(&amp;F)</translation>
     </message>
@@ -390,6 +386,10 @@
     <message>
         <source>All questions will be asked again</source>
         <translation>すべての質問が再び表示されます</translation>
+    </message>
+    <message>
+        <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
+        <translation>問題が起きたときは、設定と今回の実行のログが原因を調べる手がかりになります。</translation>
     </message>
 </context>
 <context>

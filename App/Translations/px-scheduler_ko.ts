@@ -360,10 +360,6 @@
         <translation>모든 질문 다시 표시(&amp;A)</translation>
     </message>
     <message>
-        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
-        <translation>문제가 생겼을 때: 설정 폴더와 이번 실행의 로그.</translation>
-    </message>
-    <message>
         <source>Open settings &amp;folder</source>
         <translation>설정 폴더 열기(&amp;F)</translation>
     </message>
@@ -390,6 +386,10 @@
     <message>
         <source>All questions will be asked again</source>
         <translation>모든 질문이 다시 표시됩니다</translation>
+    </message>
+    <message>
+        <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
+        <translation>문제가 생기면 설정과 이번 실행의 로그가 원인을 찾는 데 도움이 됩니다.</translation>
     </message>
 </context>
 <context>

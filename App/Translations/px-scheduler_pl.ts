@@ -360,10 +360,6 @@
         <translation>&amp;Zadawaj znów wszystkie pytania</translation>
     </message>
     <message>
-        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
-        <translation>Gdy coś pójdzie nie tak: folder ustawień i dziennik tego uruchomienia.</translation>
-    </message>
-    <message>
         <source>Open settings &amp;folder</source>
         <translation>Otwórz &amp;folder ustawień</translation>
     </message>
@@ -390,6 +386,10 @@
     <message>
         <source>All questions will be asked again</source>
         <translation>Wszystkie pytania są znów zadawane</translation>
+    </message>
+    <message>
+        <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
+        <translation>Gdy coś pójdzie nie tak, ustawienia i dziennik tego uruchomienia pomogą znaleźć przyczynę.</translation>
     </message>
 </context>
 <context>

@@ -360,10 +360,6 @@
         <translation>&amp;Voltar a perguntar tudo</translation>
     </message>
     <message>
-        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
-        <translation>Se algo der errado: a pasta das suas configurações e o registro desta execução.</translation>
-    </message>
-    <message>
         <source>Open settings &amp;folder</source>
         <translation>Abrir a &amp;pasta das configurações</translation>
     </message>
@@ -390,6 +386,10 @@
     <message>
         <source>All questions will be asked again</source>
         <translation>Todas as perguntas voltam a ser feitas</translation>
+    </message>
+    <message>
+        <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
+        <translation>Se algo der errado, suas configurações e o registro desta execução ajudam a descobrir o motivo.</translation>
     </message>
 </context>
 <context>

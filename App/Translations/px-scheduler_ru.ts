@@ -360,10 +360,6 @@
         <translation>&amp;Снова задавать все вопросы</translation>
     </message>
     <message>
-        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
-        <translation>Если что-то пошло не так: папка настроек и журнал этого запуска.</translation>
-    </message>
-    <message>
         <source>Open settings &amp;folder</source>
         <translation>Открыть &amp;папку настроек</translation>
     </message>
@@ -390,6 +386,10 @@
     <message>
         <source>All questions will be asked again</source>
         <translation>Все вопросы снова задаются</translation>
+    </message>
+    <message>
+        <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
+        <translation>Если что-то пошло не так, настройки и журнал этого запуска помогут найти причину.</translation>
     </message>
 </context>
 <context>

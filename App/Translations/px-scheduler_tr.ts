@@ -360,10 +360,6 @@
         <translation>Tüm soruları &amp;yeniden sor</translation>
     </message>
     <message>
-        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
-        <translation>Bir sorun olursa: ayarlarınızın klasörü ve bu çalıştırmanın günlüğü.</translation>
-    </message>
-    <message>
         <source>Open settings &amp;folder</source>
         <translation>Ayar &amp;klasörünü aç</translation>
     </message>
@@ -390,6 +386,10 @@
     <message>
         <source>All questions will be asked again</source>
         <translation>Tüm sorular yeniden soruluyor</translation>
+    </message>
+    <message>
+        <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
+        <translation>Bir sorun olursa ayarlarınız ve bu çalıştırmanın günlüğü nedenini bulmaya yardımcı olur.</translation>
     </message>
 </context>
 <context>

@@ -360,10 +360,6 @@
         <translation>重新显示所有询问(&amp;A)</translation>
     </message>
     <message>
-        <source>When something goes wrong: the folder of your settings, and the log of this run.</source>
-        <translation>出现问题时：设置所在的文件夹和本次运行的日志。</translation>
-    </message>
-    <message>
         <source>Open settings &amp;folder</source>
         <translation>打开设置文件夹(&amp;F)</translation>
     </message>
@@ -390,6 +386,10 @@
     <message>
         <source>All questions will be asked again</source>
         <translation>所有询问将重新显示</translation>
+    </message>
+    <message>
+        <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
+        <translation>出现问题时，您的设置和本次运行的日志有助于查明原因。</translation>
     </message>
 </context>
 <context>
