@@ -5,9 +5,11 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QChildEvent>
+#include <QDateTimeEdit>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
@@ -15,6 +17,7 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include "CalendarArrow.h"
 #include "RecordSchedulerWidget.h"
 
 namespace Zentor::App {
@@ -59,6 +62,7 @@ PanelKeyboard::PanelKeyboard(PX::Scheduler::UI::RecordSchedulerWidget* panel)
     , m_panel(panel)
     , m_stack(panel->findChild<QStackedWidget*>(QStringLiteral("scheduledCaptureStackedWidget")))
     , m_form(panel->findChild<QWidget*>(QStringLiteral("createRecordTaskWidget")))
+    , m_date(panel->findChild<QDateTimeEdit*>(QStringLiteral("scheduledCaptureSettingsDate")))
     , m_list(panel->findChild<QScrollArea*>(QStringLiteral("recordTableScrollArea")))
     , m_rows(panel->findChild<QWidget*>(QStringLiteral("recordTableFrame")))
     , m_addButton(
@@ -88,6 +92,7 @@ void PanelKeyboard::WatchRows()
 
 void PanelKeyboard::WatchForm()
 {
+    m_date->installEventFilter(this);
     const auto* insert = new QShortcut(QKeySequence(Qt::Key_Insert), m_panel);
     connect(insert, &QShortcut::activated, m_addButton, [this] {
         if (m_addButton->isVisible()) {
@@ -216,9 +221,12 @@ bool PanelKeyboard::eventFilter(QObject* watched, QEvent* event)
     }
     if (event->type() == QEvent::KeyPress && QApplication::activePopupWidget() == nullptr) {
         const auto& key = *static_cast<QKeyEvent*>(event);
-        // A button would take the arrow keys for itself.
-        return watched == m_panel ? HandleKey(key)
-                                  : MoveAmongRows(qobject_cast<QWidget*>(watched), key.key());
+        if (watched == m_panel) {
+            return HandleKey(key);
+        }
+        // Buttons and fields would take the arrow keys for themselves.
+        return watched == m_date ? OpenCalendar(key)
+                                 : MoveAmongRows(qobject_cast<QWidget*>(watched), key.key());
     }
     return QObject::eventFilter(watched, event);
 }
@@ -267,6 +275,20 @@ bool PanelKeyboard::PressEnter(bool isRepeated)
         button->click();
     }
     return true;
+}
+
+bool PanelKeyboard::OpenCalendar(const QKeyEvent& event)
+{
+    const bool isWanted = event.key() == Qt::Key_F4
+        || (event.key() == Qt::Key_Down && event.modifiers().testFlag(Qt::AltModifier));
+    if (isWanted) {
+        // The field opens its calendar for the mouse alone.
+        const QPoint arrow = CalendarArrowOf(*m_date).center();
+        QMouseEvent press(QEvent::MouseButtonPress, arrow, m_date->mapToGlobal(arrow),
+                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_date, &press);
+    }
+    return isWanted;
 }
 
 bool PanelKeyboard::MoveAmongRows(const QWidget* from, int key)

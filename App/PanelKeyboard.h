@@ -5,6 +5,7 @@
 #include <QPointer>
 
 class QAbstractButton;
+class QDateTimeEdit;
 class QKeyEvent;
 class QScrollArea;
 class QStackedWidget;
@@ -22,7 +23,8 @@ namespace Zentor::App {
 /// In the task form, Enter creates the task when it can be created, and Escape goes back, with the
 /// panel's question about the unsaved task. In the list of tasks, Up and Down move among the tasks,
 /// and Delete deletes the task that has the focus, after the panel's question. Insert opens the
-/// form while the list is on screen. On a button, Enter presses it.
+/// form while the list is on screen. On a button, Enter presses it. In the date field, F4 and
+/// Alt+Down open the calendar.
 ///
 /// The focus follows: into the name field when the form opens, to the button that adds a task when
 /// the form closes, to the next task when one is deleted, to the mode that stays in use when
@@ -50,6 +52,7 @@ private:
     void FocusAfterDeletion(QWidget* row);
     bool HandleKey(const QKeyEvent& event);
     bool PressEnter(bool isRepeated);
+    bool OpenCalendar(const QKeyEvent& event);
     bool MoveAmongRows(const QWidget* from, int key);
     QWidget* FocusWidget() const;
     bool IsFormShown() const;
@@ -57,6 +60,7 @@ private:
     PX::Scheduler::UI::RecordSchedulerWidget* m_panel;
     QStackedWidget* m_stack;
     QWidget* m_form;
+    QDateTimeEdit* m_date;
     QScrollArea* m_list;
     QWidget* m_rows;
     QAbstractButton* m_addButton;

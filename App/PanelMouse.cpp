@@ -3,8 +3,8 @@
 #include <QDateTimeEdit>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QStyleOptionComboBox>
 
+#include "CalendarArrow.h"
 #include "RecordSchedulerWidget.h"
 
 namespace Zentor::App {
@@ -31,22 +31,11 @@ bool PanelMouse::eventFilter(QObject* watched, QEvent* event)
         return false;
     }
     // A field with a calendar takes its frame for the arrow that a field without one has there.
-    if (IsOnArrow(static_cast<QMouseEvent*>(event)->pos())) {
+    if (CalendarArrowOf(*m_date).contains(static_cast<QMouseEvent*>(event)->pos())) {
         return false;
     }
     m_date->setFocus(Qt::MouseFocusReason);
     return true;
-}
-
-bool PanelMouse::IsOnArrow(const QPoint& point) const
-{
-    QStyleOptionComboBox option;
-    option.initFrom(m_date);
-    option.editable = true;
-    option.frame = m_date->hasFrame();
-    option.subControls = QStyle::SC_All;
-    return m_date->style()->hitTestComplexControl(QStyle::CC_ComboBox, &option, point, m_date)
-        == QStyle::SC_ComboBoxArrow;
 }
 
 } // namespace Zentor::App

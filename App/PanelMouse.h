@@ -27,8 +27,6 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    bool IsOnArrow(const QPoint& point) const;
-
     QDateTimeEdit* m_date;
     QAbstractButton* m_addButton;
 };

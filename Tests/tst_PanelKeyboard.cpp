@@ -407,6 +407,40 @@ private Q_SLOTS:
         QTRY_COMPARE(button->visibleRegion(), QRegion(button->rect()));
     }
 
+    void opensTheCalendar_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("modifiers");
+        QTest::addColumn<bool>("isOpen");
+        QTest::newRow("F4") << int(Qt::Key_F4) << int(Qt::NoModifier) << true;
+        QTest::newRow("Alt+Down") << int(Qt::Key_Down) << int(Qt::AltModifier) << true;
+        QTest::newRow("Down changes the date") << int(Qt::Key_Down) << int(Qt::NoModifier) << false;
+    }
+
+    void opensTheCalendar()
+    {
+        QFETCH(int, key);
+        QFETCH(int, modifiers);
+        QFETCH(bool, isOpen);
+        AllowWarning(QStringLiteral("grabbing"));
+        const AppWindow app(1);
+        QVERIFY(app.Show());
+        app.Press(Qt::Key_Insert);
+        auto* date = app.Find<QDateTimeEdit>("scheduledCaptureSettingsDate");
+        date->setDate(date->date().addYears(5));
+        const QDate before = date->date();
+        app.Focus("scheduledCaptureSettingsDate");
+        app.Press(Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+        QCOMPARE(QApplication::activePopupWidget() != nullptr, isOpen);
+        QCOMPARE(date->date() == before, isOpen);
+        if (isOpen) {
+            app.Press(Qt::Key_Escape);
+            QVERIFY(QApplication::activePopupWidget() == nullptr);
+            QVERIFY(date->hasFocus());
+            QVERIFY(app.IsFormOpen());
+        }
+    }
+
     void choosesModesByArrows()
     {
         const AppWindow app;
