@@ -38,23 +38,15 @@ Appearance::~Appearance() = default;
 
 void Appearance::TakeOverChanges()
 {
-    // Applied only where it has changed: each costs every widget a new polish or new texts.
-    const Look look = LookOf(m_store->Settings());
-    const bool isLanguageNew = look.language != m_stored.language;
-    const bool isThemeNew = look.theme != m_stored.theme;
-    m_stored = look;
-    const auto directionBefore = QGuiApplication::layoutDirection();
-    if (isLanguageNew) {
-        m_wanted.language = look.language;
+    const Look before = std::exchange(m_stored, LookOf(m_store->Settings()));
+    if (m_stored.language != before.language) {
+        m_wanted.language = m_stored.language;
         UseLanguage();
     }
-    if (isThemeNew) {
-        m_wanted.theme = look.theme;
+    if (m_stored.theme != before.theme) {
+        m_wanted.theme = m_stored.theme;
     }
-    // Some rules of the style sheet are for one direction of writing.
-    if (isThemeNew || QGuiApplication::layoutDirection() != directionBefore) {
-        UseTheme();
-    }
+    UseTheme();
 }
 
 void Appearance::UseLanguage()
@@ -66,7 +58,12 @@ void Appearance::UseLanguage()
 
 void Appearance::UseTheme()
 {
-    ApplyTheme(ThemeFromName(m_wanted.theme, m_desktop.Current()));
+    const std::pair wanted(ThemeFromName(m_wanted.theme, m_desktop.Current()),
+                           QGuiApplication::layoutDirection());
+    if (m_applied != wanted) {
+        m_applied = wanted;
+        ApplyTheme(wanted.first);
+    }
 }
 
 } // namespace Zentor::App

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <utility>
 
 #include <QObject>
 #include <QString>
@@ -47,6 +49,8 @@ public:
 private:
     void TakeOverChanges();
     void UseLanguage();
+    /// Sets the style sheet where theme or direction of writing have changed: some of its rules are
+    /// for one direction, and setting it costs every widget a new polish.
     void UseTheme();
 
     std::shared_ptr<PX::SettingsStore> m_store;
@@ -56,6 +60,8 @@ private:
     /// What the settings held last.
     Look m_stored;
     Look m_wanted;
+    /// What the style sheet was set for last.
+    std::optional<std::pair<Theme, Qt::LayoutDirection>> m_applied;
 };
 
 } // namespace Zentor::App

@@ -52,12 +52,35 @@ void DesktopTheme::Connect()
                     TakeOver(NumberIn(value));
                 }
             });
+    Ask();
+}
+
+void DesktopTheme::Ask()
+{
     m_portal->setTimeout(patienceMilliseconds);
     QDBusPendingReply<QDBusVariant> reply = m_portal->Read(Group(), Key());
     reply.waitForFinished();
     if (reply.isValid()) {
         TakeOver(NumberIn(reply.value()));
+    } else if (reply.error().type() == QDBusError::NoReply
+               || reply.error().type() == QDBusError::Timeout) {
+        // It is still starting, as after log-in.
+        AskPatiently();
     }
+}
+
+void DesktopTheme::AskPatiently()
+{
+    constexpr int usual = -1;
+    m_portal->setTimeout(usual);
+    auto* watcher = new QDBusPendingCallWatcher(m_portal->Read(Group(), Key()), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        const QDBusPendingReply<QDBusVariant> reply = *watcher;
+        if (reply.isValid()) {
+            TakeOver(NumberIn(reply.value()));
+        }
+        watcher->deleteLater();
+    });
 }
 
 void DesktopTheme::TakeOver(unsigned preference)

@@ -30,6 +30,9 @@ Q_SIGNALS:
 
 private:
     void Connect();
+    void Ask();
+    /// Waits for the answer without holding up anything.
+    void AskPatiently();
     /// Takes over what the portal says: 1 for dark, 2 for light, anything else for no preference.
     void TakeOver(unsigned preference);
 

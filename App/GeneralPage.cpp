@@ -1,5 +1,7 @@
 #include "GeneralPage.h"
 
+#include <algorithm>
+
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QDir>
@@ -201,7 +203,7 @@ void GeneralPage::ShowStored()
     const bool isSomeForgone = std::find(answers.begin(), answers.end(), true) != answers.end();
     m_askAgainButton->setEnabled(isSomeForgone);
     m_questionsLabel->setText(
-        isSomeForgone ? tr("You have chosen not to be asked some questions.")
+        isSomeForgone ? tr("Some questions are no longer asked.")
                       : tr("Every question is asked, for example before a task is deleted."));
 }
 
@@ -237,8 +239,7 @@ void GeneralPage::Open(const QString& path)
     // The desktop would be asked in vain, and not every desktop says so.
     const bool isOpened =
         QFileInfo::exists(path) && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
-    ShowProblem(isOpened ? QString()
-                         : tr("This cannot be opened: %1").arg(QDir::toNativeSeparators(path)));
+    ShowProblem(isOpened ? QString() : tr("Cannot open %1").arg(QDir::toNativeSeparators(path)));
 }
 
 void GeneralPage::ShowProblem(const QString& problem)

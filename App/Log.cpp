@@ -11,6 +11,15 @@ namespace {
 
 constexpr unsigned daysToKeep = 14;
 
+/// What takes Qt's messages besides the log.
+QtMessageHandler otherHandler = nullptr;
+
+void LogMessageOfQt(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    LOG(INFO) << "Qt: " << message.toStdString();
+    otherHandler(type, context, message);
+}
+
 } // namespace
 
 QString LogFolder()
@@ -38,6 +47,7 @@ void KeepLog()
     google::SetLogSymlink(google::GLOG_INFO, "");
     google::SetLogFilenameExtension(".log");
     google::EnableLogCleaner(daysToKeep);
+    otherHandler = qInstallMessageHandler(LogMessageOfQt);
 }
 
 QString LogFile()

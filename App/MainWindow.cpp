@@ -227,19 +227,42 @@ void MainWindow::AssistPanel()
     // Longer on screen than the tip at the field, which goes after some seconds.
     connect(m_announcer, &PanelAnnouncer::ProblemChanged, bar,
             [bar](const QString& problem) { Announce(bar, problem, 0); });
-    m_panel->findChild<QWidget*>(QStringLiteral("recordTableScrollArea"))
-        ->setAccessibleName(tr("Recording schedule"));
-    ColorCalendar();
 }
 
 void MainWindow::RebuildPanel()
 {
-    // A panel adds its tasks one by one to the stored ones, which is nothing to speak of.
+    // While a panel is restored it stores the schedule anew, task by task. That is no news.
     delete m_announcer;
     auto* page = qobject_cast<Page*>(m_pages->widget(0));
     m_panel = CreatePanel();
     page->ReplaceSettings(m_panel);
     AssistPanel();
+    RetranslatePanel();
+    OrderTabs();
+}
+
+void MainWindow::OrderTabs()
+{
+    QList<QWidget*> stops;
+    for (QWidget* widget = m_panel->nextInFocusChain(); m_panel->isAncestorOf(widget);
+         widget = widget->nextInFocusChain()) {
+        if (widget->focusPolicy() != Qt::NoFocus && widget->focusProxy() == nullptr) {
+            stops << widget;
+        }
+    }
+    QWidget* previous = m_pageList;
+    for (QWidget* stop : qAsConst(stops)) {
+        setTabOrder(previous, stop);
+        previous = stop;
+    }
+}
+
+void MainWindow::RetranslatePanel()
+{
+    m_panel->findChild<QWidget*>(QStringLiteral("recordTableScrollArea"))
+        ->setAccessibleName(tr("Recording schedule"));
+    // Which days are the weekend is a matter of the language, too.
+    ColorCalendar();
 }
 
 void MainWindow::ColorCalendar()
@@ -285,13 +308,20 @@ bool MainWindow::FinishTask()
 
 void MainWindow::FollowPageList()
 {
-    if (m_pageList->currentRow() == m_pages->currentIndex()) {
+    // While it is asked, the list may be moved on: the answer counts for where it stands then.
+    if (m_isAskingAboutTask || m_pageList->currentRow() == m_pages->currentIndex()) {
         return;
     }
     const QPointer<MainWindow> self(this);
-    if (FinishTask()) {
+    m_isAskingAboutTask = true;
+    const bool isFinished = FinishTask();
+    if (self.isNull()) {
+        return;
+    }
+    m_isAskingAboutTask = false;
+    if (isFinished) {
         m_pages->setCurrentIndex(m_pageList->currentRow());
-    } else if (!self.isNull()) {
+    } else {
         m_pageList->setCurrentRow(m_pages->currentIndex());
         m_panel->findChild<QWidget*>(QStringLiteral("scheduledCaptureSettingsNameLineEdit"))
             ->setFocus(Qt::OtherFocusReason);
@@ -302,6 +332,7 @@ void MainWindow::ShowPage(const QString& id)
 {
     for (int index = 0; index < m_pages->count(); ++index) {
         if (qobject_cast<Page*>(m_pages->widget(index))->Id() == id) {
+            m_pages->setCurrentIndex(index);
             m_pageList->setCurrentRow(index);
         }
     }
@@ -320,16 +351,19 @@ void MainWindow::RestorePlace()
 
 void MainWindow::FitScreen()
 {
+    if (screen() == nullptr) {
+        return;
+    }
     // The frame that the desktop will draw is not known yet; it is much like the style's own.
     const int frame = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, this);
     const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
     const QRect room = screen()->availableGeometry().adjusted(frame, title, -frame, -frame);
     resize(size().boundedTo(room.size()));
-    const QPoint place(qBound(room.left(), x(), room.right() + 1 - width()),
-                       qBound(room.top(), y(), room.bottom() + 1 - height()));
+    const QPoint place(qBound(room.left(), geometry().x(), room.right() + 1 - width()),
+                       qBound(room.top(), geometry().y(), room.bottom() + 1 - height()));
     // Only from a place that was remembered: where a new window comes is the desktop's choice.
-    if (testAttribute(Qt::WA_Moved) && place != pos()) {
-        move(place);
+    if (testAttribute(Qt::WA_Moved) && place != geometry().topLeft()) {
+        setGeometry({place, size()});
     }
 }
 
@@ -353,9 +387,13 @@ void MainWindow::Retranslate()
     m_statusBar->clearMessage();
     m_pageList->setAccessibleName(tr("Settings pages"));
     m_startButton->setText(tr("&Start recording"));
+    RetranslatePanel();
+    if (!m_saveProblemLabel->isHidden()) {
+        ShowSaveProblem(m_store->SaveProblem());
+    }
     RetranslatePage(0, tr("Schedule"), tr("Choose when a recording stops or starts by itself."));
     RetranslatePage(1, tr("Files"), tr("Choose where recordings are kept."));
-    RetranslatePage(2, tr("General"), tr("Choose the language and the look."));
+    RetranslatePage(2, tr("General"), tr("Choose language and theme."));
 }
 
 void MainWindow::RetranslatePage(int index, const QString& title, const QString& description)
@@ -391,8 +429,8 @@ void MainWindow::ForgetSaveProblem()
 bool MainWindow::IsClosingWithoutSavingAccepted()
 {
     Util::AlertBox box(Util::AlertBox::Warning, QString(),
-                       tr("Your changes could not be saved. They are lost when you close the "
-                          "window now."),
+                       tr("Your changes could not be saved. They will be lost if you close "
+                          "the window now."),
                        QMessageBox::Ok | QMessageBox::Cancel, this,
                        Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
     box.setObjectName(QStringLiteral("unsavedSettingsBox"));
@@ -405,7 +443,9 @@ void MainWindow::changeEvent(QEvent* event)
     // Both arrive for the first time while the window is still being built.
     if (m_startButton != nullptr && event->type() == QEvent::LanguageChange) {
         Retranslate();
-        if (!IsTaskUnfinished()) {
+        // A form is left as the user has it; it is closed before the page with the languages is
+        // shown.
+        if (!m_store->Settings().schedule.empty() && !IsTaskUnfinished()) {
             RebuildPanel();
         }
     }

@@ -40,7 +40,8 @@ public:
     /// The size at first, where the screen has room for it.
     static QSize FirstSize() { return {1040, 800}; }
 
-    /// Shows the page called \a id; does nothing when there is none.
+    /// Shows the page called \a id, without a question about an unfinished task; does nothing when
+    /// there is no such page.
     void ShowPage(const QString& id);
 
 protected:
@@ -61,8 +62,11 @@ private:
     /// Gives the panel what it has not by itself: the use by keyboard alone, a voice for what
     /// happens in it, the colours of the theme in its calendar.
     void AssistPanel();
+    /// Puts the controls of the panel behind the list of pages for the Tab key.
+    void OrderTabs();
     /// Has the tasks in the list written in the language in use: a panel writes each only once.
     void RebuildPanel();
+    void RetranslatePanel();
     void ColorCalendar();
     void RestorePlace();
     /// Makes the window no larger than its screen, and moves it there.
@@ -94,6 +98,7 @@ private:
     QStatusBar* m_statusBar = nullptr;
     QLabel* m_saveProblemLabel = nullptr;
     QPushButton* m_startButton = nullptr;
+    bool m_isAskingAboutTask = false;
 };
 
 } // namespace Zentor::App

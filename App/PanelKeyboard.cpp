@@ -279,7 +279,7 @@ bool PanelKeyboard::PressEnter(bool isRepeated)
 
 bool PanelKeyboard::OpenCalendar(const QKeyEvent& event)
 {
-    const bool isWanted = event.key() == Qt::Key_F4
+    const bool isWanted = (event.key() == Qt::Key_F4 && event.modifiers() == Qt::NoModifier)
         || (event.key() == Qt::Key_Down && event.modifiers().testFlag(Qt::AltModifier));
     if (isWanted) {
         // The field opens its calendar for the mouse alone.

@@ -13,7 +13,8 @@ find_package(Qt5 5.15 REQUIRED COMPONENTS DBus)
 set(fake_portal Support/FakePortal.cpp Support/FakePortal.h)
 foreach(name tst_Appearance tst_DesktopTheme)
     scheduler_add_test(${name} LIBRARIES px-scheduler-app Qt5::DBus SOURCES ${fake_portal}
-        LAUNCHER dbus-run-session --)
+        LAUNCHER dbus-run-session
+            "--config-file=${CMAKE_CURRENT_SOURCE_DIR}/Support/session.conf" --)
 endforeach()
 scheduler_add_test(tst_CommandLine LIBRARIES px-scheduler-app)
 scheduler_test_runs_program(tst_CommandLine)

@@ -165,10 +165,21 @@ private Q_SLOTS:
         portal.Prefer(2);
         QTRY_COMPARE(CurrentTheme(), Theme::Light);
         Choose({}, QStringLiteral("light"));
+        Witness witness(m_lookAndFeel);
+        witness.show();
+        QCoreApplication::sendPostedEvents();
+        witness.styleChanges = 0;
+        // Hears of the change after the application does.
+        const App::DesktopTheme other;
         portal.Prefer(1);
-        QTest::qWait(50);
+        QTRY_COMPARE(other.Current(), Theme::Dark);
         QCOMPARE(CurrentTheme(), Theme::Light);
+        QCOMPARE(witness.styleChanges, 0);
+        Choose({}, QStringLiteral("dark"));
+        QCOMPARE(witness.styleChanges, 1);
+        // The same theme for another reason.
         Choose({}, {});
+        QCOMPARE(witness.styleChanges, 1);
         QCOMPARE(CurrentTheme(), Theme::Dark);
     }
 

@@ -51,6 +51,10 @@ private Q_SLOTS:
         LOG(INFO) << "third";
         QCOMPARE(App::LogFile(), path);
         QVERIFY(file.readAll().contains("third"));
+        AllowWarning(QStringLiteral("fourth"));
+        qWarning("fourth");
+        QCOMPARE(App::LogFile(), path);
+        QVERIFY(file.readAll().contains("fourth"));
     }
 
     void isNoneOnceItIsDeleted()

@@ -396,10 +396,25 @@ private Q_SLOTS:
         QVERIFY(!label->isVisible());
     }
 
+    void movesOnlyAsFarAsItsFrameNeeds()
+    {
+        OpenStore();
+        ShowWindow();
+        m_window->setGeometry(0, 0, 600, 450);
+        Close();
+        Reopen();
+        const auto metric = [this](QStyle::PixelMetric which) {
+            return m_window->style()->pixelMetric(which, nullptr, m_window.get());
+        };
+        QCOMPARE(m_window->geometry(),
+                 QRect(metric(QStyle::PM_MdiSubWindowFrameWidth), metric(QStyle::PM_TitleBarHeight),
+                       600, 450));
+    }
+
     void fitsTheScreen_data()
     {
         QTest::addColumn<QRect>("left");
-        // The screen of the test: 800 x 800.
+        // The screen of the test is small: 800 pixels wide.
         QTest::newRow("new") << QRect();
         QTest::newRow("left on a larger screen") << QRect(200, 100, 1600, 1200);
         QTest::newRow("left beyond the edge") << QRect(700, 700, 500, 400);
@@ -442,6 +457,85 @@ private Q_SLOTS:
         QCOMPARE(m_window->focusWidget()->objectName(), NameEdit()->objectName());
         language.Toggle();
         QVERIFY(NameEdit()->isVisible());
+    }
+
+    void keepsTheOrderOfTabsInANewLanguage()
+    {
+        Open(Tasks(2));
+        const QStringList before = StopsOfTab();
+        QVERIFY(before.size() > 6);
+        LanguageSwitch language;
+        language.Toggle();
+        QCOMPARE(StopsOfTab(), before);
+    }
+
+    void keepsTheModeInANewLanguage_data()
+    {
+        QTest::addColumn<QString>("mode");
+        QTest::newRow("nothing") << QStringLiteral("disableScheduledCaptureRadioButton");
+        QTest::newRow("limited") << QStringLiteral("limitedCaptureDurationRadioButton");
+        QTest::newRow("empty schedule") << QStringLiteral("scheduledCaptureRadioButton");
+    }
+
+    void keepsTheModeInANewLanguage()
+    {
+        QFETCH(QString, mode);
+        Open();
+        Click(qPrintable(mode));
+        LanguageSwitch language;
+        language.Toggle();
+        QVERIFY(Button(qPrintable(mode))->isChecked());
+    }
+
+    void tellsWhyNothingIsSavedInANewLanguage()
+    {
+        Open();
+        QVERIFY(m_store->Flush());
+        QVERIFY(QFile::remove(SettingsFile()));
+        QVERIFY(QDir(m_folder->path()).mkpath(SettingsFile() + QStringLiteral("/in the way")));
+        m_store->Change([](auto& settings) { settings.page = QStringLiteral("files"); });
+        QVERIFY(!m_store->Flush());
+        const auto* label = Find<QLabel>("saveProblemLabel");
+        QVERIFY(label->text().startsWith(QLatin1String("Your changes")));
+        LanguageSwitch language;
+        language.Toggle();
+        QVERIFY(label->text().startsWith(QLatin1String("~Your changes")));
+        QVERIFY(label->text().contains(QLatin1String("~The settings cannot be saved")));
+        language.Toggle();
+        QVERIFY(QDir(SettingsFile()).removeRecursively());
+        QVERIFY(m_store->Flush());
+    }
+
+    void goesWhereTheListStandsAfterTheAnswer()
+    {
+        BeginTask(QStringLiteral("Unfinished"));
+        const ExpectedBox box([this](QMessageBox& question) {
+            PageList()->setCurrentRow(2);
+            // What the list has queued comes before the answer.
+            QTimer::singleShot(0, &question,
+                               [&question] { question.button(QMessageBox::No)->click(); });
+        });
+        PageList()->setCurrentRow(1);
+        QTRY_VERIFY(box.Came());
+        QTRY_VERIFY(!NameEdit()->isVisible());
+        QCOMPARE(PageList()->currentRow(), 2);
+        QVERIFY(Find<QWidget>("languageBox")->isVisible());
+    }
+
+    void asksAboutAnUnfinishedTaskOnlyOnce()
+    {
+        BeginTask(QStringLiteral("Unfinished"));
+        KeepRecordingsIn(FullFolder());
+        std::unique_ptr<ExpectedBox> fullDisk;
+        const ExpectedBox unsaved([&](QMessageBox& question) {
+            fullDisk = std::make_unique<ExpectedBox>(QMessageBox::Ok);
+            question.button(QMessageBox::No)->click();
+        });
+        Click("startRecordingButton");
+        QVERIFY(unsaved.Came());
+        QVERIFY(fullDisk->Came());
+        QVERIFY(Find<QLineEdit>("resultsFolderEdit")->isVisible());
+        QCOMPARE(PageList()->currentRow(), 1);
     }
 
     void asksAboutAnUnfinishedTaskBeforeAnotherPage_data() { AddAnswers(); }
@@ -730,6 +824,20 @@ private:
     }
 
     QLineEdit* NameEdit() const { return Find<QLineEdit>("scheduledCaptureSettingsNameLineEdit"); }
+
+    /// Where the Tab key stops, one after another, from the list of pages on.
+    QStringList StopsOfTab() const
+    {
+        QStringList stops;
+        const QWidget* widget = PageList();
+        do {
+            if (IsStopOfTab(*widget)) {
+                stops << widget->objectName();
+            }
+            widget = widget->nextInFocusChain();
+        } while (widget != PageList());
+        return stops;
+    }
 
     /// The keys of the buttons that are on screen.
     QList<QKeySequence> KeysOfButtons() const

@@ -372,11 +372,11 @@
         <translation>لا يوجد سجل لهذا التشغيل.</translation>
     </message>
     <message>
-        <source>This cannot be opened: %1</source>
+        <source>Cannot open %1</source>
         <translation>تعذّر الفتح: %1</translation>
     </message>
     <message>
-        <source>You have chosen not to be asked some questions.</source>
+        <source>Some questions are no longer asked.</source>
         <translation>لم تعد بعض الأسئلة تُطرح بناءً على اختيارك.</translation>
     </message>
     <message>
@@ -427,7 +427,7 @@
         <translation>يجري حفظ تغييراتك مجددًا.</translation>
     </message>
     <message>
-        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <source>Your changes could not be saved. They will be lost if you close the window now.</source>
         <translation>تعذّر حفظ تغييراتك. ستُفقد إذا أغلقت النافذة الآن.</translation>
     </message>
     <message>
@@ -451,7 +451,7 @@
         <translation>عام</translation>
     </message>
     <message>
-        <source>Choose the language and the look.</source>
+        <source>Choose language and theme.</source>
         <translation>اختر لغة التطبيق ومظهره.</translation>
     </message>
 </context>

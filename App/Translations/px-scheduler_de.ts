@@ -372,11 +372,11 @@
         <translation>Es gibt kein Protokoll dieses Laufs.</translation>
     </message>
     <message>
-        <source>This cannot be opened: %1</source>
+        <source>Cannot open %1</source>
         <translation>Das lässt sich nicht öffnen: %1</translation>
     </message>
     <message>
-        <source>You have chosen not to be asked some questions.</source>
+        <source>Some questions are no longer asked.</source>
         <translation>Manche Fragen werden auf Ihren Wunsch nicht mehr gestellt.</translation>
     </message>
     <message>
@@ -427,7 +427,7 @@
         <translation>Ihre Änderungen werden wieder gespeichert.</translation>
     </message>
     <message>
-        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <source>Your changes could not be saved. They will be lost if you close the window now.</source>
         <translation>Ihre Änderungen konnten nicht gespeichert werden. Sie gehen verloren, wenn Sie das Fenster jetzt schließen.</translation>
     </message>
     <message>
@@ -451,7 +451,7 @@
         <translation>Allgemein</translation>
     </message>
     <message>
-        <source>Choose the language and the look.</source>
+        <source>Choose language and theme.</source>
         <translation>Legen Sie Sprache und Aussehen der Anwendung fest.</translation>
     </message>
 </context>

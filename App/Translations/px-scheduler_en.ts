@@ -372,12 +372,12 @@
         <translation>There is no log of this run.</translation>
     </message>
     <message>
-        <source>This cannot be opened: %1</source>
-        <translation>This cannot be opened: %1</translation>
+        <source>Cannot open %1</source>
+        <translation>Cannot open %1</translation>
     </message>
     <message>
-        <source>You have chosen not to be asked some questions.</source>
-        <translation>You have chosen not to be asked some questions.</translation>
+        <source>Some questions are no longer asked.</source>
+        <translation>Some questions are no longer asked.</translation>
     </message>
     <message>
         <source>Every question is asked, for example before a task is deleted.</source>
@@ -427,7 +427,7 @@
         <translation>Your changes are saved again.</translation>
     </message>
     <message>
-        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <source>Your changes could not be saved. They will be lost if you close the window now.</source>
         <translation>Your changes could not be saved. They will be lost if you close the window now.</translation>
     </message>
     <message>
@@ -451,8 +451,8 @@
         <translation>General</translation>
     </message>
     <message>
-        <source>Choose the language and the look.</source>
-        <translation>Choose the language and the look.</translation>
+        <source>Choose language and theme.</source>
+        <translation>Choose language and theme.</translation>
     </message>
 </context>
 <context>

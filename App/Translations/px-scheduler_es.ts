@@ -372,11 +372,11 @@
         <translation>No hay ningún registro de esta ejecución.</translation>
     </message>
     <message>
-        <source>This cannot be opened: %1</source>
+        <source>Cannot open %1</source>
         <translation>No se puede abrir: %1</translation>
     </message>
     <message>
-        <source>You have chosen not to be asked some questions.</source>
+        <source>Some questions are no longer asked.</source>
         <translation>Algunas preguntas ya no se hacen porque así lo eligió.</translation>
     </message>
     <message>
@@ -427,7 +427,7 @@
         <translation>Los cambios vuelven a guardarse.</translation>
     </message>
     <message>
-        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <source>Your changes could not be saved. They will be lost if you close the window now.</source>
         <translation>No se pudieron guardar los cambios. Se perderán si cierra la ventana ahora.</translation>
     </message>
     <message>
@@ -451,7 +451,7 @@
         <translation>General</translation>
     </message>
     <message>
-        <source>Choose the language and the look.</source>
+        <source>Choose language and theme.</source>
         <translation>Elija el idioma y el aspecto de la aplicación.</translation>
     </message>
 </context>

@@ -372,11 +372,11 @@
         <translation>Il n’y a pas de journal de cette exécution.</translation>
     </message>
     <message>
-        <source>This cannot be opened: %1</source>
+        <source>Cannot open %1</source>
         <translation>Impossible d’ouvrir : %1</translation>
     </message>
     <message>
-        <source>You have chosen not to be asked some questions.</source>
+        <source>Some questions are no longer asked.</source>
         <translation>Certaines questions ne sont plus posées, comme vous l’avez choisi.</translation>
     </message>
     <message>
@@ -427,7 +427,7 @@
         <translation>Vos modifications sont de nouveau enregistrées.</translation>
     </message>
     <message>
-        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <source>Your changes could not be saved. They will be lost if you close the window now.</source>
         <translation>Vos modifications n’ont pas pu être enregistrées. Elles seront perdues si vous fermez la fenêtre maintenant.</translation>
     </message>
     <message>
@@ -451,7 +451,7 @@
         <translation>Général</translation>
     </message>
     <message>
-        <source>Choose the language and the look.</source>
+        <source>Choose language and theme.</source>
         <translation>Choisissez la langue et l’apparence de l’application.</translation>
     </message>
 </context>

@@ -372,11 +372,11 @@
         <translation>אין יומן להרצה זו.</translation>
     </message>
     <message>
-        <source>This cannot be opened: %1</source>
+        <source>Cannot open %1</source>
         <translation>לא ניתן לפתוח: %1</translation>
     </message>
     <message>
-        <source>You have chosen not to be asked some questions.</source>
+        <source>Some questions are no longer asked.</source>
         <translation>חלק מהשאלות אינן נשאלות עוד, לפי בחירתכם.</translation>
     </message>
     <message>
@@ -427,7 +427,7 @@
         <translation>השינויים נשמרים שוב.</translation>
     </message>
     <message>
-        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <source>Your changes could not be saved. They will be lost if you close the window now.</source>
         <translation>לא ניתן לשמור את השינויים. הם יאבדו אם החלון ייסגר עכשיו.</translation>
     </message>
     <message>
@@ -451,7 +451,7 @@
         <translation>כללי</translation>
     </message>
     <message>
-        <source>Choose the language and the look.</source>
+        <source>Choose language and theme.</source>
         <translation>בחרו את שפת היישום ואת מראהו.</translation>
     </message>
 </context>

@@ -372,11 +372,11 @@
         <translation>Non c’è alcun registro di questa esecuzione.</translation>
     </message>
     <message>
-        <source>This cannot be opened: %1</source>
+        <source>Cannot open %1</source>
         <translation>Impossibile aprire: %1</translation>
     </message>
     <message>
-        <source>You have chosen not to be asked some questions.</source>
+        <source>Some questions are no longer asked.</source>
         <translation>Alcune domande non vengono più poste, come hai scelto.</translation>
     </message>
     <message>
@@ -427,7 +427,7 @@
         <translation>Le modifiche vengono di nuovo salvate.</translation>
     </message>
     <message>
-        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <source>Your changes could not be saved. They will be lost if you close the window now.</source>
         <translation>Impossibile salvare le modifiche. Andranno perse se chiudi la finestra ora.</translation>
     </message>
     <message>
@@ -451,7 +451,7 @@
         <translation>Generale</translation>
     </message>
     <message>
-        <source>Choose the language and the look.</source>
+        <source>Choose language and theme.</source>
         <translation>Scegli la lingua e l’aspetto dell’applicazione.</translation>
     </message>
 </context>

@@ -372,11 +372,11 @@
         <translation>今回の実行のログはありません。</translation>
     </message>
     <message>
-        <source>This cannot be opened: %1</source>
+        <source>Cannot open %1</source>
         <translation>開けません：%1</translation>
     </message>
     <message>
-        <source>You have chosen not to be asked some questions.</source>
+        <source>Some questions are no longer asked.</source>
         <translation>選択により、一部の質問は表示されなくなっています。</translation>
     </message>
     <message>
@@ -427,7 +427,7 @@
         <translation>変更は再び保存されるようになりました。</translation>
     </message>
     <message>
-        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <source>Your changes could not be saved. They will be lost if you close the window now.</source>
         <translation>変更を保存できませんでした。今ウィンドウを閉じると、変更は失われます。</translation>
     </message>
     <message>
@@ -451,7 +451,7 @@
         <translation>全般</translation>
     </message>
     <message>
-        <source>Choose the language and the look.</source>
+        <source>Choose language and theme.</source>
         <translation>アプリケーションの言語と外観を選択します。</translation>
     </message>
 </context>

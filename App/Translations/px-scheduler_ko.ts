@@ -372,11 +372,11 @@
         <translation>이번 실행의 로그가 없습니다.</translation>
     </message>
     <message>
-        <source>This cannot be opened: %1</source>
+        <source>Cannot open %1</source>
         <translation>열 수 없습니다: %1</translation>
     </message>
     <message>
-        <source>You have chosen not to be asked some questions.</source>
+        <source>Some questions are no longer asked.</source>
         <translation>선택하신 대로 일부 질문은 더 이상 표시되지 않습니다.</translation>
     </message>
     <message>
@@ -427,7 +427,7 @@
         <translation>변경 내용이 다시 저장됩니다.</translation>
     </message>
     <message>
-        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <source>Your changes could not be saved. They will be lost if you close the window now.</source>
         <translation>변경 내용을 저장하지 못했습니다. 지금 창을 닫으면 변경 내용이 손실됩니다.</translation>
     </message>
     <message>
@@ -451,7 +451,7 @@
         <translation>일반</translation>
     </message>
     <message>
-        <source>Choose the language and the look.</source>
+        <source>Choose language and theme.</source>
         <translation>응용 프로그램의 언어와 모양을 선택하세요.</translation>
     </message>
 </context>

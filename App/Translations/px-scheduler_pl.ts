@@ -372,11 +372,11 @@
         <translation>Brak dziennika tego uruchomienia.</translation>
     </message>
     <message>
-        <source>This cannot be opened: %1</source>
+        <source>Cannot open %1</source>
         <translation>Nie można otworzyć: %1</translation>
     </message>
     <message>
-        <source>You have chosen not to be asked some questions.</source>
+        <source>Some questions are no longer asked.</source>
         <translation>Niektóre pytania nie są już zadawane zgodnie z Twoim wyborem.</translation>
     </message>
     <message>
@@ -427,7 +427,7 @@
         <translation>Zmiany są znów zapisywane.</translation>
     </message>
     <message>
-        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <source>Your changes could not be saved. They will be lost if you close the window now.</source>
         <translation>Nie udało się zapisać zmian. Zostaną utracone, jeśli teraz zamkniesz okno.</translation>
     </message>
     <message>
@@ -451,7 +451,7 @@
         <translation>Ogólne</translation>
     </message>
     <message>
-        <source>Choose the language and the look.</source>
+        <source>Choose language and theme.</source>
         <translation>Wybierz język i wygląd aplikacji.</translation>
     </message>
 </context>

@@ -372,11 +372,11 @@
         <translation>Não há registro desta execução.</translation>
     </message>
     <message>
-        <source>This cannot be opened: %1</source>
+        <source>Cannot open %1</source>
         <translation>Não é possível abrir: %1</translation>
     </message>
     <message>
-        <source>You have chosen not to be asked some questions.</source>
+        <source>Some questions are no longer asked.</source>
         <translation>Algumas perguntas não são mais feitas, como você escolheu.</translation>
     </message>
     <message>
@@ -427,7 +427,7 @@
         <translation>As alterações voltaram a ser salvas.</translation>
     </message>
     <message>
-        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <source>Your changes could not be saved. They will be lost if you close the window now.</source>
         <translation>Não foi possível salvar as alterações. Elas serão perdidas se você fechar a janela agora.</translation>
     </message>
     <message>
@@ -451,7 +451,7 @@
         <translation>Geral</translation>
     </message>
     <message>
-        <source>Choose the language and the look.</source>
+        <source>Choose language and theme.</source>
         <translation>Escolha o idioma e a aparência do aplicativo.</translation>
     </message>
 </context>

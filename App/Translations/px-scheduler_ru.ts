@@ -372,11 +372,11 @@
         <translation>Журнала этого запуска нет.</translation>
     </message>
     <message>
-        <source>This cannot be opened: %1</source>
+        <source>Cannot open %1</source>
         <translation>Не удаётся открыть: %1</translation>
     </message>
     <message>
-        <source>You have chosen not to be asked some questions.</source>
+        <source>Some questions are no longer asked.</source>
         <translation>Некоторые вопросы больше не задаются: так вы выбрали.</translation>
     </message>
     <message>
@@ -427,7 +427,7 @@
         <translation>Изменения снова сохраняются.</translation>
     </message>
     <message>
-        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <source>Your changes could not be saved. They will be lost if you close the window now.</source>
         <translation>Не удалось сохранить изменения. Если закрыть окно сейчас, они будут потеряны.</translation>
     </message>
     <message>
@@ -451,7 +451,7 @@
         <translation>Общие</translation>
     </message>
     <message>
-        <source>Choose the language and the look.</source>
+        <source>Choose language and theme.</source>
         <translation>Выберите язык и вид приложения.</translation>
     </message>
 </context>

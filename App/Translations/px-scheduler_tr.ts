@@ -372,11 +372,11 @@
         <translation>Bu çalıştırmanın günlüğü yok.</translation>
     </message>
     <message>
-        <source>This cannot be opened: %1</source>
+        <source>Cannot open %1</source>
         <translation>Bu açılamıyor: %1</translation>
     </message>
     <message>
-        <source>You have chosen not to be asked some questions.</source>
+        <source>Some questions are no longer asked.</source>
         <translation>Seçiminiz gereği bazı sorular artık sorulmuyor.</translation>
     </message>
     <message>
@@ -427,7 +427,7 @@
         <translation>Değişiklikleriniz yeniden kaydediliyor.</translation>
     </message>
     <message>
-        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <source>Your changes could not be saved. They will be lost if you close the window now.</source>
         <translation>Değişiklikleriniz kaydedilemedi. Pencereyi şimdi kapatırsanız kaybolacaklar.</translation>
     </message>
     <message>
@@ -451,7 +451,7 @@
         <translation>Genel</translation>
     </message>
     <message>
-        <source>Choose the language and the look.</source>
+        <source>Choose language and theme.</source>
         <translation>Uygulamanın dilini ve görünümünü seçin.</translation>
     </message>
 </context>

@@ -372,11 +372,11 @@
         <translation>没有本次运行的日志。</translation>
     </message>
     <message>
-        <source>This cannot be opened: %1</source>
+        <source>Cannot open %1</source>
         <translation>无法打开：%1</translation>
     </message>
     <message>
-        <source>You have chosen not to be asked some questions.</source>
+        <source>Some questions are no longer asked.</source>
         <translation>按照您的选择，部分询问不再显示。</translation>
     </message>
     <message>
@@ -427,7 +427,7 @@
         <translation>更改已恢复保存。</translation>
     </message>
     <message>
-        <source>Your changes could not be saved. They are lost when you close the window now.</source>
+        <source>Your changes could not be saved. They will be lost if you close the window now.</source>
         <translation>无法保存更改。现在关闭窗口，更改将会丢失。</translation>
     </message>
     <message>
@@ -451,7 +451,7 @@
         <translation>常规</translation>
     </message>
     <message>
-        <source>Choose the language and the look.</source>
+        <source>Choose language and theme.</source>
         <translation>选择应用程序的语言和外观。</translation>
     </message>
 </context>

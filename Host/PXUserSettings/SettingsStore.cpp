@@ -183,6 +183,14 @@ void SettingsStore::Change(const std::function<void(UserSettings&)>& change)
     Q_EMIT Changed();
 }
 
+QString SettingsStore::SaveProblem() const
+{
+    return m_failure.isEmpty()
+        ? QString()
+        : Text(QT_TRANSLATE_NOOP("SettingsStore", "The settings cannot be saved in %1: %2"),
+               m_filePath, m_failure);
+}
+
 bool SettingsStore::Flush()
 {
     if (!m_isOpen || !m_isDirty) {
@@ -202,9 +210,7 @@ bool SettingsStore::Flush()
         m_failure = failure;
         LOG(ERROR) << "Zentor::PX::SettingsStore::Flush: error=" << failure.toStdString()
                    << "; file=" << m_filePath.toStdString();
-        Q_EMIT SaveFailed(
-            Text(QT_TRANSLATE_NOOP("SettingsStore", "The settings cannot be saved in %1: %2"),
-                 m_filePath, failure));
+        Q_EMIT SaveFailed(SaveProblem());
     }
     return false;
 }

@@ -50,6 +50,9 @@ public:
     /// loop.
     void Change(const std::function<void(UserSettings&)>& change);
 
+    /// Why the settings could not be saved last, in the language in use; empty when they could.
+    QString SaveProblem() const;
+
     /// Saves now what has not been saved yet. Whether everything is saved.
     bool Flush();
 
@@ -58,7 +61,7 @@ Q_SIGNALS:
     void Changed();
     /// The file was written.
     void Saved();
-    /// The settings cannot be saved for \a reason, which names the file. Not sent again when trying
+    /// The settings cannot be saved for \a reason, SaveProblem(), which names the file. Not sent again when trying
     /// once more fails for the same reason.
     void SaveFailed(const QString& reason);
 
