@@ -61,8 +61,8 @@ Q_SIGNALS:
     void Changed();
     /// The file was written.
     void Saved();
-    /// The settings cannot be saved for \a reason, SaveProblem(), which names the file. Not sent again when trying
-    /// once more fails for the same reason.
+    /// The settings cannot be saved for \a reason, SaveProblem(), which names the file. Not sent
+    /// again when trying once more fails for the same reason.
     void SaveFailed(const QString& reason);
 
 private:
