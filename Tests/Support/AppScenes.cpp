@@ -80,7 +80,7 @@ public:
     void TakeKeyboard() const
     {
         // The platform's news about the popup come before those about the window.
-        QCoreApplication::processEvents();
+        QTest::qWait(0);
         QVERIFY(m_app.Show());
         QTRY_COMPARE(QGuiApplication::focusWindow(), m_app.window->windowHandle());
     }
