@@ -1,7 +1,6 @@
 #include <QCalendarWidget>
 #include <QLabel>
 #include <QLocale>
-#include <QTemporaryDir>
 #include <QToolButton>
 
 #include "Appearance.h"
@@ -10,7 +9,7 @@
 #include "CpuTimer.h"
 #include "FakePortal.h"
 #include "MainWindow.h"
-#include "PXUserSettings/SettingsStore.h"
+#include "StoreIn.h"
 #include "Theme.h"
 #include "WidgetTest.h"
 
@@ -64,10 +63,7 @@ private Q_SLOTS:
     {
         WidgetTest::init();
         m_folder = std::make_unique<QTemporaryDir>();
-        m_store = std::make_shared<PX::SettingsStore>(
-            m_folder->filePath(QStringLiteral("settings.json")));
-        QString error;
-        QVERIFY2(m_store->Open(&error), qPrintable(error));
+        m_store = OpenStoreIn(*m_folder);
     }
 
     void cleanup()

@@ -3,10 +3,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include "FilesPage.h"
-#include "PXUserSettings/SettingsStore.h"
+#include "StoreIn.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {
@@ -19,9 +18,7 @@ private Q_SLOTS:
     {
         WidgetTest::init();
         m_folder = std::make_unique<QTemporaryDir>();
-        m_store = std::make_shared<PX::SettingsStore>(Path("settings.json"));
-        QString error;
-        QVERIFY2(m_store->Open(&error), qPrintable(error));
+        m_store = OpenStoreIn(*m_folder);
         m_store->Change([&](auto& settings) { settings.resultsFolderPath = m_folder->path(); });
         m_page = std::make_unique<App::FilesPage>(m_store, nullptr);
         m_page->show();
@@ -114,7 +111,6 @@ private Q_SLOTS:
     }
 
 private:
-    QString Path(const char* name) const { return m_folder->filePath(QLatin1String(name)); }
     QLineEdit* Edit() const { return m_page->findChild<QLineEdit*>(); }
     QLabel* Label(const char* name) const
     {

@@ -6,7 +6,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include <glog/logging.h>
 
@@ -14,7 +13,7 @@
 #include "Languages.h"
 #include "Log.h"
 #include "MarkingTranslator.h"
-#include "PXUserSettings/SettingsStore.h"
+#include "StoreIn.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {
@@ -52,10 +51,7 @@ private Q_SLOTS:
     {
         WidgetTest::init();
         m_folder = std::make_unique<QTemporaryDir>();
-        m_store = std::make_shared<PX::SettingsStore>(
-            m_folder->filePath(QStringLiteral("settings.json")));
-        QString error;
-        QVERIFY2(m_store->Open(&error), qPrintable(error));
+        m_store = OpenStoreIn(*m_folder);
     }
 
     void cleanup()

@@ -8,14 +8,13 @@
 #include <QLocale>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QTemporaryDir>
 #include <QtTest>
 #include <QWindow>
 
 #include "Application/LookAndFeelManager.h"
 #include "MainWindow.h"
-#include "PXUserSettings/SettingsStore.h"
 #include "Samples.h"
+#include "StoreIn.h"
 
 namespace Zentor::Tests {
 
@@ -24,10 +23,8 @@ namespace Zentor::Tests {
 class AppWindow {
 public:
     explicit AppWindow(int taskCount = 0)
-        : store(
-            std::make_shared<PX::SettingsStore>(folder.filePath(QStringLiteral("settings.json"))))
+        : store(OpenStoreIn(folder))
     {
-        store->Open(nullptr);
         store->Change([&](PX::UserSettings& settings) {
             for (int number = 1; number <= taskCount; ++number) {
                 settings.schedule.push_back(Record(QStringLiteral("Task %1").arg(number),
