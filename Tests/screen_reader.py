@@ -18,6 +18,7 @@ PATIENCE_SECONDS = 60
 # How long to wait for an answer on the bus, and for one of a program that has just started.
 BUS_MILLISECONDS = 2000
 START_MILLISECONDS = 15000
+HEAD_START_SECONDS = 5
 INSIDE = "PX_SCREEN_READER_SESSION"
 
 
@@ -151,6 +152,8 @@ def main():
     with tempfile.TemporaryDirectory() as folder:
         process = subprocess.Popen(
             [program, "--language", "en", "--settings", os.path.join(folder, "settings.json")])
+        # A list of programs that is looked at before the program is in it stays without it.
+        time.sleep(HEAD_START_SECONDS)
         try:
             run_scenario(Application(process.pid))
         finally:
