@@ -412,8 +412,7 @@ void MainWindow::UpdateIcons()
 
 void MainWindow::ShowSaveProblem(const QString& reason)
 {
-    m_saveProblemLabel->setText(tr("Your changes could not be saved: %1").arg(reason));
-    m_saveProblemLabel->setToolTip(m_saveProblemLabel->text().toHtmlEscaped());
+    m_saveProblemLabel->setOriginalText(tr("Your changes could not be saved: %1").arg(reason));
     m_saveProblemLabel->show();
 }
 

@@ -4,12 +4,14 @@
 
 #include <QMainWindow>
 
-class QLabel;
 class QListWidget;
 class QPushButton;
 class QStackedWidget;
 class QStatusBar;
 
+namespace Zentor {
+class ZLabel;
+}
 namespace Zentor::PX {
 class SettingsStore;
 namespace Scheduler::UI {
@@ -59,8 +61,8 @@ private:
     Page* CreateFilesPage();
     Page* CreateGeneralPage();
     void Connect();
-    /// Gives the panel what it has not by itself: the use by keyboard alone, a voice for what
-    /// happens in it, the colours of the theme in its calendar.
+    /// Gives the panel what it has not by itself: the use by keyboard alone, protection from
+    /// mistaken clicks, a voice for what happens in it.
     void AssistPanel();
     /// Puts the controls of the panel behind the list of pages for the Tab key.
     void OrderTabs();
@@ -96,7 +98,7 @@ private:
     GeneralPage* m_generalPage = nullptr;
     PanelAnnouncer* m_announcer = nullptr;
     QStatusBar* m_statusBar = nullptr;
-    QLabel* m_saveProblemLabel = nullptr;
+    ZLabel* m_saveProblemLabel = nullptr;
     QPushButton* m_startButton = nullptr;
     bool m_isAskingAboutTask = false;
 };
