@@ -3,6 +3,8 @@
 #   zentor_target_defaults(<target> [ALLOW_ASCII])  language level, warnings, visibility, sanitizers;
 #                                                   ALLOW_ASCII: QString from and to char texts
 #   zentor_target_moc(<target> <header>...)         runs moc on the headers, without AUTOMOC
+#   zentor_header_view(<target> <header>...)        an interface target with which these headers, and
+#                                                   nothing else of their folder, can be included
 
 function(zentor_target_defaults target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "ALLOW_ASCII" "" "")
@@ -36,4 +38,17 @@ endfunction()
 function(zentor_target_moc target)
     qt5_wrap_cpp(moc_sources ${ARGN})
     target_sources(${target} PRIVATE ${moc_sources})
+endfunction()
+
+# A layer that may use one header of another layer's folder links the view instead of the folder, so
+# that the compiler refuses the others.
+function(zentor_header_view target)
+    set(folder "${CMAKE_CURRENT_BINARY_DIR}/include/${target}")
+    foreach(header IN LISTS ARGN)
+        get_filename_component(name "${header}" NAME)
+        file(CONFIGURE OUTPUT "${folder}/${name}"
+            CONTENT "#include \"${CMAKE_CURRENT_SOURCE_DIR}/${header}\"\n" @ONLY)
+    endforeach()
+    add_library(${target} INTERFACE)
+    target_include_directories(${target} INTERFACE "${folder}")
 endfunction()

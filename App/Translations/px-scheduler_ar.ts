@@ -291,7 +291,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::FilesPage</name>
+    <name>Zentor::Desktop::FilesPage</name>
     <message>
         <source>&amp;Folder for recordings:</source>
         <translation>مجلد التسجيلات (&amp;ج):</translation>
@@ -330,7 +330,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::GeneralPage</name>
+    <name>Zentor::Desktop::GeneralPage</name>
     <message>
         <source>&amp;Language:</source>
         <translation>اللغة (&amp;غ):</translation>
@@ -393,7 +393,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::MainWindow</name>
+    <name>Zentor::Desktop::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
         <translation>مجدول التسجيل</translation>
@@ -456,7 +456,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::PanelAnnouncer</name>
+    <name>Zentor::Desktop::PanelAnnouncer</name>
     <message>
         <source>Task added: %1</source>
         <translation>أُضيفت المهمة: %1</translation>
@@ -471,7 +471,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::ScreenshotTour</name>
+    <name>Zentor::Desktop::ScreenshotTour</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>تعذّر إنشاء المجلد %1</translation>

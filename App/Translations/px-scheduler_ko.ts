@@ -291,7 +291,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::FilesPage</name>
+    <name>Zentor::Desktop::FilesPage</name>
     <message>
         <source>&amp;Folder for recordings:</source>
         <translation>녹화 폴더(&amp;F):</translation>
@@ -330,7 +330,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::GeneralPage</name>
+    <name>Zentor::Desktop::GeneralPage</name>
     <message>
         <source>&amp;Language:</source>
         <translation>언어(&amp;L):</translation>
@@ -393,7 +393,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::MainWindow</name>
+    <name>Zentor::Desktop::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
         <translation>녹화 스케줄러</translation>
@@ -456,7 +456,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::PanelAnnouncer</name>
+    <name>Zentor::Desktop::PanelAnnouncer</name>
     <message>
         <source>Task added: %1</source>
         <translation>작업이 추가됨: %1</translation>
@@ -471,7 +471,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::ScreenshotTour</name>
+    <name>Zentor::Desktop::ScreenshotTour</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>폴더 %1을(를) 만들 수 없습니다</translation>

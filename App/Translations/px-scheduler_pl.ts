@@ -291,7 +291,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::FilesPage</name>
+    <name>Zentor::Desktop::FilesPage</name>
     <message>
         <source>&amp;Folder for recordings:</source>
         <translation>&amp;Folder na nagrania:</translation>
@@ -330,7 +330,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::GeneralPage</name>
+    <name>Zentor::Desktop::GeneralPage</name>
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Język:</translation>
@@ -393,7 +393,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::MainWindow</name>
+    <name>Zentor::Desktop::MainWindow</name>
     <message>
         <source>Recording Scheduler</source>
         <translation>Harmonogram nagrywania</translation>
@@ -456,7 +456,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::PanelAnnouncer</name>
+    <name>Zentor::Desktop::PanelAnnouncer</name>
     <message>
         <source>Task added: %1</source>
         <translation>Dodano zadanie: %1</translation>
@@ -471,7 +471,7 @@
     </message>
 </context>
 <context>
-    <name>Zentor::App::ScreenshotTour</name>
+    <name>Zentor::Desktop::ScreenshotTour</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>nie można utworzyć folderu %1</translation>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "HostInterfaces.h"
 #include "PXUserSettings/SettingsStore.h"
 
 namespace Zentor::App {

@@ -1,4 +1,4 @@
-#include "HostInterfaces.h"
+#include "HostData.h"
 
 namespace Zentor {
 

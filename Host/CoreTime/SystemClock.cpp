@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "HostInterfaces.h"
+#include "HostData.h"
 
 namespace Zentor::Time {
 

@@ -3,7 +3,7 @@
 
 #include <QHash>
 
-#include "HostInterfaces.h"
+#include "HostData.h"
 
 namespace Zentor::PX {
 namespace {

@@ -7,7 +7,7 @@
 #include <QMap>
 #include <QString>
 
-#include "HostInterfaces.h"
+#include "HostData.h"
 
 namespace Zentor::PX {
 

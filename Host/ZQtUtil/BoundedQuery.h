@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "HostInterfaces.h"
+#include "HostData.h"
 
 namespace Zentor::Util {
 

@@ -36,9 +36,9 @@ public:
         });
         const auto lookAndFeel = std::make_shared<App::LookAndFeelManager>();
         lookAndFeel->SetLanguage(QLocale().name().toStdString());
-        window = std::make_unique<App::MainWindow>(store, lookAndFeel);
+        window = std::make_unique<Desktop::MainWindow>(store, lookAndFeel);
         // Whatever room the screen of the test has.
-        window->resize(App::MainWindow::FirstSize());
+        window->resize(Desktop::MainWindow::FirstSize());
     }
 
     /// Shows the window and waits until it has the keyboard.
@@ -101,7 +101,7 @@ public:
 
     const QTemporaryDir folder;
     std::shared_ptr<PX::SettingsStore> store;
-    std::unique_ptr<App::MainWindow> window;
+    std::unique_ptr<Desktop::MainWindow> window;
 };
 
 } // namespace Zentor::Tests

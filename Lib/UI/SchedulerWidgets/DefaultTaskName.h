@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "HostInterfaces.h"
+#include "HostData.h"
 
 namespace Zentor::PX::Scheduler::UI {
 

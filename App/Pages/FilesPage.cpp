@@ -1,0 +1,175 @@
+#include "FilesPage.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
+#include <QShowEvent>
+
+#include "HostInterfaces.h"
+#include "Page.h"
+#include "PXUserSettings/SettingsStore.h"
+
+namespace Zentor::Desktop {
+namespace {
+
+std::int64_t FreeSpace(const QString& folder)
+{
+    ioPath path;
+    path = folder.toStdString();
+    return Util::GetAvailableDiskSpace(path);
+}
+
+/// The path that \a text stands for, written the way Qt does.
+QString PathOf(const QString& text)
+{
+    const QString trimmed = text.trimmed();
+    return trimmed.isEmpty() ? QString() : QDir::cleanPath(QDir::fromNativeSeparators(trimmed));
+}
+
+} // namespace
+
+FilesPage::FilesPage(std::shared_ptr<PX::SettingsStore> store, QWidget* parent)
+    : QFrame(parent)
+    , m_store(std::move(store))
+{
+    setObjectName(QStringLiteral("filesCard"));
+    BuildWidgets();
+    Connect();
+    Retranslate();
+    ShowStored();
+}
+
+FilesPage::~FilesPage() = default;
+
+void FilesPage::BuildWidgets()
+{
+    m_folderLabel = CreateLabel(QStringLiteral("resultsFolderLabel"), this);
+    m_folderEdit = new QLineEdit(this);
+    m_folderEdit->setObjectName(QStringLiteral("resultsFolderEdit"));
+    m_folderLabel->setBuddy(m_folderEdit);
+    m_browseButton = new QPushButton(this);
+    m_browseButton->setObjectName(QStringLiteral("browseButton"));
+    // Lets Enter press it when it has the focus.
+    m_browseButton->setAutoDefault(true);
+    m_problemLabel = CreateLabel(QStringLiteral("folderProblemLabel"), this);
+    m_problemLabel->hide();
+    m_freeSpaceLabel = CreateLabel(QStringLiteral("freeSpaceLabel"), this);
+
+    constexpr int spacing = 8;
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(spacing);
+    grid->addWidget(m_folderLabel, 0, 0, 1, 2);
+    grid->addWidget(m_folderEdit, 1, 0);
+    grid->addWidget(m_browseButton, 1, 1);
+    grid->addWidget(m_problemLabel, 2, 0, 1, 2);
+    grid->addWidget(m_freeSpaceLabel, 3, 0, 1, 2);
+    grid->setColumnStretch(0, 1);
+}
+
+void FilesPage::Connect()
+{
+    connect(m_folderEdit, &QLineEdit::editingFinished, this, &FilesPage::Apply);
+    connect(m_browseButton, &QPushButton::clicked, this, &FilesPage::Browse);
+}
+
+void FilesPage::Retranslate()
+{
+    m_folderLabel->setText(tr("&Folder for recordings:"));
+    m_folderEdit->setAccessibleName(tr("Folder for recordings"));
+    m_browseButton->setText(tr("&Browse..."));
+    m_browseButton->setAccessibleName(tr("Browse for the folder for recordings"));
+}
+
+void FilesPage::Browse()
+{
+    const QString chosen = QFileDialog::getExistingDirectory(this, tr("Folder for recordings"),
+                                                             m_store->Settings().resultsFolderPath);
+    if (!chosen.isEmpty()) {
+        m_folderEdit->setText(QDir::toNativeSeparators(chosen));
+        Apply();
+    }
+}
+
+void FilesPage::Apply()
+{
+    const QString path = PathOf(m_folderEdit->text());
+    if (path == m_store->Settings().resultsFolderPath) {
+        ShowStored();
+        return;
+    }
+    const QFileInfo folder(path);
+    if (path.isEmpty() || folder.isRelative()) {
+        ShowProblem(tr("Enter the full path of a folder."));
+        return;
+    }
+    if (folder.exists() && !folder.isDir()) {
+        ShowProblem(tr("This is a file, not a folder."));
+        return;
+    }
+    if (folder.exists() && !folder.isWritable()) {
+        ShowProblem(tr("You are not allowed to write into this folder."));
+        return;
+    }
+    m_store->Change([&](PX::UserSettings& settings) { settings.resultsFolderPath = path; });
+    ShowStored();
+}
+
+void FilesPage::ShowStored()
+{
+    const QString shown = QDir::toNativeSeparators(m_store->Settings().resultsFolderPath);
+    // Setting the same text would move the cursor of whoever is typing.
+    if (m_folderEdit->text() != shown) {
+        m_folderEdit->setText(shown);
+    }
+    ShowProblem({});
+    ShowFreeSpace();
+}
+
+void FilesPage::ShowFreeSpace()
+{
+    const std::int64_t bytes = FreeSpace(m_store->Settings().resultsFolderPath);
+    m_freeSpaceLabel->setText(
+        bytes < 0 ? tr("The free space of this folder cannot be told.")
+                  : tr("Free space: %1")
+                        .arg(QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat)));
+}
+
+void FilesPage::ShowProblem(const QString& problem)
+{
+    const bool good = problem.isEmpty();
+    Util::ApplyWidgetStyle(m_folderEdit,
+                           good ? QStringLiteral("Normal") : QStringLiteral("Invalid"), "SubStyle");
+    m_folderEdit->setAccessibleDescription(problem);
+    m_problemLabel->setText(problem);
+    m_problemLabel->setVisible(!good);
+    m_freeSpaceLabel->setVisible(good);
+}
+
+void FilesPage::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        Retranslate();
+        ShowStored();
+    }
+    QFrame::changeEvent(event);
+}
+
+void FilesPage::showEvent(QShowEvent* event)
+{
+    // Free space changes while nobody looks. A window that is merely restored shows itself anew
+    // too, but what the user has typed so far is left alone then.
+    if (event->spontaneous()) {
+        ShowFreeSpace();
+    } else {
+        ShowStored();
+    }
+    QFrame::showEvent(event);
+}
+
+} // namespace Zentor::Desktop

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <memory>
+
+#include <QFrame>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace Zentor::PX {
+class SettingsStore;
+}
+
+namespace Zentor::Desktop {
+
+/// The settings of the page "Files": in which folder recordings are kept, and how much room is
+/// left there.
+class FilesPage : public QFrame {
+    Q_OBJECT
+
+public:
+    FilesPage(std::shared_ptr<PX::SettingsStore> store, QWidget* parent);
+    ~FilesPage() override;
+
+    /// Stores the folder that stands in the field. A path that cannot be a results folder is marked
+    /// and not stored.
+    void Apply();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void BuildWidgets();
+    void Connect();
+    void Retranslate();
+    void Browse();
+    /// Shows the stored folder and its free space.
+    void ShowStored();
+    void ShowFreeSpace();
+    /// Shows \a problem beside the marked field, or takes the mark away when it is empty.
+    void ShowProblem(const QString& problem);
+
+    std::shared_ptr<PX::SettingsStore> m_store;
+    QLabel* m_folderLabel = nullptr;
+    QLineEdit* m_folderEdit = nullptr;
+    QPushButton* m_browseButton = nullptr;
+    QLabel* m_problemLabel = nullptr;
+    QLabel* m_freeSpaceLabel = nullptr;
+};
+
+} // namespace Zentor::Desktop

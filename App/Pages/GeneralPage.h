@@ -1,0 +1,64 @@
+#pragma once
+
+#include <memory>
+
+#include <QWidget>
+
+class QComboBox;
+class QFrame;
+class QLabel;
+class QPushButton;
+
+namespace Zentor::PX {
+class SettingsStore;
+}
+
+namespace Zentor::Desktop {
+
+/// The settings of the page "General": language and theme, the questions that are no longer asked,
+/// and where settings and log are.
+///
+/// A choice is stored at once. Appearance takes it over from the settings.
+class GeneralPage : public QWidget {
+    Q_OBJECT
+
+public:
+    GeneralPage(std::shared_ptr<PX::SettingsStore> store, QWidget* parent);
+    ~GeneralPage() override;
+
+Q_SIGNALS:
+    /// Something has just been done that is hard to see; \a text says what.
+    void Happened(const QString& text);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QFrame* CreateLookCard();
+    QFrame* CreateQuestionsCard();
+    QFrame* CreateSupportCard();
+    void Connect();
+    void Retranslate();
+    void ShowStored();
+    void ShowLog();
+    void ForgetAnswers();
+    void OpenLog();
+    /// Shows \a path, a folder or a file, in the desktop's program for it.
+    void Open(const QString& path);
+    void ShowProblem(const QString& problem);
+
+    std::shared_ptr<PX::SettingsStore> m_store;
+    QLabel* m_languageLabel = nullptr;
+    QComboBox* m_languageBox = nullptr;
+    QLabel* m_themeLabel = nullptr;
+    QComboBox* m_themeBox = nullptr;
+    QLabel* m_questionsLabel = nullptr;
+    QPushButton* m_askAgainButton = nullptr;
+    QLabel* m_supportLabel = nullptr;
+    QPushButton* m_openFolderButton = nullptr;
+    QPushButton* m_openLogButton = nullptr;
+    QLabel* m_problemLabel = nullptr;
+};
+
+} // namespace Zentor::Desktop

@@ -1,0 +1,95 @@
+#include "PanelAnnouncer.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QAccessible>
+#include <QEvent>
+#include <QWidget>
+
+#include "PXUserSettings/SettingsStore.h"
+#include "RecordSchedulerWidget.h"
+
+namespace Zentor::Desktop {
+namespace {
+
+QStringList TitlesOf(const std::vector<PX::RecordTime>& tasks)
+{
+    QStringList titles;
+    for (const PX::RecordTime& task : tasks) {
+        titles << task.title;
+    }
+    return titles;
+}
+
+/// The entry that \a longer has and \a shorter, which is otherwise the same, has not.
+QString ExtraOf(const QStringList& longer, const QStringList& shorter)
+{
+    const auto extra =
+        std::mismatch(longer.begin(), longer.end(), shorter.begin(), shorter.end()).first;
+    return extra == longer.end() ? QString() : *extra;
+}
+
+} // namespace
+
+PanelAnnouncer::PanelAnnouncer(PX::Scheduler::UI::RecordSchedulerWidget* panel,
+                               std::shared_ptr<PX::SettingsStore> store)
+    : QObject(panel)
+    , m_store(std::move(store))
+    , m_name(panel->findChild<QWidget*>(QStringLiteral("scheduledCaptureSettingsNameLineEdit")))
+    , m_start(panel->findChild<QWidget*>(QStringLiteral("scheduledCaptureSettingsStartTime")))
+    , m_titles(TitlesOf(m_store->Settings().schedule))
+{
+    m_name->installEventFilter(this);
+    m_start->installEventFilter(this);
+    connect(m_store.get(), &PX::SettingsStore::Changed, this, &PanelAnnouncer::CompareSchedule);
+}
+
+PanelAnnouncer::~PanelAnnouncer() = default;
+
+void PanelAnnouncer::CompareSchedule()
+{
+    const QStringList before = std::exchange(m_titles, TitlesOf(m_store->Settings().schedule));
+    if (m_titles.size() == before.size() + 1) {
+        Q_EMIT Happened(tr("Task added: %1").arg(ExtraOf(m_titles, before)));
+    } else if (m_titles.isEmpty() && before.size() > 1) {
+        Q_EMIT Happened(tr("All tasks deleted"));
+    } else if (before.size() == m_titles.size() + 1) {
+        Q_EMIT Happened(tr("Task deleted: %1").arg(ExtraOf(before, m_titles)));
+    }
+}
+
+bool PanelAnnouncer::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto type = event->type();
+    if (type == QEvent::ToolTipChange || type == QEvent::Show || type == QEvent::Hide) {
+        UpdateProblem();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void PanelAnnouncer::UpdateProblem()
+{
+    const QString problem = ShownProblem();
+    if (problem == m_problem) {
+        return;
+    }
+    m_problem = problem;
+    for (QWidget* field : {m_name, m_start}) {
+        // A field without a description of its own is described by its tool tip.
+        QAccessibleEvent event(field, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&event);
+    }
+    Q_EMIT ProblemChanged(problem);
+}
+
+QString PanelAnnouncer::ShownProblem() const
+{
+    if (!m_name->isVisible()) {
+        return {};
+    }
+    const QString ofName = m_name->toolTip();
+    return ofName.isEmpty() ? m_start->toolTip() : ofName;
+}
+
+} // namespace Zentor::Desktop

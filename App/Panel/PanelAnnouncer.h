@@ -1,0 +1,53 @@
+#pragma once
+
+#include <memory>
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+class QWidget;
+
+namespace Zentor::PX {
+class SettingsStore;
+namespace Scheduler::UI {
+class RecordSchedulerWidget;
+}
+} // namespace Zentor::PX
+
+namespace Zentor::Desktop {
+
+/// Puts into words what changes in a scheduler panel, for a status line and for screen readers:
+/// what is wrong in the task form, and which tasks come and go.
+class PanelAnnouncer : public QObject {
+    Q_OBJECT
+
+public:
+    /// Belongs to \a panel, which stores its schedule in \a store.
+    PanelAnnouncer(PX::Scheduler::UI::RecordSchedulerWidget* panel,
+                   std::shared_ptr<PX::SettingsStore> store);
+    ~PanelAnnouncer() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    /// Something has just happened; \a text says what.
+    void Happened(const QString& text);
+    /// The task form cannot be used as it is, and \a problem says why; it is empty when nothing is
+    /// wrong any more or the form is no longer on screen. Not sent again for the same problem.
+    void ProblemChanged(const QString& problem);
+
+private:
+    void CompareSchedule();
+    void UpdateProblem();
+    QString ShownProblem() const;
+
+    std::shared_ptr<PX::SettingsStore> m_store;
+    /// The fields that a problem is shown at.
+    QWidget* m_name;
+    QWidget* m_start;
+    QString m_problem;
+    QStringList m_titles;
+};
+
+} // namespace Zentor::Desktop

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QObject>
+
+class QAbstractButton;
+class QDateTimeEdit;
+
+namespace Zentor::PX::Scheduler::UI {
+class RecordSchedulerWidget;
+}
+
+namespace Zentor::Desktop {
+
+/// Keeps clicks in a scheduler panel from doing what nobody means by them.
+///
+/// A click on the frame of the date field gives it the focus and does not change the date. The
+/// second click of a double click on "Create", which hits the button that adds a task and has come
+/// up below the mouse, does not open the form anew.
+class PanelMouse : public QObject {
+    Q_OBJECT
+
+public:
+    /// Belongs to \a panel.
+    explicit PanelMouse(PX::Scheduler::UI::RecordSchedulerWidget* panel);
+    ~PanelMouse() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QDateTimeEdit* m_date;
+    QAbstractButton* m_addButton;
+};
+
+} // namespace Zentor::Desktop

@@ -1,0 +1,159 @@
+#include "Application.h"
+
+#include <cstdio>
+#include <memory>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <glog/logging.h>
+
+#include "Appearance.h"
+#include "Application/LookAndFeelManager.h"
+#include "CommandLine.h"
+#include "Languages.h"
+#include "Log.h"
+#include "MainWindow.h"
+#include "PXUserSettings/SettingsStore.h"
+#include "Resources.h"
+#include "ScreenshotTour.h"
+#include "TourScript.h"
+
+namespace Zentor::Desktop {
+namespace {
+
+constexpr int failed = 1;
+constexpr int refused = 2;
+
+void PrintLine(FILE* stream, const QString& text)
+{
+    std::fprintf(stream, "%s\n", qUtf8Printable(text));
+}
+
+int Refuse(const QString& reason)
+{
+    PrintLine(stderr, QStringLiteral("px-scheduler: %1").arg(reason));
+    return refused;
+}
+
+CommandLine ReadCommandLine(int& argc, char** argv)
+{
+    // Without widgets, so that it needs no display.
+    const QCoreApplication application(argc, argv);
+    Translations translations;
+    translations.Use(LanguageFor({}));
+    return ParseCommandLine(QCoreApplication::arguments());
+}
+
+QString DefaultSettingsFile()
+{
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation))
+        .filePath(QStringLiteral("settings.json"));
+}
+
+int RunTour(MainWindow& window, const QString& folder)
+{
+    // Pictures of the same state are the same: of one size, whatever the screen, with no blinking
+    // cursor and no half-way animation.
+    window.resize(MainWindow::FirstSize());
+    QApplication::setCursorFlashTime(0);
+    QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
+    QString problem;
+    ScreenshotTour tour(window, folder);
+    WriteTourScript(tour);
+    QObject::connect(
+        &tour, &ScreenshotTour::Finished, &window,
+        [&](const QString& reason) {
+            problem = reason;
+            QCoreApplication::exit(reason.isEmpty() ? 0 : failed);
+        },
+        Qt::QueuedConnection);
+    tour.Start();
+    const int result = QApplication::exec();
+    if (!problem.isEmpty()) {
+        PrintLine(stderr, QStringLiteral("px-scheduler: %1").arg(problem));
+    }
+    return result;
+}
+
+/// Opens \a store. Returns the reason of a failure, or nothing.
+QString Open(PX::SettingsStore& store, const CommandLine& line)
+{
+    // Which language the user has chosen is not known yet.
+    Translations translations;
+    translations.Use(LanguageFor(line.language));
+    QString reason;
+    store.Open(&reason);
+    return reason;
+}
+
+/// Runs the window on the settings in \a file, whatever they are.
+int RunOn(const QString& file, const CommandLine& line)
+{
+    LOG(INFO) << "Zentor::Desktop::RunOn: version=" << PX_VERSION
+              << "; settings=" << file.toStdString();
+    const auto store = std::make_shared<PX::SettingsStore>(file);
+    const QString problem = Open(*store, line);
+    if (!problem.isEmpty()) {
+        return Refuse(problem);
+    }
+    const auto lookAndFeel = std::make_shared<App::LookAndFeelManager>();
+    const Appearance appearance(store, lookAndFeel, {line.language, line.theme});
+    MainWindow window(store, lookAndFeel);
+    if (!line.screenshotsFolder.isEmpty()) {
+        return RunTour(window, line.screenshotsFolder);
+    }
+    window.show();
+    return QApplication::exec();
+}
+
+/// Runs the tour on a copy: it deletes tasks, which it must not do to the user's own.
+int RunOnCopy(const CommandLine& line)
+{
+    const QString original =
+        line.settingsFile.isEmpty() ? QStringLiteral(":/samples/settings.json") : line.settingsFile;
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(QStringLiteral("settings.json"));
+    QFile source(original);
+    if (!source.copy(copy)) {
+        return Refuse(QStringLiteral("cannot copy the settings file %1: %2")
+                          .arg(original, source.errorString()));
+    }
+    QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
+    return RunOn(copy, line);
+}
+
+} // namespace
+
+int RunApplication(int argc, char** argv)
+{
+    RegisterResources();
+    QCoreApplication::setApplicationName(QStringLiteral("px-scheduler"));
+    const CommandLine line = ReadCommandLine(argc, argv);
+    if (line.task == CommandLine::Task::Refuse) {
+        PrintLine(stderr, line.message);
+        return refused;
+    }
+    if (line.task == CommandLine::Task::Print) {
+        PrintLine(stdout, line.message);
+        return 0;
+    }
+    google::InitGoogleLogging(argv[0]);
+    FLAGS_logtostderr = true;
+    KeepLog();
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QApplication application(argc, argv);
+    // Lets the desktop find name and icon of the window in the installed desktop entry.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.zentor.PxScheduler"));
+    if (!line.screenshotsFolder.isEmpty()) {
+        return RunOnCopy(line);
+    }
+    return RunOn(line.settingsFile.isEmpty() ? DefaultSettingsFile() : line.settingsFile, line);
+}
+
+} // namespace Zentor::Desktop

@@ -1,0 +1,10 @@
+#pragma once
+
+namespace Zentor::Desktop {
+
+/// Runs the application from its command line to its end and returns its exit code: 0 when all went
+/// well, 1 when the screenshot tour failed, 2 when the command line or the settings file cannot be
+/// used.
+int RunApplication(int argc, char** argv);
+
+} // namespace Zentor::Desktop

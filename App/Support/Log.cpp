@@ -1,0 +1,64 @@
+#include "Log.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+
+#include <glog/logging.h>
+
+namespace Zentor::Desktop {
+namespace {
+
+constexpr unsigned daysToKeep = 14;
+
+/// What takes Qt's messages besides the log.
+QtMessageHandler otherHandler = nullptr;
+
+void LogMessageOfQt(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    LOG(INFO) << "Qt: " << message.toStdString();
+    otherHandler(type, context, message);
+}
+
+} // namespace
+
+QString LogFolder()
+{
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation))
+        .filePath(QStringLiteral("log"));
+}
+
+void KeepLog()
+{
+    const QDir folder(LogFolder());
+    if (!folder.mkpath(QStringLiteral("."))) {
+        LOG(WARNING) << "Zentor::Desktop::KeepLog: error=cannot create; folder="
+                     << folder.path().toStdString();
+        return;
+    }
+    FLAGS_logtostderr = false;
+    google::SetStderrLogging(google::GLOG_WARNING);
+    // Of the files for each severity, the one for INFO has the lines of all.
+    for (const auto severity : {google::GLOG_WARNING, google::GLOG_ERROR, google::GLOG_FATAL}) {
+        google::SetLogDestination(severity, "");
+    }
+    const QString start = folder.filePath(QStringLiteral("px-scheduler."));
+    google::SetLogDestination(google::GLOG_INFO, QFile::encodeName(start).constData());
+    google::SetLogSymlink(google::GLOG_INFO, "");
+    google::SetLogFilenameExtension(".log");
+    google::EnableLogCleaner(daysToKeep);
+    otherHandler = qInstallMessageHandler(LogMessageOfQt);
+}
+
+QString LogFile()
+{
+    google::FlushLogFiles(google::GLOG_INFO);
+    const QDir folder(LogFolder());
+    // glog puts the time of the start and the process into the name.
+    const QString ofThisRun =
+        QStringLiteral("px-scheduler.*.%1.log").arg(QCoreApplication::applicationPid());
+    const QStringList files = folder.entryList({ofThisRun}, QDir::Files, QDir::Name);
+    return files.isEmpty() ? QString() : folder.filePath(files.constLast());
+}
+
+} // namespace Zentor::Desktop

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace Zentor::Desktop {
+
+/// The folder for log files, in the platform's folder for the application's data.
+QString LogFolder();
+
+/// Has everything that is logged from now on, by Qt also, written into a file of this run in
+/// LogFolder(), beside what goes to standard error. The folder is created when it is missing; files
+/// of earlier runs are deleted when they are two weeks old. Call it after
+/// google::InitGoogleLogging().
+void KeepLog();
+
+/// The log file of this run, complete up to now; empty when there is none, because KeepLog() was
+/// not called, nothing has been logged, or the file could not be written.
+QString LogFile();
+
+} // namespace Zentor::Desktop

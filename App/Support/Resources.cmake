@@ -1,0 +1,52 @@
+# What the program brings along: icons in the colours of each theme, texts in each language, style
+# sheet, sample. Sets resource_sources, to be compiled into one target.
+
+set(icons
+    arrow-down arrow-down-disabled arrow-left arrow-right arrow-up arrow-up-disabled
+    box-information box-question box-warning calendar check
+    delete delete-hover files general px-scheduler question question-hover radio-off radio-off-disabled
+    radio-off-hover radio-on radio-on-disabled radio-on-hover schedule)
+
+# Paints the icons in the colours of a theme: "@name@" in an icon becomes the colour of that name.
+function(paint_icons _theme)
+    set(_colors "Styles/${_theme}.colors")
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${_colors}")
+    file(STRINGS "${_colors}" _entries REGEX "^[A-Za-z]+: ")
+    foreach(_entry IN LISTS _entries)
+        string(REGEX MATCH "^([A-Za-z]+): (.+)$" _match "${_entry}")
+        set(${CMAKE_MATCH_1} "${CMAKE_MATCH_2}")
+    endforeach()
+    foreach(_icon IN LISTS icons)
+        configure_file("Icons/${_icon}.svg" "${CMAKE_CURRENT_BINARY_DIR}/Icons/${_theme}/${_icon}.svg"
+            @ONLY)
+        string(APPEND icon_entries "        <file>${_theme}/${_icon}.svg</file>\n")
+    endforeach()
+    set(icon_entries "${icon_entries}" PARENT_SCOPE)
+endfunction()
+
+paint_icons(light)
+paint_icons(dark)
+configure_file(Support/icons.qrc.in Icons/icons.qrc @ONLY)
+
+# Translators work on the .ts files with Qt Linguist.
+find_package(Qt5 5.15 REQUIRED COMPONENTS LinguistTools)
+set(languages en de fr es it pt_BR pl ru tr ja ko zh_CN ar he)
+list(TRANSFORM languages REPLACE "(.+)" "Translations/px-scheduler_\\1.ts"
+    OUTPUT_VARIABLE translation_sources)
+qt5_add_translation(translations ${translation_sources})
+foreach(_translation IN LISTS translations)
+    get_filename_component(_name "${_translation}" NAME)
+    string(APPEND translation_entries "        <file>${_name}</file>\n")
+endforeach()
+configure_file(Support/translations.qrc.in translations.qrc @ONLY)
+
+# Takes the texts of the sources over into the .ts files. Only on demand, as it changes the source
+# tree: cmake --build <folder> --target update-translations
+list(TRANSFORM translation_sources PREPEND App/)
+add_custom_target(update-translations
+    COMMAND Qt5::lupdate -no-obsolete -locations none App Host Lib -ts ${translation_sources}
+    WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
+    VERBATIM)
+
+qt5_add_resources(resource_sources Support/px-scheduler.qrc "${CMAKE_CURRENT_BINARY_DIR}/Icons/icons.qrc"
+    "${CMAKE_CURRENT_BINARY_DIR}/translations.qrc")

@@ -1,0 +1,20 @@
+#include "Resources.h"
+
+#include <QtGlobal>
+
+// Q_INIT_RESOURCE has to stand outside every namespace.
+static void InitializeResources()
+{
+    Q_INIT_RESOURCE(px_scheduler);
+    Q_INIT_RESOURCE(icons);
+    Q_INIT_RESOURCE(translations);
+}
+
+namespace Zentor::Desktop {
+
+void RegisterResources()
+{
+    InitializeResources();
+}
+
+} // namespace Zentor::Desktop

@@ -1,0 +1,253 @@
+#include "TourScript.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QWidget>
+
+#include "ScreenshotTour.h"
+
+namespace Zentor::Desktop {
+namespace {
+
+QString NothingButton()
+{
+    return QStringLiteral("disableScheduledCaptureRadioButton");
+}
+
+QString LimitedButton()
+{
+    return QStringLiteral("limitedCaptureDurationRadioButton");
+}
+
+QString ScheduleButton()
+{
+    return QStringLiteral("scheduledCaptureRadioButton");
+}
+
+bool IsShown(const QString& objectName)
+{
+    const auto widgets = QApplication::allWidgets();
+    return std::any_of(widgets.begin(), widgets.end(), [&](const QWidget* widget) {
+        return widget->isVisible() && widget->objectName() == objectName;
+    });
+}
+
+void WaitUntilShown(ScreenshotTour& tour, const QString& objectName)
+{
+    tour.WaitFor(objectName, [objectName] { return IsShown(objectName); });
+}
+
+void WaitForBox(ScreenshotTour& tour)
+{
+    tour.WaitFor(QStringLiteral("a message box"),
+                 [] { return QApplication::activeModalWidget() != nullptr; });
+}
+
+void WaitForNoBox(ScreenshotTour& tour)
+{
+    tour.WaitFor(QStringLiteral("no message box"),
+                 [] { return QApplication::activeModalWidget() == nullptr; });
+}
+
+void WaitForPopup(ScreenshotTour& tour)
+{
+    tour.WaitFor(QStringLiteral("an open list"),
+                 [] { return QApplication::activePopupWidget() != nullptr; });
+}
+
+void WaitForNoPopup(ScreenshotTour& tour)
+{
+    tour.WaitFor(QStringLiteral("no open list"),
+                 [] { return QApplication::activePopupWidget() == nullptr; });
+}
+
+void WaitUntilChecked(ScreenshotTour& tour, const QString& objectName)
+{
+    tour.WaitFor(QStringLiteral("%1 checked").arg(objectName), [objectName] {
+        const auto widgets = QApplication::allWidgets();
+        return std::any_of(widgets.begin(), widgets.end(), [&](QWidget* widget) {
+            const auto* button = qobject_cast<QAbstractButton*>(widget);
+            return button != nullptr && button->objectName() == objectName && button->isChecked();
+        });
+    });
+}
+
+void ShowTasks(ScreenshotTour& tour)
+{
+    tour.ClickEntry(QStringLiteral("pageList"), 0);
+    WaitUntilShown(tour, QStringLiteral("infoRecordFrame"));
+    tour.PointAway();
+    tour.Picture(QStringLiteral("01-schedule"));
+
+    tour.PointAt(QStringLiteral("titleLabel"));
+    tour.Picture(QStringLiteral("02-task-under-mouse"));
+
+    tour.Click(QStringLiteral("deleteToolButton"));
+    WaitForBox(tour);
+    tour.PointAway();
+    tour.Picture(QStringLiteral("03-delete-question"));
+    tour.ClickInBox(QMessageBox::Cancel);
+    WaitForNoBox(tour);
+}
+
+void LeaveSchedule(ScreenshotTour& tour)
+{
+    tour.Click(NothingButton());
+    WaitForBox(tour);
+    tour.PointAway();
+    tour.Picture(QStringLiteral("04-leave-schedule-question"));
+    tour.ClickInBox(QMessageBox::Ok);
+    WaitForNoBox(tour);
+    WaitUntilChecked(tour, NothingButton());
+    tour.PointAway();
+    tour.Picture(QStringLiteral("05-nothing-scheduled"));
+}
+
+void LimitCapture(ScreenshotTour& tour)
+{
+    const QString duration = QStringLiteral("limitedCaptureDurationSettingsCaptureDuration");
+    const QString action = QStringLiteral("limitedCaptureDurationSettingsActionOnFinishBox");
+
+    tour.Click(LimitedButton());
+    WaitUntilShown(tour, duration);
+    tour.PointAway();
+    tour.Picture(QStringLiteral("06-limited-capture"));
+
+    // From the mode button into the field, with its first section selected.
+    tour.Press(Qt::Key_Tab);
+    tour.Type(QStringLiteral("013000"));
+    tour.PointAway();
+    tour.Picture(QStringLiteral("07-limited-capture-duration"));
+
+    tour.Click(action);
+    WaitForPopup(tour);
+    tour.Press(Qt::Key_Down);
+    tour.Press(Qt::Key_Down);
+    tour.Picture(QStringLiteral("08-limited-capture-actions"));
+    tour.Press(Qt::Key_Return);
+    WaitForNoPopup(tour);
+}
+
+void ShowEmptySchedule(ScreenshotTour& tour)
+{
+    tour.Click(ScheduleButton());
+    WaitUntilShown(tour, QStringLiteral("stubInfoRecordFrame"));
+    tour.PointAway();
+    tour.Picture(QStringLiteral("09-empty-schedule"));
+}
+
+void ShowForm(ScreenshotTour& tour)
+{
+    const QString name = QStringLiteral("scheduledCaptureSettingsNameLineEdit");
+    tour.Click(QStringLiteral("scheduledCaptureSettingsAddRecordButton"));
+    WaitUntilShown(tour, name);
+    tour.PointAway();
+    tour.Picture(QStringLiteral("10-new-task"));
+
+    tour.Click(name);
+    tour.Press(Qt::Key_A, Qt::ControlModifier);
+    tour.Press(Qt::Key_Delete);
+    tour.PointAway();
+    tour.Picture(QStringLiteral("11-new-task-without-name"));
+}
+
+void ShowFiles(ScreenshotTour& tour)
+{
+    tour.ClickEntry(QStringLiteral("pageList"), 1);
+    WaitForBox(tour);
+    tour.ClickInBox(QMessageBox::No);
+    WaitForNoBox(tour);
+    WaitUntilShown(tour, QStringLiteral("resultsFolderEdit"));
+    tour.PointAway();
+    tour.Picture(QStringLiteral("12-files"));
+}
+
+void ShowGeneral(ScreenshotTour& tour)
+{
+    tour.ClickEntry(QStringLiteral("pageList"), 2);
+    WaitUntilShown(tour, QStringLiteral("languageBox"));
+    tour.PointAway();
+    tour.Picture(QStringLiteral("17-general"));
+
+    tour.Click(QStringLiteral("languageBox"));
+    WaitForPopup(tour);
+    tour.Picture(QStringLiteral("18-general-languages"));
+    tour.Press(Qt::Key_Escape);
+    WaitForNoPopup(tour);
+}
+
+QString NameField()
+{
+    return QStringLiteral("scheduledCaptureSettingsNameLineEdit");
+}
+
+void AddLongTask(ScreenshotTour& tour)
+{
+    tour.ClickEntry(QStringLiteral("pageList"), 0);
+    WaitUntilShown(tour, QStringLiteral("stubInfoRecordFrame"));
+    tour.Press(Qt::Key_Insert);
+    WaitUntilShown(tour, NameField());
+    tour.Type(QStringLiteral("Standup"));
+    // Past the sections of the date and of the start, onto the first one of the duration.
+    for (int section = 0; section < 7; ++section) {
+        tour.Press(Qt::Key_Tab);
+    }
+    tour.Type(QStringLiteral("010000"));
+    tour.Press(Qt::Key_Return);
+    WaitUntilShown(tour, QStringLiteral("infoRecordFrame"));
+}
+
+/// Refused twice: for its name, and then for its time.
+void ShowRefusedTask(ScreenshotTour& tour)
+{
+    tour.Press(Qt::Key_Insert);
+    WaitUntilShown(tour, NameField());
+    tour.Type(QStringLiteral("Standup"));
+    tour.PointAway();
+    tour.Picture(QStringLiteral("13-new-task-same-name"));
+    tour.Type(QStringLiteral(" 2"));
+    tour.PointAway();
+    tour.Picture(QStringLiteral("14-new-task-same-time"));
+
+    tour.Press(Qt::Key_Escape);
+    WaitForBox(tour);
+    tour.Picture(QStringLiteral("15-unsaved-task-question"));
+    tour.ClickInBox(QMessageBox::No);
+    WaitForNoBox(tour);
+}
+
+void ShowFullDisk(ScreenshotTour& tour)
+{
+    tour.ClickEntry(QStringLiteral("pageList"), 1);
+    WaitUntilShown(tour, QStringLiteral("resultsFolderEdit"));
+    tour.Click(QStringLiteral("resultsFolderEdit"));
+    tour.Press(Qt::Key_A, Qt::ControlModifier);
+    // A file system that has no room for files.
+    tour.Type(QStringLiteral("/proc/recordings"));
+    tour.ClickEntry(QStringLiteral("pageList"), 0);
+    WaitUntilShown(tour, QStringLiteral("infoRecordFrame"));
+    tour.Click(QStringLiteral("startRecordingButton"));
+    WaitForBox(tour);
+    tour.PointAway();
+    tour.Picture(QStringLiteral("16-full-disk"));
+    tour.ClickInBox(QMessageBox::Cancel);
+    WaitForNoBox(tour);
+}
+
+} // namespace
+
+void WriteTourScript(ScreenshotTour& tour)
+{
+    ShowTasks(tour);
+    LeaveSchedule(tour);
+    LimitCapture(tour);
+    ShowEmptySchedule(tour);
+    ShowForm(tour);
+    ShowFiles(tour);
+    AddLongTask(tour);
+    ShowRefusedTask(tour);
+    ShowFullDisk(tour);
+    ShowGeneral(tour);
+}
+
+} // namespace Zentor::Desktop

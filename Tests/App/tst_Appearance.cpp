@@ -1,0 +1,268 @@
+#include <QCalendarWidget>
+#include <QLabel>
+#include <QLocale>
+#include <QToolButton>
+
+#include "Appearance.h"
+#include "Application/LookAndFeelManager.h"
+#include "CpuTimer.h"
+#include "FakePortal.h"
+#include "MainWindow.h"
+#include "Resources.h"
+#include "StoreIn.h"
+#include "Theme.h"
+#include "WidgetTest.h"
+
+namespace Zentor::Tests {
+namespace {
+
+using Desktop::Look;
+using Desktop::Theme;
+
+Theme CurrentTheme()
+{
+    return Desktop::ThemeOf(QApplication::palette());
+}
+
+/// Counts what a widget on screen is told, and notes which language the host spoke then.
+class Witness final : public QLabel {
+public:
+    explicit Witness(std::shared_ptr<App::LookAndFeelManager> lookAndFeel)
+        : m_lookAndFeel(std::move(lookAndFeel))
+    {
+    }
+
+    int languageChanges = 0;
+    int styleChanges = 0;
+    std::string languageSeen;
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        languageChanges += event->type() == QEvent::LanguageChange ? 1 : 0;
+        styleChanges += event->type() == QEvent::StyleChange ? 1 : 0;
+        if (event->type() == QEvent::LanguageChange) {
+            languageSeen = m_lookAndFeel->GetLanguage();
+        }
+        QLabel::changeEvent(event);
+    }
+
+private:
+    std::shared_ptr<App::LookAndFeelManager> m_lookAndFeel;
+};
+
+} // namespace
+
+class tst_Appearance : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { Desktop::RegisterResources(); }
+
+    void init()
+    {
+        WidgetTest::init();
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_store = OpenStoreIn(*m_folder);
+    }
+
+    void cleanup()
+    {
+        m_appearance.reset();
+        QCoreApplication::sendPostedEvents();
+        m_store.reset();
+        m_folder.reset();
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        QLocale::setDefault(QLocale::c());
+        WidgetTest::cleanup();
+    }
+
+    void takesTheFirstThatIsGiven_data()
+    {
+        QTest::addColumn<QString>("wantedLanguage");
+        QTest::addColumn<QString>("storedLanguage");
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("wantedTheme");
+        QTest::addColumn<QString>("storedTheme");
+        QTest::addColumn<QString>("theme");
+        const auto row = [](const char* name, const char* wantedLanguage,
+                            const char* storedLanguage, const char* language,
+                            const char* wantedTheme, const char* storedTheme, const char* theme) {
+            QTest::newRow(name) << QString::fromLatin1(wantedLanguage)
+                                << QString::fromLatin1(storedLanguage)
+                                << QString::fromLatin1(language) << QString::fromLatin1(wantedTheme)
+                                << QString::fromLatin1(storedTheme) << QString::fromLatin1(theme);
+        };
+        row("nothing chosen", "", "", "en_US", "", "", "light");
+        row("stored", "", "fr", "fr_FR", "", "dark", "dark");
+        row("wanted in this run", "de", "fr", "de_DE", "light", "dark", "light");
+        row("wanted only", "pt_BR", "", "pt_BR", "dark", "", "dark");
+        row("stored nonsense", "", "tlh", "en_US", "", "blue", "light");
+    }
+
+    void takesTheFirstThatIsGiven()
+    {
+        QFETCH(QString, wantedLanguage);
+        QFETCH(QString, storedLanguage);
+        QFETCH(QString, language);
+        QFETCH(QString, wantedTheme);
+        QFETCH(QString, storedTheme);
+        QFETCH(QString, theme);
+        const FakePortal portal(2);
+        Choose(storedLanguage, storedTheme);
+        Start({wantedLanguage, wantedTheme});
+        QCOMPARE(QString::fromStdString(m_lookAndFeel->GetLanguage()), language);
+        QCOMPARE(QLocale().name(), language);
+        QCOMPARE(Desktop::ThemeName(CurrentTheme()), theme);
+    }
+
+    void takesOverAChoiceAtOnce()
+    {
+        // What was wanted for this run gives way to what the user chooses in it.
+        Start({QStringLiteral("de"), QStringLiteral("light")});
+        Choose(QStringLiteral("ar"), QStringLiteral("light"));
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(QLocale().language(), QLocale::Arabic);
+        QCOMPARE(QApplication::layoutDirection(), Qt::RightToLeft);
+        Choose(QStringLiteral("ar"), QStringLiteral("dark"));
+        QCOMPARE(CurrentTheme(), Theme::Dark);
+        Choose(QStringLiteral("fr"), QStringLiteral("dark"));
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(QLocale().language(), QLocale::French);
+        QCOMPARE(QApplication::layoutDirection(), Qt::LeftToRight);
+        Choose({}, QStringLiteral("dark"));
+        QCOMPARE(QLocale().language(), QLocale::English);
+    }
+
+    void turnsTheArrowsOfACalendarWithTheDirectionOfWriting()
+    {
+        Start({QStringLiteral("en"), QStringLiteral("light")});
+        QCalendarWidget calendar;
+        calendar.show();
+        const auto* next =
+            calendar.findChild<QToolButton*>(QStringLiteral("qt_calendar_nextmonth"));
+        const auto shows = [&](const char* icon) {
+            constexpr int size = 16;
+            return next->icon().pixmap(size).toImage()
+                == Desktop::ThemedIcon(QLatin1String(icon)).pixmap(size).toImage();
+        };
+        QVERIFY(shows("arrow-right"));
+        Choose(QStringLiteral("he"), QStringLiteral("light"));
+        QVERIFY(shows("arrow-left"));
+        Choose(QStringLiteral("en"), QStringLiteral("light"));
+        QVERIFY(shows("arrow-right"));
+    }
+
+    void followsTheDesktopUnlessChosen()
+    {
+        FakePortal portal(1);
+        Start({});
+        QCOMPARE(CurrentTheme(), Theme::Dark);
+        portal.Prefer(2);
+        QTRY_COMPARE(CurrentTheme(), Theme::Light);
+        Choose({}, QStringLiteral("light"));
+        Witness witness(m_lookAndFeel);
+        witness.show();
+        QCoreApplication::sendPostedEvents();
+        witness.styleChanges = 0;
+        // Hears of the change after the application does.
+        const Desktop::DesktopTheme other;
+        portal.Prefer(1);
+        QTRY_COMPARE(other.Current(), Theme::Dark);
+        QCOMPARE(CurrentTheme(), Theme::Light);
+        QCOMPARE(witness.styleChanges, 0);
+        Choose({}, QStringLiteral("dark"));
+        QCOMPARE(witness.styleChanges, 1);
+        // The same theme for another reason.
+        Choose({}, {});
+        QCOMPARE(witness.styleChanges, 1);
+        QCOMPARE(CurrentTheme(), Theme::Dark);
+    }
+
+    void tellsEachWidgetOnce()
+    {
+        Start({QStringLiteral("en"), QStringLiteral("light")});
+        Witness witness(m_lookAndFeel);
+        witness.show();
+        QCoreApplication::sendPostedEvents();
+        witness.languageChanges = 0;
+        witness.styleChanges = 0;
+
+        Choose({}, QStringLiteral("dark"));
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(witness.styleChanges, 1);
+        QCOMPARE(witness.languageChanges, 0);
+
+        Choose(QStringLiteral("fr"), QStringLiteral("dark"));
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(witness.languageChanges, 1);
+        QCOMPARE(witness.languageSeen, std::string("fr_FR"));
+        QCOMPARE(witness.styleChanges, 1);
+    }
+
+    void leavesTheRestAloneWhenOtherSettingsChange()
+    {
+        Start({});
+        Witness witness(m_lookAndFeel);
+        witness.show();
+        QCoreApplication::sendPostedEvents();
+        witness.languageChanges = 0;
+        witness.styleChanges = 0;
+        m_store->Change(
+            [](PX::UserSettings& settings) { settings.page = QStringLiteral("files"); });
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(witness.styleChanges, 0);
+        QCOMPARE(witness.languageChanges, 0);
+    }
+
+    void costsNoMoreThanTheStyleSheet()
+    {
+        Start({QStringLiteral("en"), QStringLiteral("light")});
+        Desktop::MainWindow window(m_store, m_lookAndFeel);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        double whole = 0;
+        double sheet = 0;
+        constexpr int rounds = 10;
+        for (int round = 0; round < rounds; ++round) {
+            const bool isDark = round % 2 == 0;
+            const CpuTimer wholeTimer;
+            Choose({}, isDark ? QStringLiteral("dark") : QStringLiteral("light"));
+            QCoreApplication::sendPostedEvents();
+            whole += wholeTimer.Milliseconds();
+            const CpuTimer sheetTimer;
+            qApp->setStyleSheet(Desktop::StyleSheetOf(isDark ? Theme::Light : Theme::Dark));
+            QCoreApplication::sendPostedEvents();
+            sheet += sheetTimer.Milliseconds();
+            qApp->setStyleSheet(Desktop::StyleSheetOf(isDark ? Theme::Dark : Theme::Light));
+        }
+        qInfo("theme %.1f ms, style sheet alone %.1f ms", whole / rounds, sheet / rounds);
+        QVERIFY(whole < 1.5 * sheet);
+    }
+
+private:
+    void Start(const Look& wanted)
+    {
+        m_lookAndFeel = std::make_shared<App::LookAndFeelManager>();
+        m_appearance = std::make_unique<Desktop::Appearance>(m_store, m_lookAndFeel, wanted);
+    }
+
+    void Choose(const QString& language, const QString& theme)
+    {
+        m_store->Change([&](PX::UserSettings& settings) {
+            settings.language = language;
+            settings.theme = theme;
+        });
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::shared_ptr<PX::SettingsStore> m_store;
+    std::shared_ptr<App::LookAndFeelManager> m_lookAndFeel;
+    std::unique_ptr<Desktop::Appearance> m_appearance;
+};
+
+} // namespace Zentor::Tests
+
+SCHEDULER_TEST_MAIN(Zentor::Tests::tst_Appearance)
+
+#include "tst_Appearance.moc"

@@ -1,0 +1,187 @@
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include "CommandLine.h"
+#include "Languages.h"
+#include "WidgetTest.h"
+
+namespace Zentor::Tests {
+namespace {
+
+using Desktop::CommandLine;
+
+CommandLine Parse(const QStringList& arguments)
+{
+    return Desktop::ParseCommandLine(QStringList{QStringLiteral("px-scheduler")} + arguments);
+}
+
+struct Ending {
+    int exitCode = -1;
+    QString output;
+    QString error;
+};
+
+/// Runs the program to its end in an environment without any display.
+Ending RunWithoutDisplay(const QStringList& arguments)
+{
+    auto environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+        environment.remove(QLatin1String(name));
+    }
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(PX_PROGRAM), arguments);
+    Ending ending;
+    if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit) {
+        ending.exitCode = process.exitCode();
+    }
+    ending.output = QString::fromUtf8(process.readAllStandardOutput());
+    ending.error = QString::fromUtf8(process.readAllStandardError());
+    return ending;
+}
+
+/// Runs the program to its end where it can show windows.
+Ending RunOffscreen(const QStringList& arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(PX_PROGRAM), arguments);
+    Ending ending;
+    if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit) {
+        ending.exitCode = process.exitCode();
+    }
+    ending.error = QString::fromUtf8(process.readAllStandardError());
+    return ending;
+}
+
+} // namespace
+
+class tst_CommandLine : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void runsWithNothingSet()
+    {
+        const CommandLine line = Parse({});
+        QCOMPARE(line.task, CommandLine::Task::Run);
+        QCOMPARE(line.settingsFile, QString());
+        QCOMPARE(line.language, QString());
+        QCOMPARE(line.theme, QString());
+        QCOMPARE(line.screenshotsFolder, QString());
+    }
+
+    void takesEveryOption()
+    {
+        const CommandLine line =
+            Parse({QStringLiteral("--settings"), QStringLiteral("a b.json"),
+                   QStringLiteral("--language=pt_BR"), QStringLiteral("--theme"),
+                   QStringLiteral("dark"), QStringLiteral("--screenshots=pictures")});
+        QCOMPARE(line.task, CommandLine::Task::Run);
+        QCOMPARE(line.settingsFile, QStringLiteral("a b.json"));
+        QCOMPARE(line.language, QStringLiteral("pt_BR"));
+        QCOMPARE(line.theme, QStringLiteral("dark"));
+        QCOMPARE(line.screenshotsFolder, QStringLiteral("pictures"));
+    }
+
+    void takesEveryLanguage()
+    {
+        const auto codes = Desktop::LanguageCodes();
+        for (const QString& code : codes) {
+            QCOMPARE(Parse({QStringLiteral("--language"), code}).task, CommandLine::Task::Run);
+        }
+    }
+
+    void refusesAMistake_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("named");
+        const auto row = [](const char* name, const char* arguments, const char* named) {
+            QTest::newRow(name) << QString::fromLatin1(arguments).split(QLatin1Char('|'))
+                                << QString::fromLatin1(named);
+        };
+        row("unknown option", "--colour|red", "colour");
+        row("unknown short option", "-x", "x");
+        row("extra argument", "settings.json", "settings.json");
+        row("argument after options", "--theme|dark|more", "more");
+        row("unknown theme", "--theme|Dark", "Dark");
+        row("unknown language", "--language|tlh", "tlh");
+        row("region that is not offered", "--language|de_AT", "de_AT");
+        row("settings without value", "--settings", "settings");
+        row("language without value", "--language", "language");
+        row("theme without value", "--theme", "theme");
+        row("screenshots without value", "--screenshots", "screenshots");
+        row("empty settings", "--settings=", "settings");
+        row("empty language", "--language|", "language");
+        row("empty theme", "--theme|", "theme");
+        row("empty screenshots", "--screenshots=", "screenshots");
+        row("value for help", "--help=x", "help");
+    }
+
+    void refusesAMistake()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, named);
+        const Ending ending = RunWithoutDisplay(arguments);
+        QCOMPARE(ending.exitCode, 2);
+        QCOMPARE(ending.output, QString());
+        QVERIFY2(ending.error.startsWith(QLatin1String("px-scheduler: ")),
+                 qPrintable(ending.error));
+        QVERIFY2(ending.error.contains(named), qPrintable(ending.error));
+        QCOMPARE(ending.error.count(QLatin1Char('\n')), 1);
+    }
+
+    void printsHelpAndVersion_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("help") << QStringLiteral("--help") << QStringLiteral("--screenshots");
+        QTest::newRow("h") << QStringLiteral("-h") << QStringLiteral("--theme");
+        QTest::newRow("version") << QStringLiteral("--version")
+                                 << QStringLiteral("px-scheduler " PX_VERSION "\n");
+        QTest::newRow("v") << QStringLiteral("-v")
+                           << QStringLiteral("px-scheduler " PX_VERSION "\n");
+    }
+
+    void printsHelpAndVersion()
+    {
+        QFETCH(QString, option);
+        QFETCH(QString, expected);
+        const Ending ending = RunWithoutDisplay({option});
+        QCOMPARE(ending.exitCode, 0);
+        QVERIFY2(ending.output.contains(expected), qPrintable(ending.output));
+        QCOMPARE(ending.error, QString());
+    }
+
+    void saysWhySettingsCannotBeUsed_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QStringList>("more");
+        QTest::newRow("below a file") << QStringLiteral("file/settings.json") << QStringList();
+        QTest::newRow("a folder") << QStringLiteral("folder") << QStringList();
+        QTest::newRow("missing, for the tour")
+            << QStringLiteral("missing.json")
+            << QStringList{QStringLiteral("--screenshots"), QStringLiteral("unused")};
+    }
+
+    void saysWhySettingsCannotBeUsed()
+    {
+        QFETCH(QString, path);
+        QFETCH(QStringList, more);
+        const QTemporaryDir folder;
+        QVERIFY(QFile(folder.filePath(QStringLiteral("file"))).open(QIODevice::WriteOnly));
+        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("folder")));
+        const QString settings = folder.filePath(path);
+        const Ending ending =
+            RunOffscreen(QStringList{QStringLiteral("--settings"), settings} + more);
+        QCOMPARE(ending.exitCode, 2);
+        QVERIFY2(ending.error.contains(QStringLiteral("px-scheduler: ")), qPrintable(ending.error));
+        QVERIFY2(ending.error.contains(settings), qPrintable(ending.error));
+    }
+};
+
+} // namespace Zentor::Tests
+
+SCHEDULER_TEST_MAIN(Zentor::Tests::tst_CommandLine)
+
+#include "tst_CommandLine.moc"

@@ -1,0 +1,156 @@
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+
+#include "FilesPage.h"
+#include "StoreIn.h"
+#include "WidgetTest.h"
+
+namespace Zentor::Tests {
+
+class tst_FilesPage : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        WidgetTest::init();
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_store = OpenStoreIn(*m_folder);
+        m_store->Change([&](auto& settings) { settings.resultsFolderPath = m_folder->path(); });
+        m_page = std::make_unique<Desktop::FilesPage>(m_store, nullptr);
+        m_page->show();
+    }
+
+    void cleanup()
+    {
+        m_page.reset();
+        m_store.reset();
+        m_folder.reset();
+        WidgetTest::cleanup();
+    }
+
+    void showsTheStoredFolder()
+    {
+        QCOMPARE(Edit()->text(), QDir::toNativeSeparators(m_folder->path()));
+        QVERIFY(IsFreeSpaceTold());
+        QVERIFY(!Edit()->accessibleName().isEmpty());
+    }
+
+    void storesAFolder_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("stored");
+        const QString home = QDir::homePath();
+        QTest::newRow("existing") << home << home;
+        QTest::newRow("missing") << home + QStringLiteral("/none")
+                                 << home + QStringLiteral("/none");
+        QTest::newRow("blanks around it")
+            << QStringLiteral("  ") + home + QStringLiteral(" ") << home;
+        QTest::newRow("slash at its end") << home + QStringLiteral("/") << home;
+        QTest::newRow("round about")
+            << home + QStringLiteral("/a/../b//c") << home + QStringLiteral("/b/c");
+        QTest::newRow("root") << QStringLiteral("/") << QStringLiteral("/");
+    }
+
+    void storesAFolder()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, stored);
+        const QSignalSpy changed(m_store.get(), &PX::SettingsStore::Changed);
+        TypeAndAccept(typed);
+        QCOMPARE(m_store->Settings().resultsFolderPath, stored);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(Edit()->text(), QDir::toNativeSeparators(stored));
+        QVERIFY(IsUnmarked());
+        QVERIFY(IsFreeSpaceTold());
+    }
+
+    void refusesWhatIsNoFolder_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::newRow("nothing") << QString();
+        QTest::newRow("blanks") << QStringLiteral("   ");
+        QTest::newRow("relative") << QStringLiteral("recordings");
+        QTest::newRow("a file") << QStringLiteral("/etc/passwd");
+    }
+
+    void refusesWhatIsNoFolder()
+    {
+        QFETCH(QString, typed);
+        const QSignalSpy changed(m_store.get(), &PX::SettingsStore::Changed);
+        TypeAndAccept(typed);
+        QCOMPARE(changed.count(), 0);
+        QCOMPARE(m_store->Settings().resultsFolderPath, m_folder->path());
+        QVERIFY(IsMarked());
+        QCOMPARE(Edit()->text(), typed);
+
+        TypeAndAccept(m_folder->path());
+        QVERIFY(IsUnmarked());
+        QCOMPARE(changed.count(), 0);
+    }
+
+    void forgetsAMistakeWhenShownAgain()
+    {
+        TypeAndAccept(QStringLiteral("recordings"));
+        m_page->hide();
+        m_page->show();
+        QVERIFY(IsUnmarked());
+        QCOMPARE(Edit()->text(), QDir::toNativeSeparators(m_folder->path()));
+    }
+
+    void saysWhenFreeSpaceCannotBeTold()
+    {
+        m_store->Change([](auto& settings) { settings.resultsFolderPath.clear(); });
+        m_page->hide();
+        m_page->show();
+        QVERIFY(!IsFreeSpaceTold());
+        QVERIFY(!Label("freeSpaceLabel")->text().isEmpty());
+    }
+
+private:
+    QLineEdit* Edit() const { return m_page->findChild<QLineEdit*>(); }
+    QLabel* Label(const char* name) const
+    {
+        return m_page->findChild<QLabel*>(QLatin1String(name));
+    }
+    bool IsFreeSpaceTold() const
+    {
+        static const QRegularExpression size(QStringLiteral("[0-9].*B"));
+        return Label("freeSpaceLabel")->isVisible()
+            && size.match(Label("freeSpaceLabel")->text()).hasMatch();
+    }
+    /// Whether the field and the text beside it both say that something is wrong.
+    bool IsMarked() const
+    {
+        const auto* problem = Label("folderProblemLabel");
+        return Edit()->property("SubStyle") == QLatin1String("Invalid") && problem->isVisible()
+            && !problem->text().isEmpty() && Edit()->accessibleDescription() == problem->text();
+    }
+    /// Whether neither of them does.
+    bool IsUnmarked() const
+    {
+        return Edit()->property("SubStyle") == QLatin1String("Normal")
+            && !Label("folderProblemLabel")->isVisible()
+            && Edit()->accessibleDescription().isEmpty();
+    }
+    void TypeAndAccept(const QString& text)
+    {
+        Edit()->selectAll();
+        QTest::keyClick(Edit(), Qt::Key_Delete);
+        QTest::keyClicks(Edit(), text);
+        QTest::keyClick(Edit(), Qt::Key_Return);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::shared_ptr<PX::SettingsStore> m_store;
+    std::unique_ptr<Desktop::FilesPage> m_page;
+};
+
+} // namespace Zentor::Tests
+
+SCHEDULER_TEST_MAIN(Zentor::Tests::tst_FilesPage)
+
+#include "tst_FilesPage.moc"

@@ -1,0 +1,264 @@
+#include <QApplication>
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QDir>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStandardPaths>
+
+#include <glog/logging.h>
+
+#include "GeneralPage.h"
+#include "Languages.h"
+#include "Log.h"
+#include "MarkingTranslator.h"
+#include "StoreIn.h"
+#include "WidgetTest.h"
+
+namespace Zentor::Tests {
+namespace {
+
+/// Stands in for the desktop's programs: notes what they are asked to show.
+class DesktopStandIn final : public QObject {
+    Q_OBJECT
+
+public:
+    DesktopStandIn() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Show"); }
+    ~DesktopStandIn() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+
+    QStringList shown;
+
+public Q_SLOTS:
+    void Show(const QUrl& url) { shown << url.toLocalFile(); }
+};
+
+} // namespace
+
+class tst_GeneralPage : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        QDir(Desktop::LogFolder()).removeRecursively();
+    }
+
+    void cleanupTestCase() { QDir(Desktop::LogFolder()).removeRecursively(); }
+
+    void init()
+    {
+        WidgetTest::init();
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_store = OpenStoreIn(*m_folder);
+    }
+
+    void cleanup()
+    {
+        m_page.reset();
+        m_store.reset();
+        m_folder.reset();
+        WidgetTest::cleanup();
+    }
+
+    void offersEveryLanguageByItsOwnName()
+    {
+        Show();
+        const auto codes = Desktop::LanguageCodes();
+        QCOMPARE(Box("languageBox")->count(), codes.size() + 1);
+        QCOMPARE(Box("languageBox")->itemText(0), QStringLiteral("System default (English)"));
+        QCOMPARE(Box("languageBox")->itemText(2), QStringLiteral("Deutsch"));
+        for (int index = 0; index < codes.size(); ++index) {
+            QCOMPARE(Box("languageBox")->itemData(index + 1).toString(), codes.at(index));
+            QCOMPARE(Box("languageBox")->itemText(index + 1),
+                     Desktop::LanguageName(codes.at(index)));
+        }
+    }
+
+    void showsWhatIsStored_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("theme");
+        QTest::addColumn<QString>("shownLanguage");
+        QTest::addColumn<QString>("shownTheme");
+        const QString system = QStringLiteral("System default");
+        const QString systemLanguage = QStringLiteral("System default (English)");
+        QTest::newRow("nothing") << QString() << QString() << systemLanguage << system;
+        QTest::newRow("both") << QStringLiteral("fr") << QStringLiteral("dark")
+                              << QStringLiteral("Français") << QStringLiteral("Dark");
+        QTest::newRow("nonsense") << QStringLiteral("tlh") << QStringLiteral("blue")
+                                  << systemLanguage << system;
+    }
+
+    void showsWhatIsStored()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, theme);
+        QFETCH(QString, shownLanguage);
+        QFETCH(QString, shownTheme);
+        const auto choose = [&](PX::UserSettings& settings) {
+            settings.language = language;
+            settings.theme = theme;
+        };
+        m_store->Change(choose);
+        Show();
+        QCOMPARE(Box("languageBox")->currentText(), shownLanguage);
+        QCOMPARE(Box("themeBox")->currentText(), shownTheme);
+        // Also when it is stored while the page is on screen.
+        m_store->Change([](PX::UserSettings& settings) {
+            settings.language = QStringLiteral("de");
+            settings.theme = QStringLiteral("light");
+        });
+        QCOMPARE(Box("languageBox")->currentText(), QStringLiteral("Deutsch"));
+        m_store->Change(choose);
+        QCOMPARE(Box("languageBox")->currentText(), shownLanguage);
+        QCOMPARE(Box("themeBox")->currentText(), shownTheme);
+    }
+
+    void storesAChoiceAtOnce()
+    {
+        Show();
+        const QSignalSpy changed(m_store.get(), &PX::SettingsStore::Changed);
+        Choose("languageBox", Qt::Key_Down);
+        QCOMPARE(m_store->Settings().language, QStringLiteral("en"));
+        Choose("languageBox", Qt::Key_End);
+        QCOMPARE(m_store->Settings().language, QStringLiteral("he"));
+        Choose("themeBox", Qt::Key_End);
+        QCOMPARE(m_store->Settings().theme, QStringLiteral("dark"));
+        Choose("languageBox", Qt::Key_Home);
+        Choose("themeBox", Qt::Key_Home);
+        QCOMPARE(m_store->Settings().language, QString());
+        QCOMPARE(m_store->Settings().theme, QString());
+        QCOMPARE(changed.count(), 5);
+    }
+
+    void staysAsItIsUnderTheWheel()
+    {
+        Show();
+        QComboBox* box = Box("languageBox");
+        const QPoint center = box->rect().center();
+        QWheelEvent event(center, box->mapToGlobal(center), QPoint(), QPoint(0, -120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(box, &event);
+        QCOMPARE(box->currentIndex(), 0);
+    }
+
+    void forgetsTheAnswers()
+    {
+        Show();
+        QVERIFY(!Button("askAgainButton")->isEnabled());
+        const QString allAsked = Label("questionsLabel")->text();
+        m_store->Change([](PX::UserSettings& settings) {
+            settings.confirmations.insert(QStringLiteral("one"), false);
+        });
+        QVERIFY(!Button("askAgainButton")->isEnabled());
+        m_store->Change([](PX::UserSettings& settings) {
+            settings.confirmations.insert(QStringLiteral("other"), true);
+        });
+        QVERIFY(Button("askAgainButton")->isEnabled());
+        QVERIFY(Label("questionsLabel")->text() != allAsked);
+
+        const QSignalSpy happened(m_page.get(), &Desktop::GeneralPage::Happened);
+        Button("askAgainButton")->click();
+        QVERIFY(!m_store->Settings().confirmations.value(QStringLiteral("other")));
+        QVERIFY(!Button("askAgainButton")->isEnabled());
+        QCOMPARE(Label("questionsLabel")->text(), allAsked);
+        QCOMPARE(happened.count(), 1);
+    }
+
+    void opensTheFolderOfTheSettings()
+    {
+        const DesktopStandIn desktop;
+        Show();
+        QVERIFY(Button("openFolderButton")->toolTip().contains(m_folder->path()));
+        Button("openFolderButton")->click();
+        QCOMPARE(desktop.shown, QStringList{m_folder->path()});
+        QVERIFY(Label("openProblemLabel")->isHidden());
+    }
+
+    void saysWhatCannotBeOpened()
+    {
+        const DesktopStandIn desktop;
+        Show();
+        const QSignalSpy happened(m_page.get(), &Desktop::GeneralPage::Happened);
+        AllowWarning(QStringLiteral("lock file"));
+        QVERIFY(m_folder->remove());
+        Button("openFolderButton")->click();
+        QCOMPARE(desktop.shown, QStringList());
+        QVERIFY(Label("openProblemLabel")->isVisible());
+        QVERIFY(Label("openProblemLabel")->text().contains(m_folder->path()));
+        QCOMPARE(happened.count(), 1);
+
+        // Gone when the user comes back to the page.
+        m_page->hide();
+        m_page->show();
+        QVERIFY(Label("openProblemLabel")->isHidden());
+    }
+
+    void opensTheLog()
+    {
+        Show();
+        QVERIFY(!Button("openLogButton")->isEnabled());
+        QVERIFY(!Button("openLogButton")->toolTip().isEmpty());
+        Desktop::KeepLog();
+        LOG(INFO) << "something";
+        const DesktopStandIn desktop;
+        m_page->hide();
+        m_page->show();
+        QVERIFY(Button("openLogButton")->isEnabled());
+        Button("openLogButton")->click();
+        QCOMPARE(desktop.shown, QStringList{Desktop::LogFile()});
+
+        QVERIFY(QFile::remove(Desktop::LogFile()));
+        Button("openLogButton")->click();
+        QCOMPARE(desktop.shown.size(), 1);
+        QVERIFY(Label("openProblemLabel")->isVisible());
+    }
+
+    void keepsItsChoicesInAnotherLanguage()
+    {
+        m_store->Change(
+            [](PX::UserSettings& settings) { settings.theme = QStringLiteral("dark"); });
+        Show();
+        LanguageSwitch language;
+        language.Toggle();
+        QCOMPARE(Box("themeBox")->currentText(), QStringLiteral("~Dark"));
+        QVERIFY(Label("languageLabel")->text().startsWith(QLatin1Char('~')));
+        QVERIFY(Label("questionsLabel")->text().startsWith(QLatin1Char('~')));
+        QVERIFY(Button("askAgainButton")->text().startsWith(QLatin1Char('~')));
+        QCOMPARE(Box("languageBox")->itemText(2), QStringLiteral("Deutsch"));
+    }
+
+private:
+    void Show()
+    {
+        m_page = std::make_unique<Desktop::GeneralPage>(m_store, nullptr);
+        m_page->show();
+    }
+
+    QComboBox* Box(const char* name) const
+    {
+        return m_page->findChild<QComboBox*>(QLatin1String(name));
+    }
+    QLabel* Label(const char* name) const
+    {
+        return m_page->findChild<QLabel*>(QLatin1String(name));
+    }
+    QPushButton* Button(const char* name) const
+    {
+        return m_page->findChild<QPushButton*>(QLatin1String(name));
+    }
+
+    void Choose(const char* box, Qt::Key key) const { QTest::keyClick(Box(box), key); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::shared_ptr<PX::SettingsStore> m_store;
+    std::unique_ptr<Desktop::GeneralPage> m_page;
+};
+
+} // namespace Zentor::Tests
+
+SCHEDULER_TEST_MAIN(Zentor::Tests::tst_GeneralPage)
+
+#include "tst_GeneralPage.moc"

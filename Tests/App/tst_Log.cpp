@@ -1,0 +1,71 @@
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+
+#include <glog/logging.h>
+
+#include "Log.h"
+#include "WidgetTest.h"
+
+namespace Zentor::Tests {
+
+class tst_Log : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        QDir(Desktop::LogFolder()).removeRecursively();
+        FLAGS_logtostderr = true;
+    }
+
+    void cleanupTestCase() { QDir(Desktop::LogFolder()).removeRecursively(); }
+
+    void isNoneWhereItCannotBeWritten()
+    {
+        // A file stands where the folder would be.
+        const QString inTheWay = Desktop::LogFolder();
+        QVERIFY(QDir().mkpath(QFileInfo(inTheWay).path()));
+        QVERIFY(QFile(inTheWay).open(QIODevice::WriteOnly));
+        Desktop::KeepLog();
+        LOG(WARNING) << "nowhere";
+        QCOMPARE(Desktop::LogFile(), QString());
+        QVERIFY(QFile::remove(inTheWay));
+    }
+
+    void isOneFileOfThisRun()
+    {
+        Desktop::KeepLog();
+        QCOMPARE(Desktop::LogFile(), QString());
+        LOG(INFO) << "first";
+        LOG(ERROR) << "second";
+        const QString path = Desktop::LogFile();
+        QCOMPARE(QFileInfo(path).path(), Desktop::LogFolder());
+        QCOMPARE(QDir(Desktop::LogFolder()).entryList(QDir::Files).size(), 1);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray content = file.readAll();
+        QVERIFY(content.contains("first"));
+        QVERIFY(content.contains("second"));
+        LOG(INFO) << "third";
+        QCOMPARE(Desktop::LogFile(), path);
+        QVERIFY(file.readAll().contains("third"));
+        AllowWarning(QStringLiteral("fourth"));
+        qWarning("fourth");
+        QCOMPARE(Desktop::LogFile(), path);
+        QVERIFY(file.readAll().contains("fourth"));
+    }
+
+    void isNoneOnceItIsDeleted()
+    {
+        QVERIFY(QFile::remove(Desktop::LogFile()));
+        QCOMPARE(Desktop::LogFile(), QString());
+    }
+};
+
+} // namespace Zentor::Tests
+
+SCHEDULER_TEST_MAIN(Zentor::Tests::tst_Log)
+
+#include "tst_Log.moc"

@@ -1,0 +1,944 @@
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTimeEdit>
+#include <QToolButton>
+
+#include "Application/LookAndFeelManager.h"
+#include "Boxes.h"
+#include "Languages.h"
+#include "MainWindow.h"
+#include "MarkingTranslator.h"
+#include "PXUserSettings/SettingsStore.h"
+#include "RecordSchedulerWidget.h"
+#include "Resources.h"
+#include "Samples.h"
+#include "Theme.h"
+#include "WidgetTest.h"
+
+namespace Zentor::Tests {
+namespace {
+
+using namespace std::chrono_literals;
+using Panel = PX::Scheduler::UI::RecordSchedulerWidget;
+
+std::vector<PX::RecordTime> Tasks(int count)
+{
+    std::vector<PX::RecordTime> tasks;
+    for (int index = 0; index < count; ++index) {
+        tasks.push_back(Record(QStringLiteral("Task %1").arg(index),
+                               At("10:00") + std::chrono::hours(index), 30min));
+    }
+    return tasks;
+}
+
+/// How many pixels of \a picture stand out from \a ground.
+int InkOn(const QImage& picture, const QColor& ground)
+{
+    constexpr int clearlyOther = 60;
+    int ink = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const int difference = picture.pixelColor(x, y).lightness() - ground.lightness();
+            ink += std::abs(difference) > clearlyOther ? 1 : 0;
+        }
+    }
+    return ink;
+}
+
+/// A folder on a file system that has no room for files.
+QString FullFolder()
+{
+    return QStringLiteral("/proc/recordings");
+}
+
+/// Whether the Tab key stops at \a widget itself, not at one that has taken it in.
+bool IsStopOfTab(const QWidget& widget)
+{
+    return widget.isVisible() && widget.isEnabled()
+        && (widget.focusPolicy() & Qt::TabFocus) == Qt::TabFocus && widget.focusProxy() == nullptr
+        && qobject_cast<const QAbstractSpinBox*>(widget.parentWidget()) == nullptr;
+}
+
+} // namespace
+
+class tst_MainWindow : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        Desktop::RegisterResources();
+        Desktop::ApplyTheme(Desktop::Theme::Light);
+    }
+
+    void init()
+    {
+        WidgetTest::init();
+        m_folder = std::make_unique<QTemporaryDir>();
+    }
+
+    void cleanup()
+    {
+        Close();
+        m_folder.reset();
+        WidgetTest::cleanup();
+    }
+
+    void opensOnTheSchedule()
+    {
+        Open();
+        QCOMPARE(PageList()->currentRow(), 0);
+        QVERIFY(Find<Panel>("recordSchedulerWidget")->isVisible());
+        QVERIFY(Button("disableScheduledCaptureRadioButton")->isChecked());
+    }
+
+    void putsEveryRowOnScreen()
+    {
+        Open(Tasks(5));
+        const QImage picture = m_window->grab().toImage();
+        const QColor ground(
+            Desktop::ColorsOf(Desktop::Theme::Light).value(QStringLiteral("surface")));
+        const auto rows = m_window->findChildren<QWidget*>(QStringLiteral("infoRecordFrame"));
+        QCOMPARE(rows.size(), 5);
+        for (const QWidget* row : rows) {
+            for (const char* name :
+                 {"titleLabel", "dateLabel", "timeLabel", "durationLabel", "deleteToolButton"}) {
+                const auto* child = row->findChild<QWidget*>(QLatin1String(name));
+                QCOMPARE(child->visibleRegion(), QRegion(child->rect()));
+                const QRect place(child->mapTo(m_window.get(), QPoint(0, 0)), child->size());
+                QVERIFY2(InkOn(picture.copy(place), ground) > 20, name);
+            }
+        }
+    }
+
+    void givesTheTableItsHeight_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::addColumn<int>("height");
+        QTest::newRow("empty") << 0 << 78;
+        QTest::newRow("one") << 1 << 78;
+        QTest::newRow("two") << 2 << 118;
+        QTest::newRow("all shown") << 5 << 238;
+        QTest::newRow("one more") << 6 << 258;
+        QTest::newRow("many") << 20 << 258;
+    }
+
+    void givesTheTableItsHeight()
+    {
+        QFETCH(int, count);
+        QFETCH(int, height);
+        Open(Tasks(count));
+        Click("scheduledCaptureRadioButton");
+        QCOMPARE(Find<QWidget>("scheduledCaptureSettingsRecordTableWidget")->size(),
+                 QSize(710, height));
+
+        // The numbers that the height is made of are the heights of what is shown.
+        QCOMPARE(Find<QWidget>("headerFrame")->height(), 36);
+        const char* row = count == 0 ? "stubInfoRecordFrame" : "infoRecordFrame";
+        QCOMPARE(Find<QWidget>(row)->height(), 40);
+        const auto* scrollArea = Find<QScrollArea>("recordTableScrollArea");
+        QCOMPARE(scrollArea->verticalScrollBar()->isVisible(), count > 5);
+        QVERIFY(!scrollArea->horizontalScrollBar()->isVisible());
+    }
+
+    void alignsTheColumns()
+    {
+        Open(Tasks(6));
+        const std::pair<const char*, const char*> columns[] = {
+            {"headerTitleLabel", "titleLabel"},
+            {"headerDateLabel", "dateLabel"},
+            {"headerTimeLabel", "timeLabel"},
+            {"headerDurationLabel", "durationLabel"}};
+        for (const auto& [head, cell] : columns) {
+            const QPoint origin(0, 0);
+            QCOMPARE(Find<QWidget>(cell)->mapTo(m_window.get(), origin).x(),
+                     Find<QWidget>(head)->mapTo(m_window.get(), origin).x());
+            QCOMPARE(Find<QWidget>(cell)->width(), Find<QWidget>(head)->width());
+        }
+    }
+
+    void keepsCaptionsBesideTheirButtons()
+    {
+        Open();
+        const std::pair<const char*, const char*> captions[] = {
+            {"disableScheduledCaptureRadioButton", "disableScheduledCaptureLabel"},
+            {"limitedCaptureDurationRadioButton", "limitedCaptureDurationLabel"},
+            {"scheduledCaptureRadioButton", "scheduledCaptureLabel"}};
+        for (const auto& [button, caption] : captions) {
+            QCOMPARE(Find<QWidget>(button)->width(), 24);
+            QCOMPARE(Find<QWidget>(caption)->x(), Find<QWidget>(button)->geometry().right() + 1);
+        }
+    }
+
+    void findsEverythingAsItWasLeft()
+    {
+        Open(Tasks(3));
+        {
+            const ExpectedBox box(QMessageBox::Ok);
+            Click("deleteToolButton");
+            QVERIFY(box.Came());
+        }
+        PageList()->setCurrentRow(1);
+        Find<QLineEdit>("resultsFolderEdit")->setText(QDir::tempPath());
+        m_window->setGeometry(30, 40, 720, 500);
+        Close();
+
+        Reopen();
+        QCOMPARE(PageList()->currentRow(), 1);
+        QCOMPARE(Find<QLineEdit>("resultsFolderEdit")->text(), QDir::tempPath());
+        QCOMPARE(m_window->geometry(), QRect(30, 40, 720, 500));
+        PageList()->setCurrentRow(0);
+        QVERIFY(Button("scheduledCaptureRadioButton")->isChecked());
+        QCOMPARE(Titles(), (QStringList{QStringLiteral("Task 1"), QStringLiteral("Task 2")}));
+        {
+            const ExpectedBox box(QMessageBox::Ok);
+            Click("limitedCaptureDurationRadioButton");
+            QVERIFY(box.Came());
+        }
+        Find<QTimeEdit>("limitedCaptureDurationSettingsCaptureDuration")->setTime(QTime(1, 30));
+        Find<QComboBox>("limitedCaptureDurationSettingsActionOnFinishBox")->setCurrentIndex(2);
+        Close();
+
+        Reopen();
+        QCOMPARE(PageList()->currentRow(), 0);
+        QVERIFY(Button("limitedCaptureDurationRadioButton")->isChecked());
+        QCOMPARE(Find<QTimeEdit>("limitedCaptureDurationSettingsCaptureDuration")->time(),
+                 QTime(1, 30));
+        QCOMPARE(Find<QComboBox>("limitedCaptureDurationSettingsActionOnFinishBox")->currentIndex(),
+                 2);
+        QCOMPARE(Titles(), QStringList());
+    }
+
+    void showsFilesWhenThePanelAsksForThem()
+    {
+        Open();
+        Q_EMIT Find<Panel>("recordSchedulerWidget")->OpenFilesSettingsRequested();
+        QCOMPARE(PageList()->currentRow(), 1);
+        QVERIFY(Find<QLineEdit>("resultsFolderEdit")->isVisible());
+    }
+
+    void isReadyToRecordWhereNothingStandsAgainstIt_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::newRow("schedule") << 0;
+        QTest::newRow("files") << 1;
+    }
+
+    void isReadyToRecordWhereNothingStandsAgainstIt()
+    {
+        QFETCH(int, page);
+        Open();
+        PageList()->setCurrentRow(page);
+        QVERIFY(Button("startRecordingButton")->isVisible());
+        QCOMPARE(StatusText(), QString());
+        Click("startRecordingButton");
+        QCOMPARE(StatusText(), QStringLiteral("Ready to record"));
+    }
+
+    void startsByKeyboard_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("modifier");
+        QTest::newRow("Space") << int(Qt::Key_Space) << int(Qt::NoModifier);
+        QTest::newRow("Return") << int(Qt::Key_Return) << int(Qt::NoModifier);
+        QTest::newRow("Enter") << int(Qt::Key_Enter) << int(Qt::KeypadModifier);
+        QTest::newRow("mnemonic") << int(Qt::Key_S) << int(Qt::AltModifier);
+    }
+
+    void startsByKeyboard()
+    {
+        QFETCH(int, key);
+        QFETCH(int, modifier);
+        Open();
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        Button("startRecordingButton")->setFocus();
+        QTest::keyClick(m_window->windowHandle(), static_cast<Qt::Key>(key),
+                        Qt::KeyboardModifiers(modifier));
+        QTRY_COMPARE(StatusText(), QStringLiteral("Ready to record"));
+    }
+
+    void startsNothingWhileATaskIsUnsettled_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("status");
+        QTest::addColumn<int>("tasks");
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << QString() << 1;
+        QTest::newRow("drop") << int(QMessageBox::No) << QStringLiteral("Ready to record") << 1;
+        QTest::newRow("add") << int(QMessageBox::Yes) << QStringLiteral("Ready to record") << 2;
+    }
+
+    void startsNothingWhileATaskIsUnsettled()
+    {
+        QFETCH(int, answer);
+        QFETCH(QString, status);
+        QFETCH(int, tasks);
+        Open(Tasks(1));
+        KeepRecordingsIn(m_folder->path());
+        Click("scheduledCaptureSettingsAddRecordButton");
+        const ExpectedBox box(static_cast<QMessageBox::StandardButton>(answer));
+        Click("startRecordingButton");
+        QVERIFY(box.Came());
+        QCOMPARE(StatusText(), status);
+        QCOMPARE(Titles().size(), tasks);
+    }
+
+    void showsFilesWhenTheDiskIsFull_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<int>("page");
+        QTest::newRow("file preferences") << int(QMessageBox::Ok) << 1;
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << 0;
+    }
+
+    void showsFilesWhenTheDiskIsFull()
+    {
+        QFETCH(int, answer);
+        QFETCH(int, page);
+        Open(Tasks(1));
+        KeepRecordingsIn(FullFolder());
+        const ExpectedBox box(static_cast<QMessageBox::StandardButton>(answer));
+        Click("startRecordingButton");
+        QVERIFY(box.Came());
+        QCOMPARE(PageList()->currentRow(), page);
+        QCOMPARE(StatusText(), QString());
+    }
+
+    void usesTheFolderThatHasJustBeenTyped()
+    {
+        Open(Tasks(1));
+        KeepRecordingsIn(FullFolder());
+        PageList()->setCurrentRow(1);
+        Find<QLineEdit>("resultsFolderEdit")->setText(m_folder->path());
+        Click("startRecordingButton");
+        QCOMPARE(StatusText(), QStringLiteral("Ready to record"));
+    }
+
+    void survivesItsEndWhileAsked_data()
+    {
+        QTest::addColumn<bool>("withForm");
+        QTest::newRow("unsaved task") << true;
+        QTest::newRow("disk space") << false;
+    }
+
+    void survivesItsEndWhileAsked()
+    {
+        QFETCH(bool, withForm);
+        Open(Tasks(1));
+        KeepRecordingsIn(FullFolder());
+        if (withForm) {
+            Click("scheduledCaptureSettingsAddRecordButton");
+        }
+        const ExpectedBox box([this](QMessageBox&) { m_window.reset(); });
+        // Not with the mouse, which would touch the button again on return.
+        Button("startRecordingButton")->click();
+        QVERIFY(box.Came());
+        QCOMPARE(Titles().size(), 1);
+    }
+
+    void ignoresAPageThatItDoesNotHave()
+    {
+        Open();
+        m_window->ShowPage(QStringLiteral("elsewhere"));
+        QCOMPARE(PageList()->currentRow(), 0);
+    }
+
+    void changesPagesByKeyboard()
+    {
+        Open();
+        PageList()->setFocus();
+        QTest::keyClick(PageList(), Qt::Key_Down);
+        QVERIFY(Find<QLineEdit>("resultsFolderEdit")->isVisible());
+        QTest::keyClick(PageList(), Qt::Key_Up);
+        QVERIFY(!Find<QLineEdit>("resultsFolderEdit")->isVisible());
+    }
+
+    void keepsEverythingReachableWhenSmall()
+    {
+        Open(Tasks(6));
+        m_window->resize(640, 480);
+        QCOMPARE(m_window->size(), QSize(640, 480));
+        const auto* stack = Find<QStackedWidget>("pages");
+        auto* page = qobject_cast<QScrollArea*>(stack->currentWidget());
+        for (const char* name :
+             {"disableScheduledCaptureRadioButton", "scheduledCaptureSettingsAddRecordButton"}) {
+            auto* widget = Find<QWidget>(name);
+            page->ensureWidgetVisible(widget);
+            QCOMPARE(widget->visibleRegion(), QRegion(widget->rect()));
+        }
+        auto* deleteButton = Find<QWidget>("deleteToolButton");
+        page->ensureWidgetVisible(deleteButton);
+        QCOMPARE(deleteButton->visibleRegion(), QRegion(deleteButton->rect()));
+    }
+
+    void tellsWhenSavingFailsAndWhenItWorksAgain()
+    {
+        Open();
+        auto* label = Find<QLabel>("saveProblemLabel");
+        QVERIFY(!label->isVisible());
+        Q_EMIT m_store->SaveFailed(QStringLiteral("the <b>disk</b> is full"));
+        QVERIFY(label->isVisible());
+        QVERIFY(label->text().contains(QLatin1String("the <b>disk</b> is full")));
+        QCOMPARE(label->textFormat(), Qt::PlainText);
+        Q_EMIT m_store->Saved();
+        QVERIFY(!label->isVisible());
+    }
+
+    void movesOnlyAsFarAsItsFrameNeeds()
+    {
+        OpenStore();
+        ShowWindow();
+        m_window->setGeometry(0, 0, 600, 450);
+        Close();
+        Reopen();
+        const auto metric = [this](QStyle::PixelMetric which) {
+            return m_window->style()->pixelMetric(which, nullptr, m_window.get());
+        };
+        QCOMPARE(m_window->geometry(),
+                 QRect(metric(QStyle::PM_MdiSubWindowFrameWidth), metric(QStyle::PM_TitleBarHeight),
+                       600, 450));
+    }
+
+    void fitsTheScreen_data()
+    {
+        QTest::addColumn<QRect>("left");
+        // The screen of the test is small: 800 pixels wide.
+        QTest::newRow("new") << QRect();
+        QTest::newRow("left on a larger screen") << QRect(200, 100, 1600, 1200);
+        QTest::newRow("left beyond the edge") << QRect(700, 700, 500, 400);
+    }
+
+    void fitsTheScreen()
+    {
+        QFETCH(QRect, left);
+        OpenStore();
+        ShowWindow();
+        if (!left.isNull()) {
+            m_window->setGeometry(left);
+            Close();
+            Reopen();
+        }
+        const QRect room = m_window->screen()->availableGeometry();
+        QCOMPARE(room.united(m_window->frameGeometry()), room);
+    }
+
+    void writesTheListInANewLanguage()
+    {
+        Open(Tasks(1));
+        const auto date = [this] { return Find<QLabel>("dateLabel")->text(); };
+        const QString before = date();
+        LanguageSwitch language;
+        language.Toggle();
+        QCOMPARE(QDate::fromString(date(), QStringLiteral("yyyy-MM-dd")),
+                 QDate::fromString(before, QStringLiteral("dd.MM.yyyy")));
+        QVERIFY(date() != before);
+        QCOMPARE(StatusText(), QString());
+        QCOMPARE(m_window->findChildren<QLabel*>(QStringLiteral("dateLabel")).size(), 1);
+        QCOMPARE(m_window->findChildren<Panel*>().size(), 1);
+        QCOMPARE(Titles(), QStringList{QStringLiteral("Task 0")});
+        QVERIFY(Button("scheduledCaptureRadioButton")->isChecked());
+        QCOMPARE(Find<QWidget>("recordTableScrollArea")->accessibleName(),
+                 QStringLiteral("~Recording schedule"));
+
+        // The new panel is assisted as the one before, and an unfinished task stays as it is.
+        Click("scheduledCaptureSettingsAddRecordButton");
+        QCOMPARE(m_window->focusWidget()->objectName(), NameEdit()->objectName());
+        language.Toggle();
+        QVERIFY(NameEdit()->isVisible());
+    }
+
+    void keepsTheOrderOfTabsInANewLanguage()
+    {
+        Open(Tasks(2));
+        const QStringList before = StopsOfTab();
+        QVERIFY(before.size() > 6);
+        LanguageSwitch language;
+        language.Toggle();
+        QCOMPARE(StopsOfTab(), before);
+    }
+
+    void keepsTheModeInANewLanguage_data()
+    {
+        QTest::addColumn<QString>("mode");
+        QTest::newRow("nothing") << QStringLiteral("disableScheduledCaptureRadioButton");
+        QTest::newRow("limited") << QStringLiteral("limitedCaptureDurationRadioButton");
+        QTest::newRow("empty schedule") << QStringLiteral("scheduledCaptureRadioButton");
+    }
+
+    void keepsTheModeInANewLanguage()
+    {
+        QFETCH(QString, mode);
+        Open();
+        Click(qPrintable(mode));
+        LanguageSwitch language;
+        language.Toggle();
+        QVERIFY(Button(qPrintable(mode))->isChecked());
+    }
+
+    void tellsWhyNothingIsSavedInANewLanguage()
+    {
+        Open();
+        QVERIFY(m_store->Flush());
+        QVERIFY(QFile::remove(SettingsFile()));
+        QVERIFY(QDir(m_folder->path()).mkpath(SettingsFile() + QStringLiteral("/in the way")));
+        m_store->Change([](auto& settings) { settings.page = QStringLiteral("files"); });
+        QVERIFY(!m_store->Flush());
+        const auto* label = Find<QLabel>("saveProblemLabel");
+        QVERIFY(label->text().startsWith(QLatin1String("Your changes")));
+        LanguageSwitch language;
+        language.Toggle();
+        QVERIFY(label->text().startsWith(QLatin1String("~Your changes")));
+        QVERIFY(label->text().contains(QLatin1String("~The settings cannot be saved")));
+        language.Toggle();
+        QVERIFY(QDir(SettingsFile()).removeRecursively());
+        QVERIFY(m_store->Flush());
+    }
+
+    void goesWhereTheListStandsAfterTheAnswer()
+    {
+        BeginTask(QStringLiteral("Unfinished"));
+        const ExpectedBox box([this](QMessageBox& question) {
+            PageList()->setCurrentRow(2);
+            // What the list has queued comes before the answer.
+            QTimer::singleShot(0, &question,
+                               [&question] { question.button(QMessageBox::No)->click(); });
+        });
+        PageList()->setCurrentRow(1);
+        QTRY_VERIFY(box.Came());
+        QTRY_VERIFY(!NameEdit()->isVisible());
+        QCOMPARE(PageList()->currentRow(), 2);
+        QVERIFY(Find<QWidget>("languageBox")->isVisible());
+    }
+
+    void asksAboutAnUnfinishedTaskOnlyOnce()
+    {
+        BeginTask(QStringLiteral("Unfinished"));
+        KeepRecordingsIn(FullFolder());
+        std::unique_ptr<ExpectedBox> fullDisk;
+        const ExpectedBox unsaved([&](QMessageBox& question) {
+            fullDisk = std::make_unique<ExpectedBox>(QMessageBox::Ok);
+            question.button(QMessageBox::No)->click();
+        });
+        Click("startRecordingButton");
+        QVERIFY(unsaved.Came());
+        QVERIFY(fullDisk->Came());
+        QVERIFY(Find<QLineEdit>("resultsFolderEdit")->isVisible());
+        QCOMPARE(PageList()->currentRow(), 1);
+    }
+
+    void asksAboutAnUnfinishedTaskBeforeAnotherPage_data() { AddAnswers(); }
+
+    void asksAboutAnUnfinishedTaskBeforeAnotherPage()
+    {
+        QFETCH(int, answer);
+        QFETCH(QString, title);
+        QFETCH(bool, isFinished);
+        QFETCH(QString, titles);
+        BeginTask(title);
+        const ExpectedBox box(static_cast<QMessageBox::StandardButton>(answer));
+        ClickPage(1);
+        QTRY_VERIFY(box.Came());
+        QCOMPARE(PageList()->currentRow(), isFinished ? 1 : 0);
+        QCOMPARE(PageList()->selectedItems(), QList{PageList()->currentItem()});
+        QCOMPARE(Find<QLineEdit>("resultsFolderEdit")->isVisible(), isFinished);
+        QCOMPARE(NameEdit()->isVisible(), !isFinished);
+        QCOMPARE(Titles().join(QLatin1Char(',')), titles);
+        if (!isFinished) {
+            QCOMPARE(NameEdit()->text(), title);
+        }
+    }
+
+    void asksAboutAnUnfinishedTaskBeforeItCloses_data() { AddAnswers(); }
+
+    void asksAboutAnUnfinishedTaskBeforeItCloses()
+    {
+        QFETCH(int, answer);
+        QFETCH(QString, title);
+        QFETCH(bool, isFinished);
+        QFETCH(QString, titles);
+        BeginTask(title);
+        const ExpectedBox box(static_cast<QMessageBox::StandardButton>(answer));
+        QCOMPARE(m_window->close(), isFinished);
+        QVERIFY(box.Came());
+        QCOMPARE(Titles().join(QLatin1Char(',')), titles);
+        if (!isFinished) {
+            QVERIFY(NameEdit()->isVisible());
+            QCOMPARE(NameEdit()->text(), title);
+        }
+    }
+
+    void survivesItsEndWhileItAsks_data()
+    {
+        QTest::addColumn<bool>("isClosing");
+        QTest::newRow("another page") << false;
+        QTest::newRow("closing") << true;
+    }
+
+    void survivesItsEndWhileItAsks()
+    {
+        QFETCH(bool, isClosing);
+        BeginTask(QStringLiteral("Unfinished"));
+        const ExpectedBox box([this](QMessageBox&) { m_window.reset(); });
+        if (isClosing) {
+            // As a user does it, who leaves no caller behind in the window.
+            QTimer::singleShot(0, m_window.get(), &QWidget::close);
+        } else {
+            ClickPage(1);
+        }
+        QTRY_VERIFY(box.Came());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    void asksBeforeItClosesOnUnsavedSettings()
+    {
+        Open();
+        QVERIFY(m_store->Flush());
+        // Nothing can be written where a folder stands in the way.
+        QVERIFY(QFile::remove(SettingsFile()));
+        QVERIFY(QDir(m_folder->path()).mkpath(SettingsFile() + QStringLiteral("/in the way")));
+        {
+            const ExpectedBox box(PressEscape);
+            QVERIFY(!m_window->close());
+            QVERIFY(box.Came());
+        }
+        QVERIFY(m_window->isVisible());
+        {
+            const ExpectedBox box(QMessageBox::Ok);
+            QVERIFY(m_window->close());
+            QVERIFY(box.Came());
+        }
+        QVERIFY(!m_window->isVisible());
+    }
+
+    void followsAChangeOfTheme()
+    {
+        Open(Tasks(2));
+        Desktop::ApplyTheme(Desktop::Theme::Dark);
+        const QColor ground(
+            Desktop::ColorsOf(Desktop::Theme::Dark).value(QStringLiteral("window")));
+        const QImage picture = m_window->grab().toImage();
+        QCOMPARE(picture.pixelColor(picture.rect().bottomRight()), ground);
+        QCOMPARE(Find<QWidget>("scheduledCaptureSettingsRecordTableWidget")->width(), 710);
+        Desktop::ApplyTheme(Desktop::Theme::Light);
+    }
+
+    void turnsToOtherMonthsInTheDirectionOfWriting_data()
+    {
+        QTest::addColumn<int>("direction");
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("after");
+        const auto left = QStringLiteral("arrow-left");
+        const auto right = QStringLiteral("arrow-right");
+        QTest::newRow("to the right") << int(Qt::LeftToRight) << left << right;
+        QTest::newRow("to the left") << int(Qt::RightToLeft) << right << left;
+    }
+
+    void turnsToOtherMonthsInTheDirectionOfWriting()
+    {
+        QFETCH(int, direction);
+        QFETCH(QString, before);
+        QFETCH(QString, after);
+        QGuiApplication::setLayoutDirection(static_cast<Qt::LayoutDirection>(direction));
+        Open();
+        const auto* calendar =
+            Find<QDateTimeEdit>("scheduledCaptureSettingsDate")->calendarWidget();
+        const auto shows = [&](const char* button, const QString& icon) {
+            auto* arrow = calendar->findChild<QToolButton*>(QLatin1String(button));
+            arrow->ensurePolished();
+            return arrow->icon().pixmap(16).toImage()
+                == Desktop::ThemedIcon(icon).pixmap(16).toImage();
+        };
+        QVERIFY(shows("qt_calendar_prevmonth", before));
+        QVERIFY(shows("qt_calendar_nextmonth", after));
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    }
+
+    void showsFocusOnEveryControl_data()
+    {
+        QTest::addColumn<QString>("clicked");
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QString>("controls");
+        // Of a group of radio buttons, Tab stops at the checked one; the arrow keys lead to the
+        // rest.
+        QTest::newRow("schedule")
+            << QStringLiteral("scheduledCaptureRadioButton") << 0
+            << QStringLiteral(
+                   "pageList scheduledCaptureRadioButton recordTableScrollArea "
+                   "deleteToolButton scheduledCaptureSettingsAddRecordButton startRecordingButton");
+        QTest::newRow("limited capture")
+            << QStringLiteral("limitedCaptureDurationRadioButton") << 0
+            << QStringLiteral(
+                   "pageList limitedCaptureDurationRadioButton "
+                   "limitedCaptureDurationSettingsCaptureDuration "
+                   "limitedCaptureDurationSettingsActionOnFinishBox startRecordingButton");
+        QTest::newRow("files")
+            << QStringLiteral("disableScheduledCaptureRadioButton") << 1
+            << QStringLiteral("pageList resultsFolderEdit browseButton startRecordingButton");
+        QTest::newRow("general")
+            << QStringLiteral("disableScheduledCaptureRadioButton") << 2
+            << QStringLiteral(
+                   "pageList languageBox themeBox openFolderButton startRecordingButton");
+    }
+
+    void showsFocusOnEveryControl()
+    {
+        QFETCH(QString, clicked);
+        QFETCH(int, page);
+        QFETCH(QString, controls);
+        const bool withTask = clicked == QLatin1String("scheduledCaptureRadioButton");
+        Open(Tasks(withTask ? 1 : 0));
+        Click(qPrintable(clicked));
+        PageList()->setCurrentRow(page);
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QStringList found;
+        const auto widgets = m_window->findChildren<QWidget*>();
+        for (QWidget* widget : widgets) {
+            if (!IsStopOfTab(*widget)) {
+                continue;
+            }
+            if (QWidget* before = QApplication::focusWidget()) {
+                before->clearFocus();
+            }
+            const QImage without = m_window->grab().toImage();
+            widget->setFocus(Qt::TabFocusReason);
+            QVERIFY2(widget->hasFocus(), qPrintable(widget->objectName()));
+            QVERIFY2(m_window->grab().toImage() != without, qPrintable(widget->objectName()));
+            found << widget->objectName();
+        }
+        QCOMPARE(found.join(QLatin1Char(' ')), controls);
+    }
+
+    void reachesEveryFieldByItsKey_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("clicked");
+        QTest::addColumn<int>("page");
+        QTest::addColumn<int>("fields");
+        const auto codes = Desktop::LanguageCodes();
+        for (const QString& code : codes) {
+            const auto row = [&](const char* name, const char* clicked, int page, int fields) {
+                QTest::addRow("%s, %s", qPrintable(code), name)
+                    << code << QString::fromLatin1(clicked) << page << fields;
+            };
+            row("limited capture", "limitedCaptureDurationRadioButton", 0, 5);
+            row("form", "scheduledCaptureSettingsAddRecordButton", 0, 8);
+            row("files", "", 1, 1);
+            row("general", "", 2, 2);
+        }
+    }
+
+    void reachesEveryFieldByItsKey()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, clicked);
+        QFETCH(int, page);
+        QFETCH(int, fields);
+        Desktop::Translations translations;
+        translations.Use(language);
+        Open(Tasks(1));
+        if (!clicked.isEmpty()) {
+            const ExpectedBox box(QMessageBox::Ok);
+            Click(qPrintable(clicked));
+        }
+        PageList()->setCurrentRow(page);
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QList<QKeySequence> keys = KeysOfButtons();
+        int reached = 0;
+        const auto labels = m_window->findChildren<QLabel*>();
+        for (const QLabel* label : labels) {
+            QWidget* field = label->buddy();
+            if (!label->isVisible() || field == nullptr || field->focusPolicy() == Qt::NoFocus) {
+                continue;
+            }
+            const QKeySequence key = QKeySequence::mnemonic(label->text());
+            QVERIFY2(!key.isEmpty() && !keys.contains(key), qPrintable(label->text()));
+            keys << key;
+            m_window->setFocus();
+            // With its text, for letters that Qt Test knows no key of.
+            const QString letter = QChar(key[0] & ~Qt::ALT);
+            QTest::sendKeyEvent(QTest::Click, m_window->windowHandle(), Qt::Key(key[0] & ~Qt::ALT),
+                                letter, Qt::AltModifier);
+            QVERIFY2(field->hasFocus(), qPrintable(label->text()));
+            ++reached;
+        }
+        QCOMPARE(reached, fields);
+        Close();
+        translations.Use(QStringLiteral("en"));
+        QCoreApplication::sendPostedEvents();
+        QLocale::setDefault(QLocale::c());
+    }
+
+private:
+    QString SettingsFile() const { return m_folder->filePath(QStringLiteral("settings.json")); }
+
+    static void AddAnswers()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<bool>("isFinished");
+        QTest::addColumn<QString>("titles");
+        const QString before = QStringLiteral("Task 0");
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << QStringLiteral("Unfinished") << false
+                                << before;
+        QTest::newRow("do not add")
+            << int(QMessageBox::No) << QStringLiteral("Unfinished") << true << before;
+        QTest::newRow("add") << int(QMessageBox::Yes) << QStringLiteral("Unfinished") << true
+                             << QStringLiteral("Unfinished,Task 0");
+        QTest::newRow("add what cannot be added")
+            << int(QMessageBox::Yes) << before << false << before;
+    }
+
+    /// Opens the window with one task and types the title of another one.
+    void BeginTask(const QString& title)
+    {
+        Open({Record(QStringLiteral("Task 0"), At("10:00") + 24h * 3650, 30min)});
+        Click("scheduledCaptureSettingsAddRecordButton");
+        NameEdit()->setText(title);
+    }
+
+    /// Gives up the task in the form, if the form is open.
+    void FinishTask()
+    {
+        if (NameEdit()->isVisible()) {
+            const ExpectedBox box(QMessageBox::No);
+            Click("scheduledCaptureSettingsBackButton");
+        }
+    }
+
+    void ClickPage(int row)
+    {
+        const QRect place = PageList()->visualItemRect(PageList()->item(row));
+        QTest::mouseClick(PageList()->viewport(), Qt::LeftButton, Qt::NoModifier, place.center());
+    }
+
+    QLineEdit* NameEdit() const { return Find<QLineEdit>("scheduledCaptureSettingsNameLineEdit"); }
+
+    /// Where the Tab key stops, one after another, from the list of pages on.
+    QStringList StopsOfTab() const
+    {
+        QStringList stops;
+        const QWidget* widget = PageList();
+        do {
+            if (IsStopOfTab(*widget)) {
+                stops << widget->objectName();
+            }
+            widget = widget->nextInFocusChain();
+        } while (widget != PageList());
+        return stops;
+    }
+
+    /// The keys of the buttons that are on screen.
+    QList<QKeySequence> KeysOfButtons() const
+    {
+        QList<QKeySequence> keys;
+        const auto buttons = m_window->findChildren<QAbstractButton*>();
+        for (const QAbstractButton* button : buttons) {
+            const QKeySequence key = QKeySequence::mnemonic(button->text());
+            if (button->isVisible() && !key.isEmpty()) {
+                keys << key;
+            }
+        }
+        return keys;
+    }
+
+    /// Opens a window on new settings that hold \a tasks, in the mode that goes with them.
+    void Open(const std::vector<PX::RecordTime>& tasks = {})
+    {
+        OpenStore();
+        m_store->Change([&](auto& settings) {
+            settings.schedule = tasks;
+            settings.scheduledCaptureEnabled = !tasks.empty();
+        });
+        ShowWindow();
+        // Whatever room the screen of the test has.
+        m_window->resize(Desktop::MainWindow::FirstSize());
+    }
+
+    /// Opens a window on the settings as they were left.
+    void Reopen()
+    {
+        OpenStore();
+        ShowWindow();
+    }
+
+    void OpenStore()
+    {
+        m_store = std::make_shared<PX::SettingsStore>(SettingsFile());
+        QString error;
+        QVERIFY2(m_store->Open(&error), qPrintable(error));
+    }
+
+    void ShowWindow()
+    {
+        m_window = std::make_unique<Desktop::MainWindow>(
+            m_store, std::make_shared<App::LookAndFeelManager>());
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    }
+
+    void Close()
+    {
+        if (m_window != nullptr && m_window->isVisible()) {
+            FinishTask();
+            m_window->close();
+        }
+        m_window.reset();
+        m_store.reset();
+    }
+
+    void KeepRecordingsIn(const QString& folder) const
+    {
+        auto* edit = Find<QLineEdit>("resultsFolderEdit");
+        edit->setText(folder);
+        Q_EMIT edit->editingFinished();
+    }
+
+    QString StatusText() const { return m_window->findChild<QStatusBar*>()->currentMessage(); }
+
+    template <typename T> T* Find(const char* objectName) const
+    {
+        return m_window->findChild<T*>(QLatin1String(objectName));
+    }
+    QListWidget* PageList() const { return Find<QListWidget>("pageList"); }
+    QAbstractButton* Button(const char* name) const { return Find<QAbstractButton>(name); }
+    void Click(const char* name) const
+    {
+        QTest::mouseClick(Button(name), Qt::LeftButton);
+        // What is deleted later is gone now, and what moved has its new place.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::sendPostedEvents();
+    }
+    QStringList Titles() const
+    {
+        QStringList titles;
+        for (const auto& task : m_store->Settings().schedule) {
+            titles << task.title;
+        }
+        return titles;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::shared_ptr<PX::SettingsStore> m_store;
+    std::unique_ptr<Desktop::MainWindow> m_window;
+};
+
+} // namespace Zentor::Tests
+
+SCHEDULER_TEST_MAIN(Zentor::Tests::tst_MainWindow)
+
+#include "tst_MainWindow.moc"

@@ -1,0 +1,79 @@
+#include <QTemporaryDir>
+
+#include "Application/LookAndFeelManager.h"
+#include "Application/SettingsManager.h"
+#include "CpuTimer.h"
+#include "PXUserSettings/SettingsStore.h"
+#include "PXUserSettings/StoredSettings.h"
+#include "RecordSchedulerWidget.h"
+#include "Resources.h"
+#include "Samples.h"
+#include "Theme.h"
+#include "WidgetTest.h"
+
+namespace Zentor::Tests {
+namespace {
+
+std::vector<PX::RecordTime> Tasks(int count)
+{
+    std::vector<PX::RecordTime> tasks;
+    for (int i = 0; i < count; ++i) {
+        tasks.push_back(Record(QStringLiteral("Lecture %1").arg(i),
+                               At("00:00") + std::chrono::minutes(i), std::chrono::minutes(1)));
+    }
+    return tasks;
+}
+
+} // namespace
+
+/// The panel, the host and the style sheet together, as they ship.
+class tst_RestoringManyTasks : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { Desktop::RegisterResources(); }
+
+    void takesUnderASecondAndOneWrite()
+    {
+        constexpr int taskCount = 1000;
+        const QTemporaryDir folder;
+        const auto store = std::make_shared<PX::SettingsStore>(folder.filePath("settings.json"));
+        QString error;
+        QVERIFY2(store->Open(&error), qPrintable(error));
+        store->Change([](PX::UserSettings& settings) {
+            settings.schedule = Tasks(taskCount);
+            settings.scheduledCaptureEnabled = true;
+        });
+        QVERIFY(store->Flush());
+
+        Desktop::ApplyTheme(Desktop::Theme::Light);
+        PX::Scheduler::UI::RecordSchedulerWidget panel(
+            std::make_shared<App::LookAndFeelManager>(),
+            std::make_shared<App::SettingsManager>(store), nullptr);
+        panel.SetSchedulerSettings(std::make_shared<PX::StoredSchedulerSettings>(store));
+        panel.SetCaptureFinishActionSettings(
+            std::make_shared<PX::StoredCaptureFinishActionSettings>(store));
+        panel.SetSettingsWatcher(std::make_shared<PX::StoringSettingsWatcher>(store));
+        panel.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&panel));
+
+        const QSignalSpy saved(store.get(), &PX::SettingsStore::Saved);
+        const CpuTimer timer;
+        panel.RestoreSettings();
+        QTRY_VERIFY(saved.count() > 0);
+        const auto elapsed = timer.Milliseconds();
+        qInfo("%d tasks restored, shown and saved in %.0f ms", taskCount, elapsed);
+        QCOMPARE(panel.findChildren<QWidget*>("infoRecordFrame").size(), taskCount);
+        QVERIFY(store->Flush());
+        QCOMPARE(saved.count(), 1);
+#ifdef NDEBUG
+        QVERIFY(elapsed < 1000);
+#endif
+    }
+};
+
+} // namespace Zentor::Tests
+
+SCHEDULER_TEST_MAIN(Zentor::Tests::tst_RestoringManyTasks)
+
+#include "tst_RestoringManyTasks.moc"

@@ -1,0 +1,95 @@
+#include <QPaintEvent>
+
+#include "StatusLine.h"
+#include "WidgetTest.h"
+
+namespace Zentor::Tests {
+
+namespace {
+
+/// Notes what is painted anew.
+class PaintedLine final : public Desktop::StatusLine {
+public:
+    QRegion painted;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        painted += event->region();
+        Desktop::StatusLine::paintEvent(event);
+    }
+};
+
+} // namespace
+
+class tst_StatusLine : public WidgetTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsWhatDoesNotFitInItsTip()
+    {
+        Desktop::StatusLine line;
+        line.resize(300, 24);
+        line.show();
+        line.showMessage("Short");
+        QCOMPARE(line.toolTip(), QString());
+        const QString message = QString("A <b>long</b> message ").repeated(10);
+        line.showMessage(message);
+        QCOMPARE(line.toolTip(), message.toHtmlEscaped());
+        QCOMPARE(line.currentMessage(), message);
+        line.resize(3000, 24);
+        QCOMPARE(line.toolTip(), QString());
+        line.clearMessage();
+        QCOMPARE(line.toolTip(), QString());
+    }
+
+    void clearsTheWholeMessage_data()
+    {
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("left to right") << Qt::LeftToRight;
+        QTest::newRow("right to left") << Qt::RightToLeft;
+    }
+
+    void clearsTheWholeMessage()
+    {
+        QFETCH(Qt::LayoutDirection, direction);
+        PaintedLine line;
+        line.setLayoutDirection(direction);
+        line.resize(200, 24);
+        line.show();
+        line.showMessage("Message");
+        QVERIFY(QTest::qWaitForWindowExposed(&line));
+        QTRY_VERIFY(!line.painted.isEmpty());
+        line.painted = {};
+        line.clearMessage();
+        QTRY_COMPARE(line.painted.boundingRect(), line.rect());
+    }
+
+    void paintsTheMessageShortened()
+    {
+        Desktop::StatusLine line;
+        line.resize(200, 24);
+        line.show();
+        line.showMessage(QString("Message ").repeated(20));
+        const auto picture = line.grab().toImage();
+        const auto ground = picture.pixelColor(1, 1);
+        const auto hasInk = [&](int from, int to) {
+            for (int x = from; x < to; ++x) {
+                for (int y = 4; y < 20; ++y) {
+                    if (picture.pixelColor(x, y) != ground) {
+                        return true;
+                    }
+                }
+            }
+            return false;
+        };
+        QVERIFY(hasInk(6, 60));
+        QVERIFY(!hasInk(195, 199));
+    }
+};
+
+} // namespace Zentor::Tests
+
+SCHEDULER_TEST_MAIN(Zentor::Tests::tst_StatusLine)
+
+#include "tst_StatusLine.moc"
