@@ -3,14 +3,15 @@
 #include <QApplication>
 
 #include "Application/LookAndFeelManager.h"
-#include "PXUserSettings/SettingsStore.h"
+#include "ApplicationSettings.h"
 #include "Theme.h"
 
 namespace Zentor::Desktop {
 namespace {
 
-Look LookOf(const PX::UserSettings& settings)
+Look LookIn(const PX::SettingsStore& store)
 {
+    const ApplicationSettings settings = ApplicationSettingsIn(store);
     return {settings.language, settings.theme};
 }
 
@@ -25,7 +26,7 @@ Appearance::Appearance(std::shared_ptr<PX::SettingsStore> store,
                        std::shared_ptr<App::LookAndFeelManager> lookAndFeel, const Look& wanted)
     : m_store(std::move(store))
     , m_lookAndFeel(std::move(lookAndFeel))
-    , m_stored(LookOf(m_store->Settings()))
+    , m_stored(LookIn(*m_store))
     , m_wanted{FirstOf(wanted.language, m_stored.language), FirstOf(wanted.theme, m_stored.theme)}
 {
     UseLanguage();
@@ -38,7 +39,7 @@ Appearance::~Appearance() = default;
 
 void Appearance::TakeOverChanges()
 {
-    const Look before = std::exchange(m_stored, LookOf(m_store->Settings()));
+    const Look before = std::exchange(m_stored, LookIn(*m_store));
     if (m_stored.language != before.language) {
         m_wanted.language = m_stored.language;
         UseLanguage();

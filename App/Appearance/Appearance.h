@@ -16,8 +16,7 @@ class LookAndFeelManager;
 }
 namespace PX {
 class SettingsStore;
-struct UserSettings;
-} // namespace PX
+}
 } // namespace Zentor
 
 namespace Zentor::Desktop {
@@ -26,7 +25,7 @@ namespace Zentor::Desktop {
 struct Look {
     /// One of LanguageCodes(), or empty for the language of the system.
     QString language;
-    /// "light" or "dark", or empty for the theme of the desktop.
+    /// One of ThemeNames(), or empty for the theme of the desktop.
     QString theme;
 };
 

@@ -27,25 +27,10 @@ QStringList Sorted(const QSet<QString>& names)
 
 } // namespace
 
-QString ThemeName(Theme theme)
-{
-    return theme == Theme::Dark ? QStringLiteral("dark") : QStringLiteral("light");
-}
-
 Theme ThemeOf(const QPalette& palette)
 {
     constexpr int middle = 128;
     return palette.color(QPalette::Window).lightness() < middle ? Theme::Dark : Theme::Light;
-}
-
-Theme ThemeFromName(const QString& name, Theme otherwise)
-{
-    for (const Theme theme : {Theme::Light, Theme::Dark}) {
-        if (name == ThemeName(theme)) {
-            return theme;
-        }
-    }
-    return otherwise;
 }
 
 ColorTable ParseColors(const QString& text, QStringList* problems)

@@ -7,9 +7,9 @@
 #include <QString>
 #include <QStringList>
 
-namespace Zentor::Desktop {
+#include "ThemeName.h"
 
-enum class Theme { Light, Dark };
+namespace Zentor::Desktop {
 
 /// The named colours of one theme, by name, written as "#rrggbb".
 using ColorTable = QMap<QString, QString>;
@@ -23,15 +23,8 @@ struct FilledSheet {
     QStringList unusedNames;
 };
 
-/// "light" or "dark": what the theme is called on the command line, in the settings, and in the
-/// names of resources.
-QString ThemeName(Theme theme);
-
 /// The theme that goes with \a palette: dark when its windows are.
 Theme ThemeOf(const QPalette& palette);
-
-/// The theme called \a name, or \a otherwise when no theme is called so.
-Theme ThemeFromName(const QString& name, Theme otherwise);
 
 /// Reads lines of the form "name: #rrggbb". Empty lines and lines starting with "//" are skipped.
 /// A line that is neither, and a name that comes twice, is added to \a problems.

@@ -10,8 +10,8 @@
 #include <QPushButton>
 #include <QShowEvent>
 
+#include "Controls.h"
 #include "HostInterfaces.h"
-#include "Page.h"
 #include "PXUserSettings/SettingsStore.h"
 
 namespace Zentor::Desktop {
@@ -34,7 +34,7 @@ QString PathOf(const QString& text)
 } // namespace
 
 FilesPage::FilesPage(std::shared_ptr<PX::SettingsStore> store, QWidget* parent)
-    : QFrame(parent)
+    : Page(PageId(), parent)
     , m_store(std::move(store))
 {
     setObjectName(QStringLiteral("filesCard"));
@@ -46,24 +46,35 @@ FilesPage::FilesPage(std::shared_ptr<PX::SettingsStore> store, QWidget* parent)
 
 FilesPage::~FilesPage() = default;
 
+QString FilesPage::PageId()
+{
+    return QStringLiteral("files");
+}
+
+QString FilesPage::Title() const
+{
+    return tr("Files");
+}
+
+QString FilesPage::Description() const
+{
+    return tr("Choose where recordings are kept.");
+}
+
 void FilesPage::BuildWidgets()
 {
     m_folderLabel = CreateLabel(QStringLiteral("resultsFolderLabel"), this);
     m_folderEdit = new QLineEdit(this);
     m_folderEdit->setObjectName(QStringLiteral("resultsFolderEdit"));
     m_folderLabel->setBuddy(m_folderEdit);
-    m_browseButton = new QPushButton(this);
-    m_browseButton->setObjectName(QStringLiteral("browseButton"));
-    // Lets Enter press it when it has the focus.
-    m_browseButton->setAutoDefault(true);
+    m_browseButton = CreateButton(QStringLiteral("browseButton"), this);
     m_problemLabel = CreateLabel(QStringLiteral("folderProblemLabel"), this);
     m_problemLabel->hide();
     m_freeSpaceLabel = CreateLabel(QStringLiteral("freeSpaceLabel"), this);
 
-    constexpr int spacing = 8;
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(spacing);
+    grid->setSpacing(ControlSpacing);
     grid->addWidget(m_folderLabel, 0, 0, 1, 2);
     grid->addWidget(m_folderEdit, 1, 0);
     grid->addWidget(m_browseButton, 1, 1);
@@ -157,7 +168,7 @@ void FilesPage::changeEvent(QEvent* event)
         Retranslate();
         ShowStored();
     }
-    QFrame::changeEvent(event);
+    Page::changeEvent(event);
 }
 
 void FilesPage::showEvent(QShowEvent* event)
@@ -169,7 +180,7 @@ void FilesPage::showEvent(QShowEvent* event)
     } else {
         ShowStored();
     }
-    QFrame::showEvent(event);
+    Page::showEvent(event);
 }
 
 } // namespace Zentor::Desktop

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include <QFrame>
+#include "Page.h"
 
 class QLabel;
 class QLineEdit;
@@ -14,18 +14,23 @@ class SettingsStore;
 
 namespace Zentor::Desktop {
 
-/// The settings of the page "Files": in which folder recordings are kept, and how much room is
-/// left there.
-class FilesPage : public QFrame {
+/// The page "Files": in which folder recordings are kept, and how much room is left there.
+class FilesPage final : public Page {
     Q_OBJECT
 
 public:
     FilesPage(std::shared_ptr<PX::SettingsStore> store, QWidget* parent);
     ~FilesPage() override;
 
+    /// The Id() of this page.
+    static QString PageId();
+
+    QString Title() const override;
+    QString Description() const override;
+
     /// Stores the folder that stands in the field. A path that cannot be a results folder is marked
     /// and not stored.
-    void Apply();
+    void Apply() override;
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -15,70 +15,16 @@
 #include <QUrl>
 
 #include "Application/SettingsManager.h"
+#include "ApplicationSettings.h"
+#include "Controls.h"
 #include "Languages.h"
 #include "Log.h"
-#include "Page.h"
-#include "PXUserSettings/SettingsStore.h"
 #include "Theme.h"
 
 namespace Zentor::Desktop {
-namespace {
-
-constexpr int spacing = 8;
-
-QFrame* CreateCard(const QString& objectName, QWidget* parent)
-{
-    auto* card = new QFrame(parent);
-    card->setObjectName(objectName);
-    return card;
-}
-
-QPushButton* CreateButton(const QString& objectName, QWidget* parent)
-{
-    auto* button = new QPushButton(parent);
-    button->setObjectName(objectName);
-    // Lets Enter press it when it has the focus.
-    button->setAutoDefault(true);
-    return button;
-}
-
-/// A box with one entry for each of \a values, whose texts are set later.
-QComboBox* CreateBox(const QString& objectName, const QStringList& values, QWidget* parent)
-{
-    auto* box = new QComboBox(parent);
-    box->setObjectName(objectName);
-    box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    for (const QString& value : values) {
-        box->addItem(QString(), value);
-    }
-    box->setMaxVisibleItems(box->count());
-    // Whoever scrolls the page does not mean to change what lies under the mouse by chance.
-    new PX::UI::WheelEventsBlocker(box);
-    return box;
-}
-
-/// Makes \a box as wide as its longest text. By itself it goes by the ink of the letters, which is
-/// less than what they take.
-void MakeRoom(QComboBox& box)
-{
-    const QFontMetrics metrics = box.fontMetrics();
-    int widest = 0;
-    for (int index = 0; index < box.count(); ++index) {
-        widest = std::max(widest, metrics.horizontalAdvance(box.itemText(index)));
-    }
-    box.setMinimumContentsLength(1 + widest / metrics.horizontalAdvance(QLatin1Char('X')));
-}
-
-/// Selects \a value or, where it is none of the box's, the first entry, which stands for no choice.
-void Select(QComboBox& box, const QString& value)
-{
-    box.setCurrentIndex(std::max(0, box.findData(value)));
-}
-
-} // namespace
 
 GeneralPage::GeneralPage(std::shared_ptr<PX::SettingsStore> store, QWidget* parent)
-    : QWidget(parent)
+    : Page(PageId(), parent)
     , m_store(std::move(store))
 {
     setObjectName(QStringLiteral("generalPage"));
@@ -90,26 +36,42 @@ GeneralPage::GeneralPage(std::shared_ptr<PX::SettingsStore> store, QWidget* pare
     column->addWidget(CreateSupportCard());
     Connect();
     Retranslate();
+    StyleComboBoxLists(*this);
     ShowStored();
 }
 
 GeneralPage::~GeneralPage() = default;
 
+QString GeneralPage::PageId()
+{
+    return QStringLiteral("general");
+}
+
+QString GeneralPage::Title() const
+{
+    return tr("General");
+}
+
+QString GeneralPage::Description() const
+{
+    return tr("Choose language and theme.");
+}
+
 QFrame* GeneralPage::CreateLookCard()
 {
     QFrame* card = CreateCard(QStringLiteral("lookCard"), this);
     m_languageLabel = CreateLabel(QStringLiteral("languageLabel"), card);
-    m_languageBox =
-        CreateBox(QStringLiteral("languageBox"), QStringList{QString()} + LanguageCodes(), card);
+    m_languageBox = CreateComboBox(QStringLiteral("languageBox"),
+                                   QStringList{QString()} + LanguageCodes(), card);
     m_languageLabel->setBuddy(m_languageBox);
     m_themeLabel = CreateLabel(QStringLiteral("themeLabel"), card);
-    m_themeBox = CreateBox(QStringLiteral("themeBox"),
-                           {QString(), ThemeName(Theme::Light), ThemeName(Theme::Dark)}, card);
+    m_themeBox =
+        CreateComboBox(QStringLiteral("themeBox"), QStringList{QString()} + ThemeNames(), card);
     m_themeLabel->setBuddy(m_themeBox);
 
     auto* grid = new QGridLayout(card);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(spacing);
+    grid->setSpacing(ControlSpacing);
     grid->addWidget(m_languageLabel, 0, 0);
     grid->addWidget(m_languageBox, 0, 1);
     grid->addWidget(m_themeLabel, 1, 0);
@@ -126,7 +88,7 @@ QFrame* GeneralPage::CreateQuestionsCard()
 
     auto* row = new QHBoxLayout(card);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(2 * spacing);
+    row->setSpacing(2 * ControlSpacing);
     row->addWidget(m_questionsLabel, 1);
     row->addWidget(m_askAgainButton);
     return card;
@@ -142,13 +104,13 @@ QFrame* GeneralPage::CreateSupportCard()
     m_problemLabel->hide();
 
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(spacing);
+    buttons->setSpacing(ControlSpacing);
     buttons->addWidget(m_openFolderButton);
     buttons->addWidget(m_openLogButton);
     buttons->addStretch(1);
     auto* column = new QVBoxLayout(card);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(spacing);
+    column->setSpacing(ControlSpacing);
     column->addWidget(m_supportLabel);
     column->addLayout(buttons);
     column->addWidget(m_problemLabel);
@@ -159,11 +121,11 @@ void GeneralPage::Connect()
 {
     connect(m_languageBox, qOverload<int>(&QComboBox::activated), this, [this](int index) {
         const QString code = m_languageBox->itemData(index).toString();
-        m_store->Change([&](PX::UserSettings& settings) { settings.language = code; });
+        ChangeApplicationSettings(*m_store, [&](auto& settings) { settings.language = code; });
     });
     connect(m_themeBox, qOverload<int>(&QComboBox::activated), this, [this](int index) {
         const QString name = m_themeBox->itemData(index).toString();
-        m_store->Change([&](PX::UserSettings& settings) { settings.theme = name; });
+        ChangeApplicationSettings(*m_store, [&](auto& settings) { settings.theme = name; });
     });
     connect(m_askAgainButton, &QPushButton::clicked, this, &GeneralPage::ForgetAnswers);
     connect(m_openFolderButton, &QPushButton::clicked, this,
@@ -180,12 +142,12 @@ void GeneralPage::Retranslate()
     for (int index = 1; index < m_languageBox->count(); ++index) {
         m_languageBox->setItemText(index, LanguageName(m_languageBox->itemData(index).toString()));
     }
-    MakeRoom(*m_languageBox);
+    WidenToTexts(*m_languageBox);
     m_themeLabel->setText(tr("&Theme:"));
     m_themeBox->setItemText(0, tr("System default"));
     m_themeBox->setItemText(1, tr("Light"));
     m_themeBox->setItemText(2, tr("Dark"));
-    MakeRoom(*m_themeBox);
+    WidenToTexts(*m_themeBox);
     m_askAgainButton->setText(tr("&Ask all questions again"));
     m_supportLabel->setText(
         tr("When something goes wrong, your settings and the log of this run help "
@@ -196,10 +158,10 @@ void GeneralPage::Retranslate()
 
 void GeneralPage::ShowStored()
 {
-    const PX::UserSettings& settings = m_store->Settings();
-    Select(*m_languageBox, settings.language);
-    Select(*m_themeBox, settings.theme);
-    const auto& answers = settings.confirmations;
+    const ApplicationSettings settings = ApplicationSettingsIn(*m_store);
+    SelectValue(*m_languageBox, settings.language);
+    SelectValue(*m_themeBox, settings.theme);
+    const auto& answers = m_store->Settings().confirmations;
     const bool isSomeForgone = std::find(answers.begin(), answers.end(), true) != answers.end();
     m_askAgainButton->setEnabled(isSomeForgone);
     m_questionsLabel->setText(
@@ -221,7 +183,7 @@ void GeneralPage::ShowLog()
 void GeneralPage::ForgetAnswers()
 {
     App::SettingsManager(m_store).ForgetAll();
-    Q_EMIT Happened(tr("All questions will be asked again"));
+    Q_EMIT Announced(tr("All questions will be asked again"));
 }
 
 void GeneralPage::OpenLog()
@@ -247,7 +209,7 @@ void GeneralPage::ShowProblem(const QString& problem)
     m_problemLabel->setText(problem);
     m_problemLabel->setVisible(!problem.isEmpty());
     if (!problem.isEmpty()) {
-        Q_EMIT Happened(problem);
+        Q_EMIT Announced(problem);
     }
 }
 
@@ -259,7 +221,7 @@ void GeneralPage::changeEvent(QEvent* event)
         ShowLog();
         ShowProblem({});
     }
-    QWidget::changeEvent(event);
+    Page::changeEvent(event);
 }
 
 void GeneralPage::showEvent(QShowEvent* event)
@@ -268,7 +230,7 @@ void GeneralPage::showEvent(QShowEvent* event)
     if (!event->spontaneous()) {
         ShowProblem({});
     }
-    QWidget::showEvent(event);
+    Page::showEvent(event);
 }
 
 } // namespace Zentor::Desktop

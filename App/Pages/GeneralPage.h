@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include <QWidget>
+#include "Page.h"
 
 class QComboBox;
 class QFrame;
@@ -15,20 +15,22 @@ class SettingsStore;
 
 namespace Zentor::Desktop {
 
-/// The settings of the page "General": language and theme, the questions that are no longer asked,
+/// The page "General": language and theme, the questions that are no longer asked,
 /// and where settings and log are.
 ///
 /// A choice is stored at once. Appearance takes it over from the settings.
-class GeneralPage : public QWidget {
+class GeneralPage final : public Page {
     Q_OBJECT
 
 public:
     GeneralPage(std::shared_ptr<PX::SettingsStore> store, QWidget* parent);
     ~GeneralPage() override;
 
-Q_SIGNALS:
-    /// Something has just been done that is hard to see; \a text says what.
-    void Happened(const QString& text);
+    /// The Id() of this page.
+    static QString PageId();
+
+    QString Title() const override;
+    QString Description() const override;
 
 protected:
     void changeEvent(QEvent* event) override;

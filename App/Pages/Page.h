@@ -1,43 +1,53 @@
 #pragma once
 
-#include <QScrollArea>
-
-class QLabel;
+#include <QFrame>
+#include <QIcon>
+#include <QString>
 
 namespace Zentor::Desktop {
 
-/// One page of settings: a title, a line that says what the page is for, and the settings.
+/// A page of settings, as the window knows it: by id, title and icon.
 ///
-/// Where the window is too small for the page, the page scrolls: also to what receives the focus
-/// other than by mouse.
-class Page : public QScrollArea {
+/// A page retranslates itself; the window asks for title and description anew when the language
+/// changes.
+class Page : public QFrame {
     Q_OBJECT
 
 public:
-    /// Takes ownership of \a settings. \a id names the page in the stored settings.
-    Page(const QString& id, QWidget* settings, QWidget* parent);
-
-    /// The id given to the constructor.
+    /// Names the page in the stored settings, in links to it, and its icon.
     QString Id() const { return m_id; }
 
-    /// Puts \a settings in the place of those before, which are deleted. Takes ownership.
-    void ReplaceSettings(QWidget* settings);
+    /// The icon in the colours of the theme in use.
+    QIcon Icon() const;
 
-    /// Sets the title and the line below it.
-    void SetTexts(const QString& title, const QString& description);
+    /// What the page is called, in the language in use.
+    virtual QString Title() const = 0;
+
+    /// What the page is for, in a sentence.
+    virtual QString Description() const = 0;
+
+    /// Stores what has been entered and is stored only later otherwise.
+    virtual void Apply() { }
+
+    /// Whether there is input that is lost when the page is hidden.
+    virtual bool HasUnfinishedInput() const { return false; }
+
+    /// Asks the user what becomes of unfinished input. Returns whether none is left. The page may
+    /// be destroyed meanwhile; the answer is false then.
+    virtual bool FinishInput() { return true; }
+
+    /// Gives the focus to the control that unfinished input is in.
+    virtual void FocusInput() { }
+
+Q_SIGNALS:
+    /// Something has been done that is hard to see; \a text says what.
+    void Announced(const QString& text);
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
+    Page(const QString& id, QWidget* parent);
 
 private:
     QString m_id;
-    QWidget* m_settings = nullptr;
-    QWidget* m_head = nullptr;
-    QLabel* m_title = nullptr;
-    QLabel* m_description = nullptr;
 };
-
-/// A new label that shows its text literally, wrapped where it does not fit; \a parent owns it.
-QLabel* CreateLabel(const QString& objectName, QWidget* parent);
 
 } // namespace Zentor::Desktop

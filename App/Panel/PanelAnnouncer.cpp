@@ -5,10 +5,10 @@
 
 #include <QAccessible>
 #include <QEvent>
-#include <QWidget>
+#include <QLineEdit>
+#include <QTimeEdit>
 
 #include "PXUserSettings/SettingsStore.h"
-#include "RecordSchedulerWidget.h"
 
 namespace Zentor::Desktop {
 namespace {
@@ -32,16 +32,14 @@ QString ExtraOf(const QStringList& longer, const QStringList& shorter)
 
 } // namespace
 
-PanelAnnouncer::PanelAnnouncer(PX::Scheduler::UI::RecordSchedulerWidget* panel,
-                               std::shared_ptr<PX::SettingsStore> store)
+PanelAnnouncer::PanelAnnouncer(QWidget* panel, std::shared_ptr<PX::SettingsStore> store)
     : QObject(panel)
     , m_store(std::move(store))
-    , m_name(panel->findChild<QWidget*>(QStringLiteral("scheduledCaptureSettingsNameLineEdit")))
-    , m_start(panel->findChild<QWidget*>(QStringLiteral("scheduledCaptureSettingsStartTime")))
+    , m_parts(*panel)
     , m_titles(TitlesOf(m_store->Settings().schedule))
 {
-    m_name->installEventFilter(this);
-    m_start->installEventFilter(this);
+    m_parts.nameField->installEventFilter(this);
+    m_parts.startField->installEventFilter(this);
     connect(m_store.get(), &PX::SettingsStore::Changed, this, &PanelAnnouncer::CompareSchedule);
 }
 
@@ -75,7 +73,7 @@ void PanelAnnouncer::UpdateProblem()
         return;
     }
     m_problem = problem;
-    for (QWidget* field : {m_name, m_start}) {
+    for (QWidget* field : std::initializer_list<QWidget*>{m_parts.nameField, m_parts.startField}) {
         // A field without a description of its own is described by its tool tip.
         QAccessibleEvent event(field, QAccessible::DescriptionChanged);
         QAccessible::updateAccessibility(&event);
@@ -85,11 +83,11 @@ void PanelAnnouncer::UpdateProblem()
 
 QString PanelAnnouncer::ShownProblem() const
 {
-    if (!m_name->isVisible()) {
+    if (!m_parts.nameField->isVisible()) {
         return {};
     }
-    const QString ofName = m_name->toolTip();
-    return ofName.isEmpty() ? m_start->toolTip() : ofName;
+    const QString ofName = m_parts.nameField->toolTip();
+    return ofName.isEmpty() ? m_parts.startField->toolTip() : ofName;
 }
 
 } // namespace Zentor::Desktop

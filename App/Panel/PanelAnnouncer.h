@@ -6,14 +6,11 @@
 #include <QString>
 #include <QStringList>
 
-class QWidget;
+#include "PanelParts.h"
 
 namespace Zentor::PX {
 class SettingsStore;
-namespace Scheduler::UI {
-class RecordSchedulerWidget;
 }
-} // namespace Zentor::PX
 
 namespace Zentor::Desktop {
 
@@ -24,8 +21,7 @@ class PanelAnnouncer : public QObject {
 
 public:
     /// Belongs to \a panel, which stores its schedule in \a store.
-    PanelAnnouncer(PX::Scheduler::UI::RecordSchedulerWidget* panel,
-                   std::shared_ptr<PX::SettingsStore> store);
+    PanelAnnouncer(QWidget* panel, std::shared_ptr<PX::SettingsStore> store);
     ~PanelAnnouncer() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -43,9 +39,7 @@ private:
     QString ShownProblem() const;
 
     std::shared_ptr<PX::SettingsStore> m_store;
-    /// The fields that a problem is shown at.
-    QWidget* m_name;
-    QWidget* m_start;
+    const PanelParts m_parts;
     QString m_problem;
     QStringList m_titles;
 };

@@ -5,18 +5,15 @@
 #include <QPushButton>
 
 #include "CalendarArrow.h"
-#include "RecordSchedulerWidget.h"
 
 namespace Zentor::Desktop {
 
-PanelMouse::PanelMouse(PX::Scheduler::UI::RecordSchedulerWidget* panel)
+PanelMouse::PanelMouse(QWidget* panel)
     : QObject(panel)
-    , m_date(panel->findChild<QDateTimeEdit*>(QStringLiteral("scheduledCaptureSettingsDate")))
-    , m_addButton(
-          panel->findChild<QPushButton*>(QStringLiteral("scheduledCaptureSettingsAddRecordButton")))
+    , m_parts(*panel)
 {
-    m_date->installEventFilter(this);
-    m_addButton->installEventFilter(this);
+    m_parts.dateField->installEventFilter(this);
+    m_parts.addButton->installEventFilter(this);
 }
 
 PanelMouse::~PanelMouse() = default;
@@ -24,17 +21,17 @@ PanelMouse::~PanelMouse() = default;
 bool PanelMouse::eventFilter(QObject* watched, QEvent* event)
 {
     const bool isSecondPress = event->type() == QEvent::MouseButtonDblClick;
-    if (watched == m_addButton) {
+    if (watched == m_parts.addButton) {
         return isSecondPress;
     }
     if (event->type() != QEvent::MouseButtonPress && !isSecondPress) {
         return false;
     }
     // A field with a calendar takes its frame for the arrow that a field without one has there.
-    if (CalendarArrowOf(*m_date).contains(static_cast<QMouseEvent*>(event)->pos())) {
+    if (CalendarArrowOf(*m_parts.dateField).contains(static_cast<QMouseEvent*>(event)->pos())) {
         return false;
     }
-    m_date->setFocus(Qt::MouseFocusReason);
+    m_parts.dateField->setFocus(Qt::MouseFocusReason);
     return true;
 }
 

@@ -2,12 +2,7 @@
 
 #include <QObject>
 
-class QAbstractButton;
-class QDateTimeEdit;
-
-namespace Zentor::PX::Scheduler::UI {
-class RecordSchedulerWidget;
-}
+#include "PanelParts.h"
 
 namespace Zentor::Desktop {
 
@@ -21,14 +16,13 @@ class PanelMouse : public QObject {
 
 public:
     /// Belongs to \a panel.
-    explicit PanelMouse(PX::Scheduler::UI::RecordSchedulerWidget* panel);
+    explicit PanelMouse(QWidget* panel);
     ~PanelMouse() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QDateTimeEdit* m_date;
-    QAbstractButton* m_addButton;
+    const PanelParts m_parts;
 };
 
 } // namespace Zentor::Desktop

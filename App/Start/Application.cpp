@@ -14,11 +14,11 @@
 
 #include "Appearance.h"
 #include "Application/LookAndFeelManager.h"
+#include "ApplicationSettings.h"
 #include "CommandLine.h"
 #include "Languages.h"
 #include "Log.h"
 #include "MainWindow.h"
-#include "PXUserSettings/SettingsStore.h"
 #include "Resources.h"
 #include "ScreenshotTour.h"
 #include "TourScript.h"
@@ -86,6 +86,7 @@ QString Open(PX::SettingsStore& store, const CommandLine& line)
     // Which language the user has chosen is not known yet.
     Translations translations;
     translations.Use(LanguageFor(line.language));
+    store.AddSection(ApplicationSettingsSection());
     QString reason;
     store.Open(&reason);
     return reason;

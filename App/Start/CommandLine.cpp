@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 
 #include "Languages.h"
+#include "ThemeName.h"
 
 namespace Zentor::Desktop {
 namespace {
@@ -75,7 +76,7 @@ QString ProblemOf(const QCommandLineParser& parser, const Options& options)
         return Text::tr("unexpected argument '%1'").arg(parser.positionalArguments().constFirst());
     }
     const QString theme = parser.value(options.theme);
-    if (!theme.isEmpty() && theme != QLatin1String("light") && theme != QLatin1String("dark")) {
+    if (!theme.isEmpty() && !ThemeNames().contains(theme)) {
         return Text::tr("unknown theme '%1'; the themes are light and dark").arg(theme);
     }
     const QString language = parser.value(options.language);

@@ -23,7 +23,7 @@ struct CommandLine {
     QString settingsFile;
     /// Code of one of the languages of Languages.h, or empty for the user's own choice.
     QString language;
-    /// "light" or "dark", or empty for the user's own choice.
+    /// One of ThemeNames(), or empty for the user's own choice.
     QString theme;
     /// Folder for the pictures of the screenshot tour, or empty for no tour.
     QString screenshotsFolder;

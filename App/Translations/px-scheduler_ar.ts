@@ -328,6 +328,14 @@
         <source>Free space: %1</source>
         <translation>المساحة الحرة: %1</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>الملفات</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>اختر مكان حفظ التسجيلات.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
@@ -391,6 +399,14 @@
         <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
         <translation>عند حدوث مشكلة، تساعد إعداداتك وسجل هذا التشغيل على معرفة السبب.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>عام</translation>
+    </message>
+    <message>
+        <source>Choose language and theme.</source>
+        <translation>اختر لغة التطبيق ومظهره.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::MainWindow</name>
@@ -401,22 +417,6 @@
     <message>
         <source>Settings pages</source>
         <translation>صفحات الإعدادات</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>الجدول</translation>
-    </message>
-    <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>اختر متى يتوقف التسجيل أو يبدأ تلقائيًا.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>الملفات</translation>
-    </message>
-    <message>
-        <source>Choose where recordings are kept.</source>
-        <translation>اختر مكان حفظ التسجيلات.</translation>
     </message>
     <message>
         <source>Your changes could not be saved: %1</source>
@@ -442,18 +442,6 @@
         <source>&amp;Start recording</source>
         <translation>بدء التسجيل (&amp;ب)</translation>
     </message>
-    <message>
-        <source>Recording schedule</source>
-        <translation>جدول التسجيل</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>عام</translation>
-    </message>
-    <message>
-        <source>Choose language and theme.</source>
-        <translation>اختر لغة التطبيق ومظهره.</translation>
-    </message>
 </context>
 <context>
     <name>Zentor::Desktop::PanelAnnouncer</name>
@@ -468,6 +456,21 @@
     <message>
         <source>Task deleted: %1</source>
         <translation>حُذفت المهمة: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::SchedulePage</name>
+    <message>
+        <source>Schedule</source>
+        <translation>الجدول</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>اختر متى يتوقف التسجيل أو يبدأ تلقائيًا.</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>جدول التسجيل</translation>
     </message>
 </context>
 <context>

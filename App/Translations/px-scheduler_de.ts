@@ -328,6 +328,14 @@
         <source>Free space: %1</source>
         <translation>Freier Speicherplatz: %1</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>Legen Sie fest, wo Aufnahmen gespeichert werden.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
@@ -391,6 +399,14 @@
         <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
         <translation>Wenn etwas nicht stimmt, helfen Ihre Einstellungen und das Protokoll dieses Laufs, den Grund zu finden.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Choose language and theme.</source>
+        <translation>Legen Sie Sprache und Aussehen der Anwendung fest.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::MainWindow</name>
@@ -401,22 +417,6 @@
     <message>
         <source>Settings pages</source>
         <translation>Einstellungsseiten</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>Zeitplan</translation>
-    </message>
-    <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Legen Sie fest, wann eine Aufnahme von selbst endet oder beginnt.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Dateien</translation>
-    </message>
-    <message>
-        <source>Choose where recordings are kept.</source>
-        <translation>Legen Sie fest, wo Aufnahmen gespeichert werden.</translation>
     </message>
     <message>
         <source>Your changes could not be saved: %1</source>
@@ -442,18 +442,6 @@
         <source>&amp;Start recording</source>
         <translation>Aufnahme &amp;starten</translation>
     </message>
-    <message>
-        <source>Recording schedule</source>
-        <translation>Aufnahmezeitplan</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Allgemein</translation>
-    </message>
-    <message>
-        <source>Choose language and theme.</source>
-        <translation>Legen Sie Sprache und Aussehen der Anwendung fest.</translation>
-    </message>
 </context>
 <context>
     <name>Zentor::Desktop::PanelAnnouncer</name>
@@ -468,6 +456,21 @@
     <message>
         <source>Task deleted: %1</source>
         <translation>Aufgabe gelöscht: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::SchedulePage</name>
+    <message>
+        <source>Schedule</source>
+        <translation>Zeitplan</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>Legen Sie fest, wann eine Aufnahme von selbst endet oder beginnt.</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Aufnahmezeitplan</translation>
     </message>
 </context>
 <context>

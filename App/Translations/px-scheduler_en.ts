@@ -328,6 +328,14 @@
         <source>Free space: %1</source>
         <translation>Free space: %1</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>Choose where recordings are kept.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
@@ -391,6 +399,14 @@
         <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
         <translation>When something goes wrong, your settings and the log of this run help to find out why.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Choose language and theme.</source>
+        <translation>Choose language and theme.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::MainWindow</name>
@@ -401,22 +417,6 @@
     <message>
         <source>Settings pages</source>
         <translation>Settings pages</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>Schedule</translation>
-    </message>
-    <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Choose when a recording stops or starts by itself.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Files</translation>
-    </message>
-    <message>
-        <source>Choose where recordings are kept.</source>
-        <translation>Choose where recordings are kept.</translation>
     </message>
     <message>
         <source>Your changes could not be saved: %1</source>
@@ -442,18 +442,6 @@
         <source>&amp;Start recording</source>
         <translation>&amp;Start recording</translation>
     </message>
-    <message>
-        <source>Recording schedule</source>
-        <translation>Recording schedule</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>General</translation>
-    </message>
-    <message>
-        <source>Choose language and theme.</source>
-        <translation>Choose language and theme.</translation>
-    </message>
 </context>
 <context>
     <name>Zentor::Desktop::PanelAnnouncer</name>
@@ -468,6 +456,21 @@
     <message>
         <source>Task deleted: %1</source>
         <translation>Task deleted: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::SchedulePage</name>
+    <message>
+        <source>Schedule</source>
+        <translation>Schedule</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>Choose when a recording stops or starts by itself.</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Recording schedule</translation>
     </message>
 </context>
 <context>

@@ -328,6 +328,14 @@
         <source>Free space: %1</source>
         <translation>Espacio libre: %1</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>Elija dónde se guardan las grabaciones.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
@@ -391,6 +399,14 @@
         <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
         <translation>Si algo va mal, su configuración y el registro de esta ejecución ayudan a averiguar el motivo.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Choose language and theme.</source>
+        <translation>Elija el idioma y el aspecto de la aplicación.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::MainWindow</name>
@@ -401,22 +417,6 @@
     <message>
         <source>Settings pages</source>
         <translation>Páginas de configuración</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>Programación</translation>
-    </message>
-    <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Elija cuándo se detiene o se inicia una grabación automáticamente.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Archivos</translation>
-    </message>
-    <message>
-        <source>Choose where recordings are kept.</source>
-        <translation>Elija dónde se guardan las grabaciones.</translation>
     </message>
     <message>
         <source>Your changes could not be saved: %1</source>
@@ -442,18 +442,6 @@
         <source>&amp;Start recording</source>
         <translation>&amp;Iniciar grabación</translation>
     </message>
-    <message>
-        <source>Recording schedule</source>
-        <translation>Programación de grabaciones</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>General</translation>
-    </message>
-    <message>
-        <source>Choose language and theme.</source>
-        <translation>Elija el idioma y el aspecto de la aplicación.</translation>
-    </message>
 </context>
 <context>
     <name>Zentor::Desktop::PanelAnnouncer</name>
@@ -468,6 +456,21 @@
     <message>
         <source>Task deleted: %1</source>
         <translation>Tarea eliminada: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::SchedulePage</name>
+    <message>
+        <source>Schedule</source>
+        <translation>Programación</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>Elija cuándo se detiene o se inicia una grabación automáticamente.</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Programación de grabaciones</translation>
     </message>
 </context>
 <context>

@@ -328,6 +328,14 @@
         <source>Free space: %1</source>
         <translation>Espace libre : %1</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>Choisissez où les enregistrements sont conservés.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
@@ -391,6 +399,14 @@
         <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
         <translation>En cas de problème, vos paramètres et le journal de cette exécution aident à trouver la cause.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Choose language and theme.</source>
+        <translation>Choisissez la langue et l’apparence de l’application.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::MainWindow</name>
@@ -401,22 +417,6 @@
     <message>
         <source>Settings pages</source>
         <translation>Pages de paramètres</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>Planning</translation>
-    </message>
-    <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Choisissez quand un enregistrement démarre ou s’arrête automatiquement.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Fichiers</translation>
-    </message>
-    <message>
-        <source>Choose where recordings are kept.</source>
-        <translation>Choisissez où les enregistrements sont conservés.</translation>
     </message>
     <message>
         <source>Your changes could not be saved: %1</source>
@@ -442,18 +442,6 @@
         <source>&amp;Start recording</source>
         <translation>Dé&amp;marrer l’enregistrement</translation>
     </message>
-    <message>
-        <source>Recording schedule</source>
-        <translation>Planning d’enregistrement</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Général</translation>
-    </message>
-    <message>
-        <source>Choose language and theme.</source>
-        <translation>Choisissez la langue et l’apparence de l’application.</translation>
-    </message>
 </context>
 <context>
     <name>Zentor::Desktop::PanelAnnouncer</name>
@@ -468,6 +456,21 @@
     <message>
         <source>Task deleted: %1</source>
         <translation>Tâche supprimée : %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::SchedulePage</name>
+    <message>
+        <source>Schedule</source>
+        <translation>Planning</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>Choisissez quand un enregistrement démarre ou s’arrête automatiquement.</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Planning d’enregistrement</translation>
     </message>
 </context>
 <context>

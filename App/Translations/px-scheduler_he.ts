@@ -328,6 +328,14 @@
         <source>Free space: %1</source>
         <translation>מקום פנוי: %1</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>קבצים</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>בחרו היכן יישמרו ההקלטות.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
@@ -391,6 +399,14 @@
         <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
         <translation>כשמשהו משתבש, ההגדרות והיומן של הרצה זו עוזרים למצוא את הסיבה.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>כללי</translation>
+    </message>
+    <message>
+        <source>Choose language and theme.</source>
+        <translation>בחרו את שפת היישום ואת מראהו.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::MainWindow</name>
@@ -401,22 +417,6 @@
     <message>
         <source>Settings pages</source>
         <translation>דפי ההגדרות</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>לוח זמנים</translation>
-    </message>
-    <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>בחרו מתי הקלטה תיעצר או תתחיל מעצמה.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>קבצים</translation>
-    </message>
-    <message>
-        <source>Choose where recordings are kept.</source>
-        <translation>בחרו היכן יישמרו ההקלטות.</translation>
     </message>
     <message>
         <source>Your changes could not be saved: %1</source>
@@ -442,18 +442,6 @@
         <source>&amp;Start recording</source>
         <translation>&amp;התחלת הקלטה</translation>
     </message>
-    <message>
-        <source>Recording schedule</source>
-        <translation>לוח ההקלטות</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>כללי</translation>
-    </message>
-    <message>
-        <source>Choose language and theme.</source>
-        <translation>בחרו את שפת היישום ואת מראהו.</translation>
-    </message>
 </context>
 <context>
     <name>Zentor::Desktop::PanelAnnouncer</name>
@@ -468,6 +456,21 @@
     <message>
         <source>Task deleted: %1</source>
         <translation>המשימה נמחקה: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::SchedulePage</name>
+    <message>
+        <source>Schedule</source>
+        <translation>לוח זמנים</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>בחרו מתי הקלטה תיעצר או תתחיל מעצמה.</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>לוח ההקלטות</translation>
     </message>
 </context>
 <context>

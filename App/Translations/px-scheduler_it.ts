@@ -328,6 +328,14 @@
         <source>Free space: %1</source>
         <translation>Spazio libero: %1</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>Scegli dove conservare le registrazioni.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
@@ -391,6 +399,14 @@
         <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
         <translation>Se qualcosa non va, le impostazioni e il registro di questa esecuzione aiutano a capire perché.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>Choose language and theme.</source>
+        <translation>Scegli la lingua e l’aspetto dell’applicazione.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::MainWindow</name>
@@ -401,22 +417,6 @@
     <message>
         <source>Settings pages</source>
         <translation>Pagine delle impostazioni</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>Pianificazione</translation>
-    </message>
-    <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Scegli quando una registrazione inizia o termina automaticamente.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>File</translation>
-    </message>
-    <message>
-        <source>Choose where recordings are kept.</source>
-        <translation>Scegli dove conservare le registrazioni.</translation>
     </message>
     <message>
         <source>Your changes could not be saved: %1</source>
@@ -442,18 +442,6 @@
         <source>&amp;Start recording</source>
         <translation>&amp;Avvia registrazione</translation>
     </message>
-    <message>
-        <source>Recording schedule</source>
-        <translation>Pianificazione delle registrazioni</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Generale</translation>
-    </message>
-    <message>
-        <source>Choose language and theme.</source>
-        <translation>Scegli la lingua e l’aspetto dell’applicazione.</translation>
-    </message>
 </context>
 <context>
     <name>Zentor::Desktop::PanelAnnouncer</name>
@@ -468,6 +456,21 @@
     <message>
         <source>Task deleted: %1</source>
         <translation>Attività eliminata: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::SchedulePage</name>
+    <message>
+        <source>Schedule</source>
+        <translation>Pianificazione</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>Scegli quando una registrazione inizia o termina automaticamente.</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Pianificazione delle registrazioni</translation>
     </message>
 </context>
 <context>

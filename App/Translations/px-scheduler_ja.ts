@@ -328,6 +328,14 @@
         <source>Free space: %1</source>
         <translation>空き容量：%1</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>録画の保存先を選択します。</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
@@ -391,6 +399,14 @@
         <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
         <translation>問題が起きたときは、設定と今回の実行のログが原因を調べる手がかりになります。</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Choose language and theme.</source>
+        <translation>アプリケーションの言語と外観を選択します。</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::MainWindow</name>
@@ -401,22 +417,6 @@
     <message>
         <source>Settings pages</source>
         <translation>設定ページ</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>スケジュール</translation>
-    </message>
-    <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>録画を自動的に停止または開始するタイミングを選択します。</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>ファイル</translation>
-    </message>
-    <message>
-        <source>Choose where recordings are kept.</source>
-        <translation>録画の保存先を選択します。</translation>
     </message>
     <message>
         <source>Your changes could not be saved: %1</source>
@@ -442,18 +442,6 @@
         <source>&amp;Start recording</source>
         <translation>録画を開始(&amp;S)</translation>
     </message>
-    <message>
-        <source>Recording schedule</source>
-        <translation>録画スケジュール</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>全般</translation>
-    </message>
-    <message>
-        <source>Choose language and theme.</source>
-        <translation>アプリケーションの言語と外観を選択します。</translation>
-    </message>
 </context>
 <context>
     <name>Zentor::Desktop::PanelAnnouncer</name>
@@ -468,6 +456,21 @@
     <message>
         <source>Task deleted: %1</source>
         <translation>タスクを削除しました：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::SchedulePage</name>
+    <message>
+        <source>Schedule</source>
+        <translation>スケジュール</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>録画を自動的に停止または開始するタイミングを選択します。</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>録画スケジュール</translation>
     </message>
 </context>
 <context>

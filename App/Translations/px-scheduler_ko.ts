@@ -328,6 +328,14 @@
         <source>Free space: %1</source>
         <translation>여유 공간: %1</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>녹화를 저장할 위치를 선택하세요.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
@@ -391,6 +399,14 @@
         <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
         <translation>문제가 생기면 설정과 이번 실행의 로그가 원인을 찾는 데 도움이 됩니다.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>일반</translation>
+    </message>
+    <message>
+        <source>Choose language and theme.</source>
+        <translation>응용 프로그램의 언어와 모양을 선택하세요.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::MainWindow</name>
@@ -401,22 +417,6 @@
     <message>
         <source>Settings pages</source>
         <translation>설정 페이지</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>일정</translation>
-    </message>
-    <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>녹화를 자동으로 중지하거나 시작할 때를 선택하세요.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>파일</translation>
-    </message>
-    <message>
-        <source>Choose where recordings are kept.</source>
-        <translation>녹화를 저장할 위치를 선택하세요.</translation>
     </message>
     <message>
         <source>Your changes could not be saved: %1</source>
@@ -442,18 +442,6 @@
         <source>&amp;Start recording</source>
         <translation>녹화 시작(&amp;S)</translation>
     </message>
-    <message>
-        <source>Recording schedule</source>
-        <translation>녹화 일정</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>일반</translation>
-    </message>
-    <message>
-        <source>Choose language and theme.</source>
-        <translation>응용 프로그램의 언어와 모양을 선택하세요.</translation>
-    </message>
 </context>
 <context>
     <name>Zentor::Desktop::PanelAnnouncer</name>
@@ -468,6 +456,21 @@
     <message>
         <source>Task deleted: %1</source>
         <translation>작업이 삭제됨: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::SchedulePage</name>
+    <message>
+        <source>Schedule</source>
+        <translation>일정</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>녹화를 자동으로 중지하거나 시작할 때를 선택하세요.</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>녹화 일정</translation>
     </message>
 </context>
 <context>

@@ -328,6 +328,14 @@
         <source>Free space: %1</source>
         <translation>Wolne miejsce: %1</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>Pliki</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>Wybierz miejsce przechowywania nagrań.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
@@ -391,6 +399,14 @@
         <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
         <translation>Gdy coś pójdzie nie tak, ustawienia i dziennik tego uruchomienia pomogą znaleźć przyczynę.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Ogólne</translation>
+    </message>
+    <message>
+        <source>Choose language and theme.</source>
+        <translation>Wybierz język i wygląd aplikacji.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::MainWindow</name>
@@ -401,22 +417,6 @@
     <message>
         <source>Settings pages</source>
         <translation>Strony ustawień</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>Harmonogram</translation>
-    </message>
-    <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Wybierz, kiedy nagrywanie ma się samo kończyć lub zaczynać.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Pliki</translation>
-    </message>
-    <message>
-        <source>Choose where recordings are kept.</source>
-        <translation>Wybierz miejsce przechowywania nagrań.</translation>
     </message>
     <message>
         <source>Your changes could not be saved: %1</source>
@@ -442,18 +442,6 @@
         <source>&amp;Start recording</source>
         <translation>&amp;Rozpocznij nagrywanie</translation>
     </message>
-    <message>
-        <source>Recording schedule</source>
-        <translation>Harmonogram nagrywania</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Ogólne</translation>
-    </message>
-    <message>
-        <source>Choose language and theme.</source>
-        <translation>Wybierz język i wygląd aplikacji.</translation>
-    </message>
 </context>
 <context>
     <name>Zentor::Desktop::PanelAnnouncer</name>
@@ -468,6 +456,21 @@
     <message>
         <source>Task deleted: %1</source>
         <translation>Usunięto zadanie: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::SchedulePage</name>
+    <message>
+        <source>Schedule</source>
+        <translation>Harmonogram</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>Wybierz, kiedy nagrywanie ma się samo kończyć lub zaczynać.</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Harmonogram nagrywania</translation>
     </message>
 </context>
 <context>

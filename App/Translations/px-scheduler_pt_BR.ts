@@ -328,6 +328,14 @@
         <source>Free space: %1</source>
         <translation>Espaço livre: %1</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>Arquivos</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>Escolha onde as gravações são guardadas.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
@@ -391,6 +399,14 @@
         <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
         <translation>Se algo der errado, suas configurações e o registro desta execução ajudam a descobrir o motivo.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Choose language and theme.</source>
+        <translation>Escolha o idioma e a aparência do aplicativo.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::MainWindow</name>
@@ -401,22 +417,6 @@
     <message>
         <source>Settings pages</source>
         <translation>Páginas de configurações</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>Programação</translation>
-    </message>
-    <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Escolha quando uma gravação para ou começa automaticamente.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Arquivos</translation>
-    </message>
-    <message>
-        <source>Choose where recordings are kept.</source>
-        <translation>Escolha onde as gravações são guardadas.</translation>
     </message>
     <message>
         <source>Your changes could not be saved: %1</source>
@@ -442,18 +442,6 @@
         <source>&amp;Start recording</source>
         <translation>&amp;Iniciar gravação</translation>
     </message>
-    <message>
-        <source>Recording schedule</source>
-        <translation>Programação de gravações</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Geral</translation>
-    </message>
-    <message>
-        <source>Choose language and theme.</source>
-        <translation>Escolha o idioma e a aparência do aplicativo.</translation>
-    </message>
 </context>
 <context>
     <name>Zentor::Desktop::PanelAnnouncer</name>
@@ -468,6 +456,21 @@
     <message>
         <source>Task deleted: %1</source>
         <translation>Tarefa excluída: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::SchedulePage</name>
+    <message>
+        <source>Schedule</source>
+        <translation>Programação</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>Escolha quando uma gravação para ou começa automaticamente.</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Programação de gravações</translation>
     </message>
 </context>
 <context>

@@ -328,6 +328,14 @@
         <source>Free space: %1</source>
         <translation>Свободно: %1</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>Файлы</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>Выберите, где хранятся записи.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
@@ -391,6 +399,14 @@
         <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
         <translation>Если что-то пошло не так, настройки и журнал этого запуска помогут найти причину.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <source>Choose language and theme.</source>
+        <translation>Выберите язык и вид приложения.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::MainWindow</name>
@@ -401,22 +417,6 @@
     <message>
         <source>Settings pages</source>
         <translation>Страницы настроек</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>Расписание</translation>
-    </message>
-    <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Выберите, когда запись останавливается или начинается автоматически.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Файлы</translation>
-    </message>
-    <message>
-        <source>Choose where recordings are kept.</source>
-        <translation>Выберите, где хранятся записи.</translation>
     </message>
     <message>
         <source>Your changes could not be saved: %1</source>
@@ -442,18 +442,6 @@
         <source>&amp;Start recording</source>
         <translation>&amp;Начать запись</translation>
     </message>
-    <message>
-        <source>Recording schedule</source>
-        <translation>Расписание записи</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Общие</translation>
-    </message>
-    <message>
-        <source>Choose language and theme.</source>
-        <translation>Выберите язык и вид приложения.</translation>
-    </message>
 </context>
 <context>
     <name>Zentor::Desktop::PanelAnnouncer</name>
@@ -468,6 +456,21 @@
     <message>
         <source>Task deleted: %1</source>
         <translation>Задача удалена: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::SchedulePage</name>
+    <message>
+        <source>Schedule</source>
+        <translation>Расписание</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>Выберите, когда запись останавливается или начинается автоматически.</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Расписание записи</translation>
     </message>
 </context>
 <context>

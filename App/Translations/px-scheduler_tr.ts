@@ -328,6 +328,14 @@
         <source>Free space: %1</source>
         <translation>Boş alan: %1</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>Dosyalar</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>Kayıtların nerede saklanacağını seçin.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
@@ -391,6 +399,14 @@
         <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
         <translation>Bir sorun olursa ayarlarınız ve bu çalıştırmanın günlüğü nedenini bulmaya yardımcı olur.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Genel</translation>
+    </message>
+    <message>
+        <source>Choose language and theme.</source>
+        <translation>Uygulamanın dilini ve görünümünü seçin.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::MainWindow</name>
@@ -401,22 +417,6 @@
     <message>
         <source>Settings pages</source>
         <translation>Ayar sayfaları</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>Takvim</translation>
-    </message>
-    <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Bir kaydın ne zaman kendiliğinden duracağını veya başlayacağını seçin.</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Dosyalar</translation>
-    </message>
-    <message>
-        <source>Choose where recordings are kept.</source>
-        <translation>Kayıtların nerede saklanacağını seçin.</translation>
     </message>
     <message>
         <source>Your changes could not be saved: %1</source>
@@ -442,18 +442,6 @@
         <source>&amp;Start recording</source>
         <translation>Kaydı &amp;başlat</translation>
     </message>
-    <message>
-        <source>Recording schedule</source>
-        <translation>Kayıt takvimi</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Genel</translation>
-    </message>
-    <message>
-        <source>Choose language and theme.</source>
-        <translation>Uygulamanın dilini ve görünümünü seçin.</translation>
-    </message>
 </context>
 <context>
     <name>Zentor::Desktop::PanelAnnouncer</name>
@@ -468,6 +456,21 @@
     <message>
         <source>Task deleted: %1</source>
         <translation>Görev silindi: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::SchedulePage</name>
+    <message>
+        <source>Schedule</source>
+        <translation>Takvim</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>Bir kaydın ne zaman kendiliğinden duracağını veya başlayacağını seçin.</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>Kayıt takvimi</translation>
     </message>
 </context>
 <context>

@@ -328,6 +328,14 @@
         <source>Free space: %1</source>
         <translation>可用空间：%1</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Choose where recordings are kept.</source>
+        <translation>选择录制内容的保存位置。</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
@@ -391,6 +399,14 @@
         <source>When something goes wrong, your settings and the log of this run help to find out why.</source>
         <translation>出现问题时，您的设置和本次运行的日志有助于查明原因。</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Choose language and theme.</source>
+        <translation>选择应用程序的语言和外观。</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::MainWindow</name>
@@ -401,22 +417,6 @@
     <message>
         <source>Settings pages</source>
         <translation>设置页面</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>计划</translation>
-    </message>
-    <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>选择录制自动停止或开始的时间。</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>文件</translation>
-    </message>
-    <message>
-        <source>Choose where recordings are kept.</source>
-        <translation>选择录制内容的保存位置。</translation>
     </message>
     <message>
         <source>Your changes could not be saved: %1</source>
@@ -442,18 +442,6 @@
         <source>&amp;Start recording</source>
         <translation>开始录制(&amp;S)</translation>
     </message>
-    <message>
-        <source>Recording schedule</source>
-        <translation>录制计划</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>常规</translation>
-    </message>
-    <message>
-        <source>Choose language and theme.</source>
-        <translation>选择应用程序的语言和外观。</translation>
-    </message>
 </context>
 <context>
     <name>Zentor::Desktop::PanelAnnouncer</name>
@@ -468,6 +456,21 @@
     <message>
         <source>Task deleted: %1</source>
         <translation>已删除任务：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::SchedulePage</name>
+    <message>
+        <source>Schedule</source>
+        <translation>计划</translation>
+    </message>
+    <message>
+        <source>Choose when a recording stops or starts by itself.</source>
+        <translation>选择录制自动停止或开始的时间。</translation>
+    </message>
+    <message>
+        <source>Recording schedule</source>
+        <translation>录制计划</translation>
     </message>
 </context>
 <context>

@@ -2,65 +2,31 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QCalendarWidget>
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
-#include <QStatusBar>
-#include <QStyledItemDelegate>
-#include <QTextCharFormat>
 #include <QTimer>
 
-#include "Application/SettingsManager.h"
+#include "ApplicationSettings.h"
+#include "Controls.h"
 #include "FilesPage.h"
 #include "GeneralPage.h"
 #include "HostInterfaces.h"
-#include "Page.h"
-#include "PanelAnnouncer.h"
-#include "PanelKeyboard.h"
-#include "PanelMouse.h"
-#include "PXUserSettings/SettingsStore.h"
-#include "PXUserSettings/StoredSettings.h"
-#include "RecordSchedulerWidget.h"
+#include "PageFrame.h"
+#include "SchedulePage.h"
 #include "StatusLine.h"
-#include "Theme.h"
 
 namespace Zentor::Desktop {
 namespace {
 
-constexpr QSize smallestSize(480, 320);
-constexpr int messageMilliseconds = 5000;
-
-QString ScheduleId()
-{
-    return QStringLiteral("schedule");
-}
-
-QString FilesId()
-{
-    return QStringLiteral("files");
-}
-
-QString GeneralId()
-{
-    return QStringLiteral("general");
-}
-
-/// A combo box draws the entries of its list past the style sheet unless it is given this delegate.
-void LetSheetDrawLists(const QWidget& parent)
-{
-    const auto boxes = parent.findChildren<QComboBox*>();
-    for (QComboBox* box : boxes) {
-        box->setItemDelegate(new QStyledItemDelegate(box));
-    }
-}
+constexpr QSize SmallestSize(480, 320);
+constexpr QSize PageIconSize(20, 20);
+constexpr int MessageMilliseconds = 5000;
 
 /// Shows \a text in the status line, for some time or, with 0, until something else is shown.
 void Announce(QStatusBar* statusBar, const QString& text, int milliseconds)
@@ -76,12 +42,11 @@ MainWindow::MainWindow(std::shared_ptr<PX::SettingsStore> store,
                        std::shared_ptr<App::ILookAndFeelManager> lookAndFeel, QWidget* parent)
     : QMainWindow(parent)
     , m_store(std::move(store))
-    , m_lookAndFeel(std::move(lookAndFeel))
 {
     setObjectName(QStringLiteral("mainWindow"));
-    BuildWidgets();
+    BuildWidgets(lookAndFeel);
     Connect();
-    AssistPanel();
+    ConnectPages();
     Retranslate();
     UpdateIcons();
     RestorePlace();
@@ -89,52 +54,59 @@ MainWindow::MainWindow(std::shared_ptr<PX::SettingsStore> store,
 
 MainWindow::~MainWindow() = default;
 
-void MainWindow::BuildWidgets()
+void MainWindow::BuildWidgets(const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel)
 {
     auto* center = new QWidget(this);
-    auto* sidebar = new QFrame(center);
-    sidebar->setObjectName(QStringLiteral("sidebar"));
-    m_pageList = new QListWidget(sidebar);
-    m_pageList->setObjectName(QStringLiteral("pageList"));
-    m_pageList->setIconSize(QSize(20, 20));
-    m_pageList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    auto* sidebarLayout = new QVBoxLayout(sidebar);
-    sidebarLayout->setContentsMargins(0, 0, 0, 0);
-    sidebarLayout->addWidget(m_pageList);
-
+    QWidget* sidebar = CreateSidebar(center);
     auto* layout = new QHBoxLayout(center);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(sidebar);
-    layout->addWidget(CreatePageColumn(center), 1);
+    layout->addWidget(CreatePageColumn(center, lookAndFeel), 1);
     setCentralWidget(center);
-    setMinimumSize(smallestSize);
+    setMinimumSize(SmallestSize);
 }
 
-QWidget* MainWindow::CreatePageColumn(QWidget* parent)
+QWidget* MainWindow::CreateSidebar(QWidget* parent)
+{
+    auto* sidebar = new QFrame(parent);
+    sidebar->setObjectName(QStringLiteral("sidebar"));
+    m_pageList = new QListWidget(sidebar);
+    m_pageList->setObjectName(QStringLiteral("pageList"));
+    m_pageList->setIconSize(PageIconSize);
+    m_pageList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* layout = new QVBoxLayout(sidebar);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_pageList);
+    return sidebar;
+}
+
+QWidget* MainWindow::CreatePageColumn(QWidget* parent,
+                                      const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel)
 {
     auto* pageColumn = new QFrame(parent);
     pageColumn->setObjectName(QStringLiteral("pageColumn"));
     m_pages = new QStackedWidget(pageColumn);
     m_pages->setObjectName(QStringLiteral("pages"));
-    AddPage(CreateSchedulePage());
-    AddPage(CreateFilesPage());
-    AddPage(CreateGeneralPage());
+    m_schedulePage = new SchedulePage(m_store, lookAndFeel, m_pages);
+    AddPage(m_schedulePage);
+    AddPage(new FilesPage(m_store, m_pages));
+    AddPage(new GeneralPage(m_store, m_pages));
 
-    QWidget* foot = CreateFoot(pageColumn);
+    QWidget* footer = CreateFooter(pageColumn);
     auto* layout = new QVBoxLayout(pageColumn);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_pages, 1);
-    layout->addWidget(foot);
+    layout->addWidget(footer);
     return pageColumn;
 }
 
-QWidget* MainWindow::CreateFoot(QWidget* parent)
+QWidget* MainWindow::CreateFooter(QWidget* parent)
 {
-    auto* foot = new QFrame(parent);
-    foot->setObjectName(QStringLiteral("foot"));
-    m_statusBar = new StatusLine(foot);
+    auto* footer = new QFrame(parent);
+    footer->setObjectName(QStringLiteral("footer"));
+    m_statusBar = new StatusLine(footer);
     m_statusBar->setSizeGripEnabled(false);
     m_saveProblemLabel = new ZLabel(m_statusBar);
     m_saveProblemLabel->setObjectName(QStringLiteral("saveProblemLabel"));
@@ -142,72 +114,32 @@ QWidget* MainWindow::CreateFoot(QWidget* parent)
     m_saveProblemLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_saveProblemLabel->hide();
     m_statusBar->addWidget(m_saveProblemLabel, 1);
-    m_startButton = new QPushButton(foot);
-    m_startButton->setObjectName(QStringLiteral("startRecordingButton"));
-    // Lets Enter press it when it has the focus.
-    m_startButton->setAutoDefault(true);
+    m_startButton = CreateButton(QStringLiteral("startRecordingButton"), footer);
 
-    auto* layout = new QHBoxLayout(foot);
+    auto* layout = new QHBoxLayout(footer);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_statusBar, 1);
     layout->addWidget(m_startButton);
-    return foot;
+    return footer;
 }
 
 void MainWindow::AddPage(Page* page)
 {
-    m_pages->addWidget(page);
+    m_frames << new PageFrame(page, m_pages);
+    m_pages->addWidget(m_frames.constLast());
     m_pageList->addItem(new QListWidgetItem);
-}
-
-PX::Scheduler::UI::RecordSchedulerWidget* MainWindow::CreatePanel()
-{
-    auto* panel = new PX::Scheduler::UI::RecordSchedulerWidget(
-        m_lookAndFeel, std::make_shared<App::SettingsManager>(m_store), m_pages);
-    panel->setObjectName(QStringLiteral("recordSchedulerWidget"));
-    panel->SetSchedulerSettings(std::make_shared<PX::StoredSchedulerSettings>(m_store));
-    panel->SetCaptureFinishActionSettings(
-        std::make_shared<PX::StoredCaptureFinishActionSettings>(m_store));
-    panel->SetPathSettings(std::make_shared<PX::StoredPathsSettings>(m_store));
-    panel->SetSettingsWatcher(std::make_shared<PX::StoringSettingsWatcher>(m_store));
-    panel->RestoreSettings();
-    LetSheetDrawLists(*panel);
-    connect(panel, &PX::Scheduler::UI::RecordSchedulerWidget::OpenFilesSettingsRequested, this,
-            [this] { ShowPage(FilesId()); });
-    return panel;
-}
-
-Page* MainWindow::CreateSchedulePage()
-{
-    m_panel = CreatePanel();
-    return new Page(ScheduleId(), m_panel, m_pages);
-}
-
-Page* MainWindow::CreateFilesPage()
-{
-    m_filesPage = new FilesPage(m_store, m_pages);
-    return new Page(FilesId(), m_filesPage, m_pages);
-}
-
-Page* MainWindow::CreateGeneralPage()
-{
-    m_generalPage = new GeneralPage(m_store, m_pages);
-    LetSheetDrawLists(*m_generalPage);
-    return new Page(GeneralId(), m_generalPage, m_pages);
 }
 
 void MainWindow::Connect()
 {
     connect(m_pageList, &QListWidget::currentRowChanged, this, [this](int row) {
-        if (!IsTaskUnfinished()) {
+        if (!CurrentPage()->HasUnfinishedInput()) {
             m_pages->setCurrentIndex(row);
         } else {
             // Later: a list that is being clicked must not wait for an answer.
             QTimer::singleShot(0, this, &MainWindow::FollowPageList);
         }
     });
-    connect(m_generalPage, &GeneralPage::Happened, m_statusBar,
-            [this](const QString& text) { Announce(m_statusBar, text, messageMilliseconds); });
     connect(m_startButton, &QPushButton::clicked, this, &MainWindow::StartRecording);
     connect(m_store.get(), &PX::SettingsStore::SaveFailed, this, &MainWindow::ShowSaveProblem);
     connect(m_store.get(), &PX::SettingsStore::Saved, this, &MainWindow::ForgetSaveProblem);
@@ -215,123 +147,68 @@ void MainWindow::Connect()
     connect(quit, &QShortcut::activated, this, &MainWindow::close);
 }
 
-void MainWindow::AssistPanel()
+void MainWindow::ConnectPages()
 {
-    new PanelKeyboard(m_panel);
-    new PanelMouse(m_panel);
-    m_announcer = new PanelAnnouncer(m_panel, m_store);
-    // The form is hidden once more at the end of the window, when only its widgets are left.
-    QStatusBar* const bar = m_statusBar;
-    connect(m_announcer, &PanelAnnouncer::Happened, bar,
-            [bar](const QString& text) { Announce(bar, text, messageMilliseconds); });
+    for (const PageFrame* frame : qAsConst(m_frames)) {
+        connect(frame->Content(), &Page::Announced, m_statusBar,
+                [this](const QString& text) { Announce(m_statusBar, text, MessageMilliseconds); });
+    }
     // Longer on screen than the tip at the field, which goes after some seconds.
-    connect(m_announcer, &PanelAnnouncer::ProblemChanged, bar,
-            [bar](const QString& problem) { Announce(bar, problem, 0); });
+    connect(m_schedulePage, &SchedulePage::ProblemChanged, m_statusBar,
+            [this](const QString& problem) { Announce(m_statusBar, problem, 0); });
+    connect(m_schedulePage, &SchedulePage::FilesRequested, this,
+            [this] { ShowPage(FilesPage::PageId()); });
+    m_schedulePage->SetTabPredecessor(m_pageList);
 }
 
-void MainWindow::RebuildPanel()
+Page* MainWindow::CurrentPage() const
 {
-    // While a panel is restored it stores the schedule anew, task by task. That is no news.
-    delete m_announcer;
-    auto* page = qobject_cast<Page*>(m_pages->widget(0));
-    m_panel = CreatePanel();
-    page->ReplaceSettings(m_panel);
-    AssistPanel();
-    RetranslatePanel();
-    OrderTabs();
-}
-
-void MainWindow::OrderTabs()
-{
-    QList<QWidget*> stops;
-    for (QWidget* widget = m_panel->nextInFocusChain(); m_panel->isAncestorOf(widget);
-         widget = widget->nextInFocusChain()) {
-        if (widget->focusPolicy() != Qt::NoFocus && widget->focusProxy() == nullptr) {
-            stops << widget;
-        }
-    }
-    QWidget* previous = m_pageList;
-    for (QWidget* stop : qAsConst(stops)) {
-        setTabOrder(previous, stop);
-        previous = stop;
-    }
-}
-
-void MainWindow::RetranslatePanel()
-{
-    m_panel->findChild<QWidget*>(QStringLiteral("recordTableScrollArea"))
-        ->setAccessibleName(tr("Recording schedule"));
-    // Which days are the weekend is a matter of the language, too.
-    ColorCalendar();
-}
-
-void MainWindow::ColorCalendar()
-{
-    QTextCharFormat ofWeekend;
-    ofWeekend.setForeground(
-        QColor(ColorsOf(ThemeOf(QApplication::palette())).value(QStringLiteral("danger"))));
-    const auto workdays = QLocale().weekdays();
-    auto* calendar = m_panel->findChild<QCalendarWidget*>();
-    for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
-        const auto weekday = static_cast<Qt::DayOfWeek>(day);
-        calendar->setWeekdayTextFormat(weekday,
-                                       workdays.contains(weekday) ? QTextCharFormat() : ofWeekend);
-    }
+    return m_frames.at(m_pages->currentIndex())->Content();
 }
 
 void MainWindow::StartRecording()
 {
-    m_filesPage->Apply();
+    ApplyPages();
     // The window may be destroyed while the panel asks.
     const QPointer<MainWindow> self(this);
-    const bool isReady = m_panel->ValidateSettings();
+    const bool isReady = m_schedulePage->ValidateSettings();
     if (!self.isNull() && isReady) {
-        Announce(m_statusBar, tr("Ready to record"), messageMilliseconds);
+        Announce(m_statusBar, tr("Ready to record"), MessageMilliseconds);
     }
 }
 
-bool MainWindow::IsTaskUnfinished() const
+void MainWindow::ApplyPages()
 {
-    return m_panel->findChild<QWidget*>(QStringLiteral("createRecordTaskWidget"))->isVisible();
-}
-
-bool MainWindow::FinishTask()
-{
-    if (!IsTaskUnfinished()) {
-        return true;
+    for (const PageFrame* frame : qAsConst(m_frames)) {
+        frame->Content()->Apply();
     }
-    // The window may be destroyed while the panel asks.
-    const QPointer<MainWindow> self(this);
-    m_panel->findChild<QPushButton*>(QStringLiteral("scheduledCaptureSettingsBackButton"))->click();
-    return !self.isNull() && !IsTaskUnfinished();
 }
 
 void MainWindow::FollowPageList()
 {
     // While it is asked, the list may be moved on: the answer counts for where it stands then.
-    if (m_isAskingAboutTask || m_pageList->currentRow() == m_pages->currentIndex()) {
+    if (m_isAskingAboutInput || m_pageList->currentRow() == m_pages->currentIndex()) {
         return;
     }
     const QPointer<MainWindow> self(this);
-    m_isAskingAboutTask = true;
-    const bool isFinished = FinishTask();
+    m_isAskingAboutInput = true;
+    const bool isFinished = CurrentPage()->FinishInput();
     if (self.isNull()) {
         return;
     }
-    m_isAskingAboutTask = false;
+    m_isAskingAboutInput = false;
     if (isFinished) {
         m_pages->setCurrentIndex(m_pageList->currentRow());
     } else {
         m_pageList->setCurrentRow(m_pages->currentIndex());
-        m_panel->findChild<QWidget*>(QStringLiteral("scheduledCaptureSettingsNameLineEdit"))
-            ->setFocus(Qt::OtherFocusReason);
+        CurrentPage()->FocusInput();
     }
 }
 
 void MainWindow::ShowPage(const QString& id)
 {
-    for (int index = 0; index < m_pages->count(); ++index) {
-        if (qobject_cast<Page*>(m_pages->widget(index))->Id() == id) {
+    for (int index = 0; index < m_frames.size(); ++index) {
+        if (m_frames.at(index)->Content()->Id() == id) {
             m_pages->setCurrentIndex(index);
             m_pageList->setCurrentRow(index);
         }
@@ -340,7 +217,7 @@ void MainWindow::ShowPage(const QString& id)
 
 void MainWindow::RestorePlace()
 {
-    const PX::UserSettings& settings = m_store->Settings();
+    const ApplicationSettings settings = ApplicationSettingsIn(*m_store);
     if (settings.windowGeometry.isEmpty() || !restoreGeometry(settings.windowGeometry)) {
         resize(FirstSize());
     }
@@ -369,10 +246,9 @@ void MainWindow::FitScreen()
 
 void MainWindow::RememberPlace()
 {
-    const auto* page = qobject_cast<Page*>(m_pages->currentWidget());
-    m_store->Change([&](PX::UserSettings& settings) {
+    ChangeApplicationSettings(*m_store, [&](ApplicationSettings& settings) {
         settings.windowGeometry = saveGeometry();
-        settings.page = page->Id();
+        settings.page = CurrentPage()->Id();
     });
 }
 
@@ -387,26 +263,19 @@ void MainWindow::Retranslate()
     m_statusBar->clearMessage();
     m_pageList->setAccessibleName(tr("Settings pages"));
     m_startButton->setText(tr("&Start recording"));
-    RetranslatePanel();
     if (!m_saveProblemLabel->isHidden()) {
         ShowSaveProblem(m_store->SaveProblem());
     }
-    RetranslatePage(0, tr("Schedule"), tr("Choose when a recording stops or starts by itself."));
-    RetranslatePage(1, tr("Files"), tr("Choose where recordings are kept."));
-    RetranslatePage(2, tr("General"), tr("Choose language and theme."));
-}
-
-void MainWindow::RetranslatePage(int index, const QString& title, const QString& description)
-{
-    m_pageList->item(index)->setText(title);
-    qobject_cast<Page*>(m_pages->widget(index))->SetTexts(title, description);
+    for (int index = 0; index < m_frames.size(); ++index) {
+        m_pageList->item(index)->setText(m_frames.at(index)->Content()->Title());
+        m_frames.at(index)->Retranslate();
+    }
 }
 
 void MainWindow::UpdateIcons()
 {
-    for (int index = 0; index < m_pages->count(); ++index) {
-        const auto* page = qobject_cast<Page*>(m_pages->widget(index));
-        m_pageList->item(index)->setIcon(ThemedIcon(page->Id()));
+    for (int index = 0; index < m_frames.size(); ++index) {
+        m_pageList->item(index)->setIcon(m_frames.at(index)->Content()->Icon());
     }
 }
 
@@ -422,7 +291,7 @@ void MainWindow::ForgetSaveProblem()
         return;
     }
     m_saveProblemLabel->hide();
-    m_statusBar->showMessage(tr("Your changes are saved again."), messageMilliseconds);
+    m_statusBar->showMessage(tr("Your changes are saved again."), MessageMilliseconds);
 }
 
 bool MainWindow::IsClosingWithoutSavingAccepted()
@@ -442,26 +311,20 @@ void MainWindow::changeEvent(QEvent* event)
     // Both arrive for the first time while the window is still being built.
     if (m_startButton != nullptr && event->type() == QEvent::LanguageChange) {
         Retranslate();
-        // A form is left as the user has it; it is closed before the page with the languages is
-        // shown.
-        if (!m_store->Settings().schedule.empty() && !IsTaskUnfinished()) {
-            RebuildPanel();
-        }
     }
     if (m_startButton != nullptr && event->type() == QEvent::PaletteChange) {
         UpdateIcons();
-        ColorCalendar();
     }
     QMainWindow::changeEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!FinishTask()) {
+    if (!CurrentPage()->FinishInput()) {
         event->ignore();
         return;
     }
-    m_filesPage->Apply();
+    ApplyPages();
     RememberPlace();
     event->setAccepted(m_store->Flush() || IsClosingWithoutSavingAccepted());
 }

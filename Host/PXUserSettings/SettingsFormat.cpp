@@ -7,6 +7,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include "SectionReader.h"
+
 namespace Zentor::PX {
 namespace {
 
@@ -32,42 +34,8 @@ const QLatin1String captureFinishAction("captureFinishAction");
 const QLatin1String paths("paths");
 const QLatin1String resultsFolder("resultsFolder");
 const QLatin1String confirmations("confirmations");
-const QLatin1String appearance("appearance");
-const QLatin1String language("language");
-const QLatin1String theme("theme");
-const QLatin1String windowGeometry("windowGeometry");
-const QLatin1String page("page");
 
 } // namespace Key
-
-// Conversions of single values. From JSON: nothing when the value is not of the type.
-
-std::optional<bool> ToBool(const QJsonValue& value)
-{
-    return value.isBool() ? std::make_optional(value.toBool()) : std::nullopt;
-}
-
-std::optional<QString> ToText(const QJsonValue& value)
-{
-    return value.isString() ? std::make_optional(value.toString()) : std::nullopt;
-}
-
-std::optional<qint64> ToInteger(const QJsonValue& value)
-{
-    // The parser keeps integers apart from numbers with a fraction or beyond 64 bits.
-    const QVariant variant = value.toVariant();
-    bool isInteger = value.isString() || variant.userType() == QMetaType::LongLong;
-    const qint64 integer = isInteger ? variant.toLongLong(&isInteger) : 0;
-    return isInteger ? std::make_optional(integer) : std::nullopt;
-}
-
-QJsonValue FromInteger(qint64 integer)
-{
-    // JSON numbers are doubles to most programs, and to Qt when it writes them.
-    constexpr qint64 exactInDouble = 1LL << std::numeric_limits<double>::digits;
-    const bool isExact = -exactInDouble <= integer && integer <= exactInDouble;
-    return isExact ? QJsonValue(integer) : QJsonValue(QString::number(integer));
-}
 
 std::optional<std::chrono::microseconds> ToDuration(const QJsonValue& value)
 {
@@ -98,87 +66,6 @@ QJsonValue FromAction(PowerAction action)
     const auto index = static_cast<std::size_t>(action);
     return QLatin1String(actionNames[index < actionNames.size() ? index : 0]);
 }
-
-std::optional<QString> ToTheme(const QJsonValue& value)
-{
-    const bool isKnown =
-        value == QString() || value == QLatin1String("light") || value == QLatin1String("dark");
-    return isKnown ? ToText(value) : std::nullopt;
-}
-
-std::optional<QByteArray> ToBytes(const QJsonValue& value)
-{
-    const auto decoded = QByteArray::fromBase64Encoding(value.toString().toLatin1(),
-                                                        QByteArray::AbortOnBase64DecodingErrors);
-    return value.isString() && decoded ? std::make_optional(*decoded) : std::nullopt;
-}
-
-/// Reads the fields of one section and notes those that cannot be used.
-class SectionReader {
-public:
-    SectionReader(const QJsonObject& fields, const QString& name, QStringList& problems)
-        : m_fields(fields)
-        , m_name(name)
-        , m_problems(problems)
-    {
-    }
-
-    /// The section \a key of \a parent; an empty one when there is none.
-    SectionReader(const SectionReader& parent, QLatin1String key)
-        : SectionReader(parent.m_fields.value(key).toObject(), parent.NameOf(key),
-                        parent.m_problems)
-    {
-        const QJsonValue section = parent.m_fields.value(key);
-        if (!section.isUndefined() && !section.isObject()) {
-            parent.AddProblem(key, "not an object");
-        }
-    }
-
-    const QJsonObject& Fields() const { return m_fields; }
-    const QString& Name() const { return m_name; }
-
-    /// Sets \a target when there is a usable field \a key. Whether there is no unusable one.
-    template <typename T, typename Conversion>
-    bool Read(const QString& key, T& target, Conversion convert) const
-    {
-        const QJsonValue value = m_fields.value(key);
-        if (value.isUndefined()) {
-            return true;
-        }
-        const auto converted = convert(value);
-        if (!converted) {
-            AddProblem(key, "unusable value");
-            return false;
-        }
-        target = *converted;
-        return true;
-    }
-
-    template <typename T, typename Conversion>
-    bool ReadRequired(const QString& key, T& target, Conversion convert) const
-    {
-        if (!m_fields.contains(key)) {
-            AddProblem(key, "missing");
-            return false;
-        }
-        return Read(key, target, convert);
-    }
-
-    void AddProblem(const QString& key, const char* problem) const
-    {
-        m_problems << NameOf(key) + QLatin1String(": ") + QLatin1String(problem);
-    }
-
-private:
-    QString NameOf(const QString& key) const
-    {
-        return m_name.isEmpty() ? key : m_name + QLatin1Char('.') + key;
-    }
-
-    QJsonObject m_fields;
-    QString m_name;
-    QStringList& m_problems;
-};
 
 // Reading and writing, section by section.
 
@@ -235,7 +122,8 @@ std::vector<RecordTime> ParseTasks(const SectionReader& section, QStringList& pr
     return schedule.GetPreparedSchedule();
 }
 
-UserSettings ParseSections(const QJsonObject& fields, QStringList& problems)
+UserSettings ParseSections(const QJsonObject& fields, const std::vector<SettingsSection>& sections,
+                           QStringList& problems)
 {
     UserSettings settings;
     const SectionReader root(fields, {}, problems);
@@ -261,11 +149,9 @@ UserSettings ParseSections(const QJsonObject& fields, QStringList& problems)
         }
     }
 
-    const SectionReader appearance(root, Key::appearance);
-    appearance.Read(Key::language, settings.language, ToText);
-    appearance.Read(Key::theme, settings.theme, ToTheme);
-    appearance.Read(Key::windowGeometry, settings.windowGeometry, ToBytes);
-    appearance.Read(Key::page, settings.page, ToText);
+    for (const SettingsSection& section : sections) {
+        settings.sections.insert(section.name, section.read(SectionReader(root, section.name)));
+    }
     return settings;
 }
 
@@ -284,23 +170,28 @@ QJsonArray FormatTasks(const std::vector<RecordTime>& schedule)
     return tasks;
 }
 
-using Fields = std::initializer_list<QPair<QLatin1String, QJsonValue>>;
-
 /// Sets \a values in the section \a key of \a fields; the other values there stay.
-void SetSection(QJsonObject& fields, QLatin1String key, const Fields& values)
+void SetSection(QJsonObject& fields, const QString& key, const QJsonObject& values)
 {
     QJsonObject section = fields.value(key).toObject();
-    for (const auto& value : values) {
-        section.insert(value.first, value.second);
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        section.insert(it.key(), it.value());
     }
     fields.insert(key, section);
 }
 
 } // namespace
 
-SettingsDocument ParseSettings(const QByteArray& json)
+UserSettings DefaultSettings(const std::vector<SettingsSection>& sections)
+{
+    QStringList problems;
+    return ParseSections({}, sections, problems);
+}
+
+SettingsDocument ParseSettings(const QByteArray& json, const std::vector<SettingsSection>& sections)
 {
     SettingsDocument document;
+    document.settings = DefaultSettings(sections);
     QJsonParseError error;
     const QJsonObject fields = QJsonDocument::fromJson(json, &error).object();
     const auto version = ToInteger(fields.value(Key::version));
@@ -314,7 +205,7 @@ SettingsDocument ParseSettings(const QByteArray& json)
     } else {
         document.isUnderstood = true;
         document.fields = fields;
-        document.settings = ParseSections(fields, document.problems);
+        document.settings = ParseSections(fields, sections, document.problems);
     }
     return document;
 }
@@ -331,11 +222,9 @@ QByteArray FormatSettings(const UserSettings& settings, const QJsonObject& previ
                {{Key::enabled, settings.scheduledCaptureEnabled},
                 {Key::tasks, FormatTasks(settings.schedule)}});
     SetSection(fields, Key::paths, {{Key::resultsFolder, settings.resultsFolderPath}});
-    SetSection(fields, Key::appearance,
-               {{Key::language, settings.language},
-                {Key::theme, settings.theme},
-                {Key::windowGeometry, QString::fromLatin1(settings.windowGeometry.toBase64())},
-                {Key::page, settings.page}});
+    for (auto it = settings.sections.begin(); it != settings.sections.end(); ++it) {
+        SetSection(fields, it.key(), it.value());
+    }
     // Every name in this section is a known one.
     QJsonObject confirmations;
     for (auto it = settings.confirmations.begin(); it != settings.confirmations.end(); ++it) {

@@ -13,24 +13,35 @@
 ///         },
 ///         "captureFinishAction": "sleep",
 ///         "paths": { "resultsFolder": "/home/user/Videos" },
-///         "confirmations": { "remove_schedule_record_always": true },
-///         "appearance": { "language": "pt_BR", "theme": "dark", "windowGeometry": "AdnQywAD",
-///                         "page": "schedule" }
+///         "confirmations": { "remove_schedule_record_always": true }
 ///     }
 ///
 /// Times are whole microseconds, starts are counted from the Unix epoch. An integer that JSON
-/// programs cannot be trusted with (beyond 2^53) is written as a text of digits. The window's
-/// geometry is in base 64. The finish actions are "doNothing", "quitApplication", "sleep",
-/// "hibernate", "restart" and "shutDown". A field that is missing has its default; of a task, the
-/// title, the start and the duration are required.
+/// programs cannot be trusted with (beyond 2^53) is written as a text of digits. The finish actions
+/// are "doNothing", "quitApplication", "sleep", "hibernate", "restart" and "shutDown". A field that
+/// is missing has its default; of a task, the title, the start and the duration are required.
+///
+/// Other parts of the program may keep a section of their own there (SettingsSection).
 #pragma once
+
+#include <functional>
+#include <vector>
 
 #include <QJsonObject>
 #include <QStringList>
 
+#include "SectionReader.h"
 #include "UserSettings.h"
 
 namespace Zentor::PX {
+
+/// A section of the file that another part of the program keeps for itself.
+struct SettingsSection {
+    QString name;
+    /// Returns what UserSettings::sections is to hold of what was \a found in the file: every field
+    /// that is known, with its default where it is missing or cannot be used.
+    std::function<QJsonObject(const SectionReader& found)> read;
+};
 
 /// What was found in a settings file.
 struct SettingsDocument {
@@ -45,8 +56,12 @@ struct SettingsDocument {
     QJsonObject fields;
 };
 
-/// Reads the settings in \a json.
-ZENTOR_HOST_API SettingsDocument ParseSettings(const QByteArray& json);
+/// The settings of a user who has not changed any, with \a sections.
+ZENTOR_HOST_API UserSettings DefaultSettings(const std::vector<SettingsSection>& sections = {});
+
+/// Reads the settings in \a json, and in it \a sections.
+ZENTOR_HOST_API SettingsDocument ParseSettings(const QByteArray& json,
+                                               const std::vector<SettingsSection>& sections = {});
 
 /// Writes \a settings as JSON. Fields of \a previousFields and of its sections that are not known
 /// are kept.

@@ -8,8 +8,6 @@
 
 #include <glog/logging.h>
 
-#include "SettingsFormat.h"
-
 namespace Zentor::PX {
 namespace {
 
@@ -85,6 +83,12 @@ SettingsStore::~SettingsStore()
     Flush();
 }
 
+void SettingsStore::AddSection(const SettingsSection& section)
+{
+    m_sections.push_back(section);
+    m_settings = DefaultSettings(m_sections);
+}
+
 bool SettingsStore::Open(QString* error)
 {
     QString reason = Lock();
@@ -144,7 +148,7 @@ QString SettingsStore::Load()
                     m_filePath, file.errorString());
     }
     const QByteArray content = file.readAll();
-    const SettingsDocument document = ParseSettings(content);
+    const SettingsDocument document = ParseSettings(content, m_sections);
     if (!document.problems.isEmpty()) {
         QString failure = KeepDamaged(content, document.problems);
         if (!failure.isEmpty()) {

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include <QJsonObject>
 #include <QLockFile>
 #include <QObject>
 #include <QTimer>
 
+#include "SettingsFormat.h"
 #include "UserSettings.h"
 
 namespace Zentor::PX {
@@ -29,6 +31,10 @@ public:
 
     /// Saves what has not been saved yet, and frees the file for others.
     ~SettingsStore() override;
+
+    /// Has the file keep \a section for another part of the program, which reads and changes it in
+    /// UserSettings::sections. Call it before Open().
+    void AddSection(const SettingsSection& section);
 
     /// Reads the file. Where there is none the defaults count; folders that are missing are
     /// created.
@@ -73,6 +79,7 @@ private:
 
     const QString m_filePath;
     QLockFile m_lock;
+    std::vector<SettingsSection> m_sections;
     UserSettings m_settings;
     /// What the file holds beside the settings that are known.
     QJsonObject m_fields;

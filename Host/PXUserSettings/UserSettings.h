@@ -3,7 +3,7 @@
 #include <chrono>
 #include <vector>
 
-#include <QByteArray>
+#include <QJsonObject>
 #include <QMap>
 #include <QString>
 
@@ -14,7 +14,7 @@ namespace Zentor::PX {
 /// The user's folder for videos, or the home folder where there is none.
 ZENTOR_HOST_API QString DefaultResultsFolderPath();
 
-/// Everything that the application remembers for its user. The initial values are the defaults.
+/// Everything that is remembered for the user. The initial values are the defaults.
 struct UserSettings {
     bool limitedCaptureEnabled = false;
     /// From five seconds up to, but not including, 24 hours.
@@ -27,14 +27,8 @@ struct UserSettings {
     QString resultsFolderPath = DefaultResultsFolderPath();
     /// By the names of the questions, whether they were answered for good.
     QMap<QString, bool> confirmations;
-    /// A name that QLocale understands, such as "pt_BR"; empty for the language of the system.
-    QString language;
-    /// "light" or "dark"; empty for the theme of the desktop.
-    QString theme;
-    /// From QWidget::saveGeometry(); empty before the first time.
-    QByteArray windowGeometry;
-    /// Name of the settings page that was shown last; empty before the first time.
-    QString page;
+    /// By name, the sections that other parts of the program keep for themselves.
+    QMap<QString, QJsonObject> sections;
 };
 
 } // namespace Zentor::PX

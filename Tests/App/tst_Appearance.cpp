@@ -208,8 +208,8 @@ private Q_SLOTS:
         QCoreApplication::sendPostedEvents();
         witness.languageChanges = 0;
         witness.styleChanges = 0;
-        m_store->Change(
-            [](PX::UserSettings& settings) { settings.page = QStringLiteral("files"); });
+        Desktop::ChangeApplicationSettings(
+            *m_store, [](auto& settings) { settings.page = QStringLiteral("files"); });
         QCoreApplication::sendPostedEvents();
         QCOMPARE(witness.styleChanges, 0);
         QCOMPARE(witness.languageChanges, 0);
@@ -249,7 +249,7 @@ private:
 
     void Choose(const QString& language, const QString& theme)
     {
-        m_store->Change([&](PX::UserSettings& settings) {
+        Desktop::ChangeApplicationSettings(*m_store, [&](auto& settings) {
             settings.language = language;
             settings.theme = theme;
         });

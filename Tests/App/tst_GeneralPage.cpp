@@ -97,21 +97,21 @@ private Q_SLOTS:
         QFETCH(QString, theme);
         QFETCH(QString, shownLanguage);
         QFETCH(QString, shownTheme);
-        const auto choose = [&](PX::UserSettings& settings) {
+        const auto choose = [&](Desktop::ApplicationSettings& settings) {
             settings.language = language;
             settings.theme = theme;
         };
-        m_store->Change(choose);
+        Desktop::ChangeApplicationSettings(*m_store, choose);
         Show();
         QCOMPARE(Box("languageBox")->currentText(), shownLanguage);
         QCOMPARE(Box("themeBox")->currentText(), shownTheme);
         // Also when it is stored while the page is on screen.
-        m_store->Change([](PX::UserSettings& settings) {
+        Desktop::ChangeApplicationSettings(*m_store, [](auto& settings) {
             settings.language = QStringLiteral("de");
             settings.theme = QStringLiteral("light");
         });
         QCOMPARE(Box("languageBox")->currentText(), QStringLiteral("Deutsch"));
-        m_store->Change(choose);
+        Desktop::ChangeApplicationSettings(*m_store, choose);
         QCOMPARE(Box("languageBox")->currentText(), shownLanguage);
         QCOMPARE(Box("themeBox")->currentText(), shownTheme);
     }
@@ -121,15 +121,15 @@ private Q_SLOTS:
         Show();
         const QSignalSpy changed(m_store.get(), &PX::SettingsStore::Changed);
         Choose("languageBox", Qt::Key_Down);
-        QCOMPARE(m_store->Settings().language, QStringLiteral("en"));
+        QCOMPARE(Desktop::ApplicationSettingsIn(*m_store).language, QStringLiteral("en"));
         Choose("languageBox", Qt::Key_End);
-        QCOMPARE(m_store->Settings().language, QStringLiteral("he"));
+        QCOMPARE(Desktop::ApplicationSettingsIn(*m_store).language, QStringLiteral("he"));
         Choose("themeBox", Qt::Key_End);
-        QCOMPARE(m_store->Settings().theme, QStringLiteral("dark"));
+        QCOMPARE(Desktop::ApplicationSettingsIn(*m_store).theme, QStringLiteral("dark"));
         Choose("languageBox", Qt::Key_Home);
         Choose("themeBox", Qt::Key_Home);
-        QCOMPARE(m_store->Settings().language, QString());
-        QCOMPARE(m_store->Settings().theme, QString());
+        QCOMPARE(Desktop::ApplicationSettingsIn(*m_store).language, QString());
+        QCOMPARE(Desktop::ApplicationSettingsIn(*m_store).theme, QString());
         QCOMPARE(changed.count(), 5);
     }
 
@@ -159,7 +159,7 @@ private Q_SLOTS:
         QVERIFY(Button("askAgainButton")->isEnabled());
         QVERIFY(Label("questionsLabel")->text() != allAsked);
 
-        const QSignalSpy happened(m_page.get(), &Desktop::GeneralPage::Happened);
+        const QSignalSpy happened(m_page.get(), &Desktop::GeneralPage::Announced);
         Button("askAgainButton")->click();
         QVERIFY(!m_store->Settings().confirmations.value(QStringLiteral("other")));
         QVERIFY(!Button("askAgainButton")->isEnabled());
@@ -181,7 +181,7 @@ private Q_SLOTS:
     {
         const DesktopStandIn desktop;
         Show();
-        const QSignalSpy happened(m_page.get(), &Desktop::GeneralPage::Happened);
+        const QSignalSpy happened(m_page.get(), &Desktop::GeneralPage::Announced);
         AllowWarning(QStringLiteral("lock file"));
         QVERIFY(m_folder->remove());
         Button("openFolderButton")->click();
@@ -218,8 +218,8 @@ private Q_SLOTS:
 
     void keepsItsChoicesInAnotherLanguage()
     {
-        m_store->Change(
-            [](PX::UserSettings& settings) { settings.theme = QStringLiteral("dark"); });
+        Desktop::ChangeApplicationSettings(
+            *m_store, [](auto& settings) { settings.theme = QStringLiteral("dark"); });
         Show();
         LanguageSwitch language;
         language.Toggle();

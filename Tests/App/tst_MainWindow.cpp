@@ -25,6 +25,7 @@
 #include "RecordSchedulerWidget.h"
 #include "Resources.h"
 #include "Samples.h"
+#include "StoreIn.h"
 #include "Theme.h"
 #include "WidgetTest.h"
 
@@ -494,7 +495,8 @@ private Q_SLOTS:
         QVERIFY(m_store->Flush());
         QVERIFY(QFile::remove(SettingsFile()));
         QVERIFY(QDir(m_folder->path()).mkpath(SettingsFile() + QStringLiteral("/in the way")));
-        m_store->Change([](auto& settings) { settings.page = QStringLiteral("files"); });
+        Desktop::ChangeApplicationSettings(
+            *m_store, [](auto& settings) { settings.page = QStringLiteral("files"); });
         QVERIFY(!m_store->Flush());
         const auto* label = Find<QLabel>("saveProblemLabel");
         QVERIFY(label->text().startsWith(QLatin1String("Your changes")));
@@ -876,12 +878,7 @@ private:
         ShowWindow();
     }
 
-    void OpenStore()
-    {
-        m_store = std::make_shared<PX::SettingsStore>(SettingsFile());
-        QString error;
-        QVERIFY2(m_store->Open(&error), qPrintable(error));
-    }
+    void OpenStore() { m_store = OpenStoreIn(*m_folder); }
 
     void ShowWindow()
     {

@@ -11,6 +11,30 @@ using namespace std::chrono_literals;
 
 namespace {
 
+/// What another part of the program keeps in the file.
+struct Note {
+    QString text;
+    QByteArray bytes;
+};
+
+QJsonObject FormatNote(const Note& note)
+{
+    return {{QStringLiteral("text"), note.text},
+            {QStringLiteral("bytes"), QString::fromLatin1(note.bytes.toBase64())}};
+}
+
+/// The section "note" of the file.
+std::vector<PX::SettingsSection> NoteSection()
+{
+    const auto read = [](const PX::SectionReader& found) {
+        Note note;
+        found.Read(QStringLiteral("text"), note.text, PX::ToText);
+        found.Read(QStringLiteral("bytes"), note.bytes, PX::ToBytes);
+        return FormatNote(note);
+    };
+    return {{QStringLiteral("note"), read}};
+}
+
 /// Settings in which every value differs from its default.
 PX::UserSettings Sample()
 {
@@ -25,10 +49,8 @@ PX::UserSettings Sample()
     settings.captureFinishAction = PX::Hibernate;
     settings.resultsFolderPath = QStringLiteral("/videos");
     settings.confirmations = {{QStringLiteral("a"), true}, {QStringLiteral("b"), false}};
-    settings.language = QStringLiteral("pt_BR");
-    settings.theme = QStringLiteral("dark");
-    settings.windowGeometry = QByteArray("\0\1\xff", 3);
-    settings.page = QStringLiteral("files");
+    settings.sections = {
+        {QStringLiteral("note"), FormatNote({QStringLiteral("files"), QByteArray("\0\1\xff", 3)})}};
     return settings;
 }
 
@@ -53,10 +75,12 @@ void Compare(const PX::UserSettings& actual, const PX::UserSettings& expected)
     QCOMPARE(actual.captureFinishAction, expected.captureFinishAction);
     QCOMPARE(actual.resultsFolderPath, expected.resultsFolderPath);
     QCOMPARE(actual.confirmations, expected.confirmations);
-    QCOMPARE(actual.language, expected.language);
-    QCOMPARE(actual.theme, expected.theme);
-    QCOMPARE(actual.windowGeometry, expected.windowGeometry);
-    QCOMPARE(actual.page, expected.page);
+    QCOMPARE(actual.sections, expected.sections);
+}
+
+PX::SettingsDocument Parse(const QByteArray& json)
+{
+    return PX::ParseSettings(json, NoteSection());
 }
 
 QByteArray Version1With(const QByteArray& fields)
@@ -77,7 +101,7 @@ class tst_SettingsFormat : public WidgetTest {
 private Q_SLOTS:
     void readsWhatItWrites()
     {
-        const auto document = PX::ParseSettings(PX::FormatSettings(Sample(), {}));
+        const auto document = Parse(PX::FormatSettings(Sample(), {}));
         QVERIFY(document.isUnderstood);
         QCOMPARE(document.problems, QStringList());
         Compare(document.settings, Sample());
@@ -94,10 +118,21 @@ private Q_SLOTS:
         QVERIFY(!settings.resultsFolderPath.isEmpty());
         QVERIFY(settings.confirmations.isEmpty());
 
-        const auto document = PX::ParseSettings("{\"version\": 1}");
+        const auto document = Parse("{\"version\": 1}");
         QVERIFY(document.isUnderstood);
         QCOMPARE(document.problems, QStringList());
-        Compare(document.settings, settings);
+        Compare(document.settings, PX::DefaultSettings(NoteSection()));
+        QCOMPARE(document.settings.sections.value(QStringLiteral("note")), FormatNote({}));
+    }
+
+    void sectionThatNobodyKeepsIsLeftAlone()
+    {
+        const auto document = PX::ParseSettings(Version1With("\"note\": {\"text\": 1}"));
+        QCOMPARE(document.problems, QStringList());
+        QVERIFY(document.settings.sections.isEmpty());
+        const auto again = PX::ParseSettings(PX::FormatSettings({}, document.fields));
+        QCOMPARE(again.fields.value(QLatin1String("note")),
+                 document.fields.value(QLatin1String("note")));
     }
 
     void everyActionHasAName()
@@ -105,7 +140,7 @@ private Q_SLOTS:
         for (int action = PX::DoNothing; action <= PX::ShutDown; ++action) {
             PX::UserSettings settings;
             settings.captureFinishAction = static_cast<PX::PowerAction>(action);
-            const auto document = PX::ParseSettings(PX::FormatSettings(settings, {}));
+            const auto document = Parse(PX::FormatSettings(settings, {}));
             QCOMPARE(document.settings.captureFinishAction, settings.captureFinishAction);
             QVERIFY(document.fields.value(QLatin1String("captureFinishAction")).isString());
         }
@@ -131,7 +166,7 @@ private Q_SLOTS:
         PX::UserSettings settings;
         const Time::IClock::time_point point{std::chrono::microseconds(start)};
         settings.schedule = {Record(QStringLiteral("A"), point, 0us)};
-        const auto document = PX::ParseSettings(PX::FormatSettings(settings, {}));
+        const auto document = Parse(PX::FormatSettings(settings, {}));
         QCOMPARE(document.problems, QStringList());
         QVERIFY(document.settings.schedule.at(0).start == point);
     }
@@ -156,20 +191,20 @@ private Q_SLOTS:
     void notUnderstood()
     {
         QFETCH(QByteArray, json);
-        const auto document = PX::ParseSettings(json);
+        const auto document = Parse(json);
         QVERIFY(!document.isUnderstood);
         QCOMPARE(document.problems.count(), 1);
         QVERIFY(document.fields.isEmpty());
-        Compare(document.settings, {});
+        Compare(document.settings, PX::DefaultSettings(NoteSection()));
     }
 
     void truncated()
     {
         const QByteArray json = PX::FormatSettings(Sample(), {}).trimmed();
         for (int size = 0; size < json.size(); ++size) {
-            const auto document = PX::ParseSettings(json.left(size));
+            const auto document = Parse(json.left(size));
             QVERIFY2(!document.isUnderstood, qPrintable(QString::number(size)));
-            Compare(document.settings, {});
+            Compare(document.settings, PX::DefaultSettings(NoteSection()));
         }
     }
 
@@ -202,34 +237,30 @@ private Q_SLOTS:
         row("\"captureFinishAction\": \"explode\"", "captureFinishAction: unusable value");
         row("\"paths\": {\"resultsFolder\": 1}", "paths.resultsFolder: unusable value");
         row("\"confirmations\": {\"id\": \"yes\"}", "confirmations.id: unusable value");
-        row("\"appearance\": {\"language\": 1}", "appearance.language: unusable value");
-        row("\"appearance\": {\"theme\": \"pink\"}", "appearance.theme: unusable value");
-        row("\"appearance\": {\"theme\": 1}", "appearance.theme: unusable value");
-        row("\"appearance\": {\"windowGeometry\": \"!\"}",
-            "appearance.windowGeometry: unusable value");
-        row("\"appearance\": {\"windowGeometry\": 1}", "appearance.windowGeometry: unusable value");
-        row("\"appearance\": {\"page\": []}", "appearance.page: unusable value");
+        row("\"note\": 5", "note: not an object");
+        row("\"note\": {\"text\": 1}", "note.text: unusable value");
+        row("\"note\": {\"text\": []}", "note.text: unusable value");
+        row("\"note\": {\"bytes\": \"!\"}", "note.bytes: unusable value");
+        row("\"note\": {\"bytes\": 1}", "note.bytes: unusable value");
     }
 
     void unusableValues()
     {
         QFETCH(QByteArray, fields);
         QFETCH(QString, problem);
-        const auto document = PX::ParseSettings(Version1With(fields));
+        const auto document = Parse(Version1With(fields));
         QCOMPARE(document.isUnderstood, !problem.isEmpty());
         if (document.isUnderstood) {
             QCOMPARE(document.problems, QStringList(problem));
         }
-        Compare(document.settings, {});
+        Compare(document.settings, PX::DefaultSettings(NoteSection()));
     }
 
     void limitsOfTheDuration()
     {
-        const auto least =
-            PX::ParseSettings(Version1With("\"limitedCapture\": {\"duration\": 5000000}"));
+        const auto least = Parse(Version1With("\"limitedCapture\": {\"duration\": 5000000}"));
         QCOMPARE(least.problems, QStringList());
-        const auto most =
-            PX::ParseSettings(Version1With("\"limitedCapture\": {\"duration\": 86399999999}"));
+        const auto most = Parse(Version1With("\"limitedCapture\": {\"duration\": 86399999999}"));
         QCOMPARE(most.problems, QStringList());
         QVERIFY(most.settings.limitedCaptureDuration == 24h - 1us);
     }
@@ -270,7 +301,7 @@ private Q_SLOTS:
         QFETCH(QString, problem);
         const QByteArray tasks = R"({"title": "A", "start": 100, "duration": 100}, )" + task
             + R"(, {"title": "C", "start": 200, "duration": 100, "screenIndex": 2147483647})";
-        const auto document = PX::ParseSettings(WithTasks(tasks));
+        const auto document = Parse(WithTasks(tasks));
         QVERIFY(document.isUnderstood);
         QCOMPARE(document.problems, QStringList(problem));
         const auto& schedule = document.settings.schedule;
@@ -285,12 +316,12 @@ private Q_SLOTS:
     void unknownFieldsAreKept()
     {
         const char* fields = R"("extra": {"a": [1, 2]}, "limitedCapture": {"more": 7},
-            "appearance": {"accent": "green", "theme": "light"}, "paths": {"second": "/x"},
+            "note": {"color": "green", "text": "old"}, "paths": {"second": "/x"},
             "scheduledCapture": {"note": null})";
-        const auto document = PX::ParseSettings(Version1With(fields));
+        const auto document = Parse(Version1With(fields));
         QCOMPARE(document.problems, QStringList());
 
-        const auto again = PX::ParseSettings(PX::FormatSettings(Sample(), document.fields));
+        const auto again = Parse(PX::FormatSettings(Sample(), document.fields));
         QCOMPARE(again.problems, QStringList());
         Compare(again.settings, Sample());
         const auto section = [&](const char* key) {
@@ -298,17 +329,16 @@ private Q_SLOTS:
         };
         QCOMPARE(section("extra").value(QLatin1String("a")).toArray().count(), 2);
         QCOMPARE(section("limitedCapture").value(QLatin1String("more")).toInt(), 7);
-        QCOMPARE(section("appearance").value(QLatin1String("accent")).toString(),
-                 QStringLiteral("green"));
+        QCOMPARE(section("note").value(QLatin1String("color")).toString(), QStringLiteral("green"));
         QCOMPARE(section("paths").value(QLatin1String("second")).toString(), QStringLiteral("/x"));
         QVERIFY(section("scheduledCapture").value(QLatin1String("note")).isNull());
     }
 
     void forgottenConfirmationsAreGone()
     {
-        const auto document = PX::ParseSettings(Version1With("\"confirmations\": {\"a\": true}"));
+        const auto document = Parse(Version1With("\"confirmations\": {\"a\": true}"));
         QVERIFY(document.settings.confirmations.value(QStringLiteral("a")));
-        const auto again = PX::ParseSettings(PX::FormatSettings({}, document.fields));
+        const auto again = Parse(PX::FormatSettings({}, document.fields));
         QVERIFY(again.settings.confirmations.isEmpty());
     }
 };

@@ -119,8 +119,43 @@ private:
     QTemporaryDir m_folder;
 };
 
+/// Each store keeps a section "appearance" with a page and a language.
+QString Field(const UserSettings& settings, const char* name)
+{
+    return settings.sections.value(QStringLiteral("appearance"))
+        .value(QLatin1String(name))
+        .toString();
+}
+
+QString PageOf(const UserSettings& settings)
+{
+    return Field(settings, "page");
+}
+
+void SetFields(UserSettings& settings, const QString& page, const QString& language)
+{
+    settings.sections.insert(
+        QStringLiteral("appearance"),
+        QJsonObject{{QStringLiteral("page"), page}, {QStringLiteral("language"), language}});
+}
+
+PX::SettingsSection AppearanceSection()
+{
+    const auto read = [](const PX::SectionReader& found) {
+        QString page;
+        QString language;
+        found.Read(QStringLiteral("page"), page, PX::ToText);
+        found.Read(QStringLiteral("language"), language, PX::ToText);
+        UserSettings settings;
+        SetFields(settings, page, language);
+        return settings.sections.first();
+    };
+    return {QStringLiteral("appearance"), read};
+}
+
 bool Open(SettingsStore& store)
 {
+    store.AddSection(AppearanceSection());
     QString error;
     return store.Open(&error) && error.isEmpty();
 }
@@ -135,15 +170,14 @@ QString OpenError(const QString& path)
 
 void SetPage(SettingsStore& store, const QString& page)
 {
-    store.Change([&page](UserSettings& settings) { settings.page = page; });
+    store.Change([&page](UserSettings& settings) { SetFields(settings, page, {}); });
 }
 
 /// Settings in which everything tells the same number.
 UserSettings State(int number)
 {
     UserSettings settings;
-    settings.page = QString::number(number);
-    settings.language = settings.page;
+    SetFields(settings, QString::number(number), QString::number(number));
     for (int i = 0; i < 50; ++i) {
         settings.schedule.push_back(Record(QStringLiteral("Task %1 of %2").arg(i).arg(number),
                                            At("00:00") + i * 1min, 1min));
@@ -219,7 +253,7 @@ private Q_SLOTS:
         const QSignalSpy changed(&store, &SettingsStore::Changed);
         QVERIFY(Open(store));
         QCOMPARE(store.FilePath(), place.Path());
-        QVERIFY(store.Settings().page.isEmpty());
+        QVERIFY(PageOf(store.Settings()).isEmpty());
         QVERIFY(store.Flush());
         QVERIFY(!QFile::exists(place.Path()));
         QCOMPARE(changed.count(), 0);
@@ -236,14 +270,14 @@ private Q_SLOTS:
             store.Change([](UserSettings& settings) { settings = State(7); });
             QCOMPARE(changed.count(), 1);
             QCOMPARE(saved.count(), 0);
-            QCOMPARE(store.Settings().page, QStringLiteral("7"));
+            QCOMPARE(PageOf(store.Settings()), QStringLiteral("7"));
             QTRY_COMPARE(saved.count(), 1);
             QVERIFY(store.Flush());
             QCOMPARE(saved.count(), 1);
         }
         SettingsStore store(place.Path());
         QVERIFY(Open(store));
-        QCOMPARE(store.Settings().page, QStringLiteral("7"));
+        QCOMPARE(PageOf(store.Settings()), QStringLiteral("7"));
         QCOMPARE(store.Settings().schedule.size(), std::size_t(50));
         QVERIFY(place.DamagedFiles().isEmpty());
     }
@@ -300,7 +334,7 @@ private Q_SLOTS:
             QVERIFY(store.Flush());
             SetPage(store, QStringLiteral("early"));
             QVERIFY(!store.Flush());
-            QCOMPARE(store.Settings().page, QStringLiteral("early"));
+            QCOMPARE(PageOf(store.Settings()), QStringLiteral("early"));
         }
         QVERIFY(!QFile::exists(place.Path()));
     }
@@ -379,7 +413,7 @@ private Q_SLOTS:
         // What is there can be used, but not changed.
         SettingsStore store(place.Path());
         QVERIFY(Open(store));
-        QCOMPARE(store.Settings().page, QStringLiteral("old"));
+        QCOMPARE(PageOf(store.Settings()), QStringLiteral("old"));
         const QSignalSpy failed(&store, &SettingsStore::SaveFailed);
         const QByteArray before = place.Read();
         SetPage(store, QStringLiteral("new"));
@@ -387,7 +421,7 @@ private Q_SLOTS:
         QCOMPARE(failed.count(), 1);
         QVERIFY(failed.at(0).at(0).toString().contains(place.Path()));
         QCOMPARE(place.Read(), before);
-        QCOMPARE(store.Settings().page, QStringLiteral("new"));
+        QCOMPARE(PageOf(store.Settings()), QStringLiteral("new"));
     }
 
     void damagedFileThatCannotBeKept()
@@ -433,7 +467,7 @@ private Q_SLOTS:
             SettingsStore store(place.Path());
             QVERIFY(Open(store));
             const bool isWhole = size == whole.size();
-            QCOMPARE(store.Settings().page, isWhole ? QStringLiteral("3") : QString());
+            QCOMPARE(PageOf(store.Settings()), isWhole ? QStringLiteral("3") : QString());
             QCOMPARE(log.lines.count(), isWhole ? 0 : 1);
             const QStringList kept = place.DamagedFiles();
             QCOMPARE(kept.count(), isWhole ? 0 : 1);
@@ -472,7 +506,7 @@ private Q_SLOTS:
         SettingsStore store(place.Path());
         const QSignalSpy saved(&store, &SettingsStore::Saved);
         QVERIFY(Open(store));
-        QCOMPARE(store.Settings().page, page);
+        QCOMPARE(PageOf(store.Settings()), page);
         QCOMPARE(log.lines.count(), 1);
         QVERIFY(log.lines.first().startsWith(
             QLatin1String("Zentor::PX::SettingsStore::Open: damaged=")));
@@ -481,7 +515,7 @@ private Q_SLOTS:
         QCOMPARE(place.Read(place.DamagedFiles().first()), content);
         // So that the next start does not find the same damage.
         QTRY_COMPARE(saved.count(), 1);
-        QCOMPARE(PX::ParseSettings(place.Read()).problems, QStringList());
+        QCOMPARE(PX::ParseSettings(place.Read(), {AppearanceSection()}).problems, QStringList());
     }
 
     void keepsEveryDamagedFile()
@@ -534,12 +568,12 @@ private Q_SLOTS:
             QCOMPARE(failed.count(), 1);
             QCOMPARE(log.lines.count(), 1);
             QCOMPARE(saved.count(), 0);
-            QCOMPARE(store.Settings().page, QStringLiteral("during"));
+            QCOMPARE(PageOf(store.Settings()), QStringLiteral("during"));
         }
         // Nothing but time is needed.
         QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 1, 15000);
-        const auto document = PX::ParseSettings(place.Read());
-        QCOMPARE(document.settings.page, QStringLiteral("during"));
+        const auto document = PX::ParseSettings(place.Read(), {AppearanceSection()});
+        QCOMPARE(PageOf(document.settings), QStringLiteral("during"));
         QCOMPARE(document.settings.schedule.size(), std::size_t(50));
         QCOMPARE(QDir(QFileInfo(place.Path()).path()).entryList(QDir::Files).count(), 2);
 
@@ -611,11 +645,11 @@ private Q_SLOTS:
             QVERIFY(Open(store));
             QVERIFY(place.DamagedFiles().isEmpty());
             const UserSettings& settings = store.Settings();
-            QVERIFY(settings.page.toInt() >= number);
-            QCOMPARE(settings.language, settings.page);
+            QVERIFY(PageOf(settings).toInt() >= number);
+            QCOMPARE(Field(settings, "language"), PageOf(settings));
             QCOMPARE(settings.schedule.size(), std::size_t(50));
             for (const auto& record : settings.schedule) {
-                QVERIFY(record.title.endsWith(QStringLiteral(" of ") + settings.page));
+                QVERIFY(record.title.endsWith(QStringLiteral(" of ") + PageOf(settings)));
             }
         }
     }

@@ -1,0 +1,129 @@
+#include "PageFrame.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QScrollBar>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include "Controls.h"
+#include "Page.h"
+
+namespace Zentor::Desktop {
+namespace {
+
+constexpr int Margin = 24;
+/// Between the description and the page.
+constexpr int Gap = 18;
+
+/// A row in which \a widget grows up to its maximum width, at the leading edge.
+QLayout* CreateRow(QWidget* widget)
+{
+    auto* row = new QHBoxLayout;
+    row->addWidget(widget, 1);
+    row->addStretch(0);
+    return row;
+}
+
+/// Scrolls by \a bar until \a start to \a end, counted from where the view starts, is in it, with
+/// something of what is around it where there is room. What is longer than the view fills half of
+/// it at least: before its start there may be its caption.
+void Scroll(QScrollBar& bar, int start, int end)
+{
+    constexpr int wanted = 8;
+    const int length = bar.pageStep();
+    const int last = end - start > length ? start + length / 2 : end;
+    const int around = qBound(0, (length - (last - start)) / 2, wanted);
+    if (start < around) {
+        bar.setValue(bar.value() + start - around);
+    } else if (last > length - around) {
+        bar.setValue(bar.value() + last - length + around);
+    }
+}
+
+/// Not by means of the area: it shows no more of a field than its cursor, and takes left for right
+/// in RTL layouts. Leaves what is in view where it is.
+void ScrollTo(const QScrollArea& area, const QWidget& control)
+{
+    const QRect place(control.mapTo(area.viewport(), QPoint(0, 0)), control.size());
+    const QRect fromStart =
+        QStyle::visualRect(area.layoutDirection(), area.viewport()->rect(), place);
+    Scroll(*area.horizontalScrollBar(), fromStart.left(), fromStart.right() + 1);
+    Scroll(*area.verticalScrollBar(), fromStart.top(), fromStart.bottom() + 1);
+}
+
+void ScrollToFocused(const QWidget& focused)
+{
+    for (const QWidget* parent = focused.parentWidget(); parent != nullptr;
+         parent = parent->parentWidget()) {
+        const auto* area = qobject_cast<const QScrollArea*>(parent);
+        if (area != nullptr && area->widget() != nullptr
+            && area->widget()->isAncestorOf(&focused)) {
+            ScrollTo(*area, focused);
+        }
+    }
+}
+
+void WatchFocus(const QWidget* contents)
+{
+    QObject::connect(qApp, &QApplication::focusChanged, contents, [contents](auto*, auto* now) {
+        // What is pressed with the mouse must not move away from under it.
+        if (now != nullptr && contents->isAncestorOf(now)
+            && QGuiApplication::mouseButtons() == Qt::NoButton) {
+            ScrollToFocused(*now);
+        }
+    });
+}
+
+} // namespace
+
+PageFrame::PageFrame(Page* page, QWidget* parent)
+    : QScrollArea(parent)
+    , m_page(page)
+{
+    setObjectName(QStringLiteral("pageScrollArea"));
+    setWidgetResizable(true);
+    // The arrow keys and the wheel scroll; a focus of its own would be one more stop for Tab.
+    setFocusPolicy(Qt::NoFocus);
+
+    auto* contents = new QWidget(this);
+    contents->setObjectName(QStringLiteral("pageContents"));
+    m_head = new QWidget(contents);
+    m_title = CreateLabel(QStringLiteral("pageTitle"), m_head);
+    m_description = CreateLabel(QStringLiteral("pageDescription"), m_head);
+    auto* headColumn = new QVBoxLayout(m_head);
+    headColumn->setContentsMargins(0, 0, 0, 0);
+    headColumn->setSpacing(0);
+    headColumn->addWidget(m_title);
+    headColumn->addWidget(m_description);
+
+    auto* column = new QVBoxLayout(contents);
+    column->setContentsMargins(Margin, Margin, Margin, Margin);
+    column->setSpacing(0);
+    column->addLayout(CreateRow(m_head));
+    column->addSpacing(Gap);
+    // The page grows up to the width that the style sheet allows.
+    column->addLayout(CreateRow(page));
+    column->addStretch(1);
+    setWidget(contents);
+    WatchFocus(contents);
+}
+
+void PageFrame::Retranslate()
+{
+    m_title->setText(m_page->Title());
+    m_description->setText(m_page->Description());
+    setAccessibleName(m_page->Title());
+    setAccessibleDescription(m_page->Description());
+}
+
+void PageFrame::resizeEvent(QResizeEvent* event)
+{
+    QScrollArea::resizeEvent(event);
+    // The head is wrapped for the view, whether scroll bars are shown or not: a page that becomes
+    // wider or longer than the view does not move what is above it.
+    const int barWidth = verticalScrollBar()->sizeHint().width();
+    m_head->setMaximumWidth(qMax(0, maximumViewportSize().width() - barWidth - 2 * Margin));
+}
+
+} // namespace Zentor::Desktop

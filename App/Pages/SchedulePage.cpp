@@ -1,0 +1,187 @@
+#include "SchedulePage.h"
+
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QDateTimeEdit>
+#include <QEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTextCharFormat>
+#include <QVBoxLayout>
+
+#include "Application/SettingsManager.h"
+#include "Controls.h"
+#include "PanelAnnouncer.h"
+#include "PanelFormKeys.h"
+#include "PanelListKeys.h"
+#include "PanelMouse.h"
+#include "PXUserSettings/StoredSettings.h"
+#include "RadioGroupTabStop.h"
+#include "RecordSchedulerWidget.h"
+#include "Theme.h"
+
+namespace Zentor::Desktop {
+
+using PX::Scheduler::UI::RecordSchedulerWidget;
+
+SchedulePage::SchedulePage(std::shared_ptr<PX::SettingsStore> store,
+                           std::shared_ptr<App::ILookAndFeelManager> lookAndFeel, QWidget* parent)
+    : Page(PageId(), parent)
+    , m_store(std::move(store))
+    , m_lookAndFeel(std::move(lookAndFeel))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSizeConstraint(QLayout::SetMinAndMaxSize);
+    CreatePanel();
+    AssistPanel();
+    RetranslatePanel();
+}
+
+SchedulePage::~SchedulePage()
+{
+    // The form is hidden once more when the panel is deleted, which is no news.
+    delete m_announcer;
+}
+
+QString SchedulePage::PageId()
+{
+    return QStringLiteral("schedule");
+}
+
+QString SchedulePage::Title() const
+{
+    return tr("Schedule");
+}
+
+QString SchedulePage::Description() const
+{
+    return tr("Choose when a recording stops or starts by itself.");
+}
+
+void SchedulePage::CreatePanel()
+{
+    m_panel = new RecordSchedulerWidget(m_lookAndFeel,
+                                        std::make_shared<App::SettingsManager>(m_store), this);
+    m_panel->setObjectName(QStringLiteral("recordSchedulerWidget"));
+    m_panel->SetSchedulerSettings(std::make_shared<PX::StoredSchedulerSettings>(m_store));
+    m_panel->SetCaptureFinishActionSettings(
+        std::make_shared<PX::StoredCaptureFinishActionSettings>(m_store));
+    m_panel->SetPathSettings(std::make_shared<PX::StoredPathsSettings>(m_store));
+    m_panel->SetSettingsWatcher(std::make_shared<PX::StoringSettingsWatcher>(m_store));
+    m_panel->RestoreSettings();
+    StyleComboBoxLists(*m_panel);
+    connect(m_panel, &RecordSchedulerWidget::OpenFilesSettingsRequested, this,
+            &SchedulePage::FilesRequested);
+    m_parts = std::make_unique<PanelParts>(*m_panel);
+    layout()->addWidget(m_panel);
+}
+
+void SchedulePage::AssistPanel()
+{
+    new PanelListKeys(m_panel);
+    new PanelFormKeys(m_panel);
+    new RadioGroupTabStop(m_parts->modeGroup);
+    new RadioGroupTabStop(m_parts->areaGroup);
+    new PanelMouse(m_panel);
+    m_announcer = new PanelAnnouncer(m_panel, m_store);
+    connect(m_announcer, &PanelAnnouncer::Happened, this, &SchedulePage::Announced);
+    connect(m_announcer, &PanelAnnouncer::ProblemChanged, this, &SchedulePage::ProblemChanged);
+}
+
+void SchedulePage::RebuildPanel()
+{
+    // While a panel is restored it stores the schedule anew, task by task. That is no news.
+    delete m_announcer;
+    const std::unique_ptr<QWidget> before(m_panel);
+    CreatePanel();
+    // Now: the layout would show it only later.
+    m_panel->show();
+    AssistPanel();
+    RetranslatePanel();
+    OrderTabs();
+}
+
+void SchedulePage::OrderTabs()
+{
+    QList<QWidget*> stops;
+    for (QWidget* widget = m_panel->nextInFocusChain(); m_panel->isAncestorOf(widget);
+         widget = widget->nextInFocusChain()) {
+        if (widget->focusPolicy() != Qt::NoFocus && widget->focusProxy() == nullptr) {
+            stops << widget;
+        }
+    }
+    QWidget* previous = m_tabPredecessor;
+    for (QWidget* stop : qAsConst(stops)) {
+        setTabOrder(previous, stop);
+        previous = stop;
+    }
+}
+
+void SchedulePage::RetranslatePanel()
+{
+    m_parts->list->setAccessibleName(tr("Recording schedule"));
+    // Which days are the weekend is a matter of the language, too.
+    ColorCalendar();
+}
+
+void SchedulePage::ColorCalendar()
+{
+    QTextCharFormat weekendFormat;
+    weekendFormat.setForeground(
+        QColor(ColorsOf(ThemeOf(QApplication::palette())).value(QStringLiteral("danger"))));
+    const auto workdays = QLocale().weekdays();
+    auto* calendar = m_parts->dateField->calendarWidget();
+    for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
+        const auto weekday = static_cast<Qt::DayOfWeek>(day);
+        calendar->setWeekdayTextFormat(
+            weekday, workdays.contains(weekday) ? QTextCharFormat() : weekendFormat);
+    }
+}
+
+bool SchedulePage::ValidateSettings()
+{
+    const QPointer<SchedulePage> self(this);
+    const bool isReady = m_panel->ValidateSettings();
+    return !self.isNull() && isReady;
+}
+
+bool SchedulePage::HasUnfinishedInput() const
+{
+    return m_parts->IsFormVisible();
+}
+
+bool SchedulePage::FinishInput()
+{
+    if (!HasUnfinishedInput()) {
+        return true;
+    }
+    const QPointer<SchedulePage> self(this);
+    m_parts->backButton->click();
+    return !self.isNull() && !HasUnfinishedInput();
+}
+
+void SchedulePage::FocusInput()
+{
+    m_parts->nameField->setFocus(Qt::OtherFocusReason);
+}
+
+void SchedulePage::changeEvent(QEvent* event)
+{
+    // Both arrive for the first time while the page is still being built.
+    if (IsBuilt() && event->type() == QEvent::LanguageChange) {
+        RetranslatePanel();
+        // A form is left as the user has it; it is closed before the page with the languages is
+        // shown.
+        if (!m_store->Settings().schedule.empty() && !HasUnfinishedInput()) {
+            RebuildPanel();
+        }
+    }
+    if (IsBuilt() && event->type() == QEvent::PaletteChange) {
+        ColorCalendar();
+    }
+    Page::changeEvent(event);
+}
+
+} // namespace Zentor::Desktop

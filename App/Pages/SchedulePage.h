@@ -1,0 +1,84 @@
+#pragma once
+
+#include <memory>
+
+#include <QPointer>
+
+#include "Page.h"
+#include "PanelAnnouncer.h"
+#include "PanelParts.h"
+
+namespace Zentor {
+namespace App {
+class ILookAndFeelManager;
+}
+namespace PX {
+class SettingsStore;
+namespace Scheduler::UI {
+class RecordSchedulerWidget;
+}
+} // namespace PX
+} // namespace Zentor
+
+namespace Zentor::Desktop {
+
+/// The page "Schedule": the scheduler panel on the settings of the application, with what it lacks
+/// for the keyboard, the mouse and screen readers.
+///
+/// A panel writes the rows of its list once. When the language changes, the page builds a new panel
+/// in the place of the old one, which has nothing that is not stored.
+class SchedulePage final : public Page {
+    Q_OBJECT
+
+public:
+    /// Apply a theme before: a panel takes the width of its table from it while it is built.
+    SchedulePage(std::shared_ptr<PX::SettingsStore> store,
+                 std::shared_ptr<App::ILookAndFeelManager> lookAndFeel, QWidget* parent);
+    ~SchedulePage() override;
+
+    /// The Id() of this page.
+    static QString PageId();
+
+    QString Title() const override;
+    QString Description() const override;
+
+    /// Whether the task form is on screen.
+    bool HasUnfinishedInput() const override;
+    bool FinishInput() override;
+    void FocusInput() override;
+
+    /// Has a new panel take its place behind \a widget for the Tab key.
+    void SetTabPredecessor(QWidget* widget) { m_tabPredecessor = widget; }
+
+    /// Whether a recording may start. The panel asks the user where it has to; the page may be
+    /// destroyed meanwhile, and the answer is false then.
+    bool ValidateSettings();
+
+Q_SIGNALS:
+    /// The user wants to choose another folder for the recordings.
+    void FilesRequested();
+    /// The task form cannot be used as it is, and \a problem says why; empty when nothing is wrong
+    /// any more or the form is closed. Not sent again for the same problem.
+    void ProblemChanged(const QString& problem);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void CreatePanel();
+    void AssistPanel();
+    void RebuildPanel();
+    void OrderTabs();
+    void RetranslatePanel();
+    void ColorCalendar();
+    bool IsBuilt() const { return !m_announcer.isNull(); }
+
+    std::shared_ptr<PX::SettingsStore> m_store;
+    std::shared_ptr<App::ILookAndFeelManager> m_lookAndFeel;
+    PX::Scheduler::UI::RecordSchedulerWidget* m_panel = nullptr;
+    std::unique_ptr<PanelParts> m_parts;
+    QPointer<PanelAnnouncer> m_announcer;
+    QPointer<QWidget> m_tabPredecessor;
+};
+
+} // namespace Zentor::Desktop

@@ -1,0 +1,41 @@
+/// \file
+/// The small controls of the pages, made alike. The parent owns each.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QComboBox;
+class QFrame;
+class QLabel;
+class QPushButton;
+class QWidget;
+
+namespace Zentor::Desktop {
+
+/// Distance in pixels between controls that belong together.
+constexpr int ControlSpacing = 8;
+
+/// A label that shows its text literally, wrapped where it does not fit.
+QLabel* CreateLabel(const QString& objectName, QWidget* parent);
+
+/// A button that Enter presses when it has the focus.
+QPushButton* CreateButton(const QString& objectName, QWidget* parent);
+
+/// A frame around settings that belong together.
+QFrame* CreateCard(const QString& objectName, QWidget* parent);
+
+/// A combo box with an entry for each of \a values, which are the entries' data; their texts are
+/// set later. The mouse wheel does not change it.
+QComboBox* CreateComboBox(const QString& objectName, const QStringList& values, QWidget* parent);
+
+/// Makes \a box as wide as its longest text.
+void WidenToTexts(QComboBox& box);
+
+/// Selects the entry of \a value in \a box or, where there is none, the first one.
+void SelectValue(QComboBox& box, const QString& value);
+
+/// Has the style sheet draw the lists of the combo boxes in \a parent.
+void StyleComboBoxLists(const QWidget& parent);
+
+} // namespace Zentor::Desktop
