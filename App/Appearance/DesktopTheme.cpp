@@ -8,7 +8,7 @@ namespace Zentor::Desktop {
 namespace {
 
 /// How long the start of the application may wait for a portal that does not answer.
-constexpr int patienceMilliseconds = 300;
+constexpr int PortalTimeoutMilliseconds = 300;
 
 QString Group()
 {
@@ -57,7 +57,7 @@ void DesktopTheme::Connect()
 
 void DesktopTheme::Ask()
 {
-    m_portal->setTimeout(patienceMilliseconds);
+    m_portal->setTimeout(PortalTimeoutMilliseconds);
     QDBusPendingReply<QDBusVariant> reply = m_portal->Read(Group(), Key());
     reply.waitForFinished();
     if (reply.isValid()) {

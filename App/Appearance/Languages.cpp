@@ -14,7 +14,7 @@ struct Language {
     const char* name;
 };
 
-constexpr Language languages[] = {
+constexpr Language Languages[] = {
     {"en", "English"}, {"de", "Deutsch"},  {"fr", "Français"},
     {"es", "Español"}, {"it", "Italiano"}, {"pt_BR", "Português (Brasil)"},
     {"pl", "Polski"},  {"ru", "Русский"},  {"tr", "Türkçe"},
@@ -27,7 +27,7 @@ constexpr Language languages[] = {
 QStringList LanguageCodes()
 {
     QStringList codes;
-    for (const Language& language : languages) {
+    for (const Language& language : Languages) {
         codes << QString::fromLatin1(language.code);
     }
     return codes;
@@ -36,7 +36,7 @@ QStringList LanguageCodes()
 QString LanguageName(const QString& code)
 {
     const auto* language =
-        std::find_if(std::begin(languages), std::end(languages), [&](const Language& candidate) {
+        std::find_if(std::begin(Languages), std::end(Languages), [&](const Language& candidate) {
             return code == QLatin1String(candidate.code);
         });
     return QString::fromUtf8(language->name);

@@ -86,7 +86,7 @@ void SchedulePage::AssistPanel()
     new RadioGroupTabStop(m_parts->areaGroup);
     new PanelMouse(m_panel);
     m_announcer = new PanelAnnouncer(m_panel, m_store);
-    connect(m_announcer, &PanelAnnouncer::Happened, this, &SchedulePage::Announced);
+    connect(m_announcer, &PanelAnnouncer::Announced, this, &SchedulePage::Announced);
     connect(m_announcer, &PanelAnnouncer::ProblemChanged, this, &SchedulePage::ProblemChanged);
 }
 

@@ -47,7 +47,7 @@ public:
     bool FinishInput() override;
     void FocusInput() override;
 
-    /// Has a new panel take its place behind \a widget for the Tab key.
+    /// Places a new panel behind \a widget in the tab order.
     void SetTabPredecessor(QWidget* widget) { m_tabPredecessor = widget; }
 
     /// Whether a recording may start. The panel asks the user where it has to; the page may be

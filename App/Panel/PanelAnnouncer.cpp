@@ -49,11 +49,11 @@ void PanelAnnouncer::CompareSchedule()
 {
     const QStringList before = std::exchange(m_titles, TitlesOf(m_store->Settings().schedule));
     if (m_titles.size() == before.size() + 1) {
-        Q_EMIT Happened(tr("Task added: %1").arg(ExtraOf(m_titles, before)));
+        Q_EMIT Announced(tr("Task added: %1").arg(ExtraOf(m_titles, before)));
     } else if (m_titles.isEmpty() && before.size() > 1) {
-        Q_EMIT Happened(tr("All tasks deleted"));
+        Q_EMIT Announced(tr("All tasks deleted"));
     } else if (before.size() == m_titles.size() + 1) {
-        Q_EMIT Happened(tr("Task deleted: %1").arg(ExtraOf(before, m_titles)));
+        Q_EMIT Announced(tr("Task deleted: %1").arg(ExtraOf(before, m_titles)));
     }
 }
 

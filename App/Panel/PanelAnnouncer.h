@@ -28,7 +28,7 @@ public:
 
 Q_SIGNALS:
     /// Something has just happened; \a text says what.
-    void Happened(const QString& text);
+    void Announced(const QString& text);
     /// The task form cannot be used as it is, and \a problem says why; it is empty when nothing is
     /// wrong any more or the form is no longer on screen. Not sent again for the same problem.
     void ProblemChanged(const QString& problem);

@@ -26,8 +26,8 @@
 namespace Zentor::Desktop {
 namespace {
 
-constexpr int failed = 1;
-constexpr int refused = 2;
+constexpr int ExitFailed = 1;
+constexpr int ExitRefused = 2;
 
 void PrintLine(FILE* stream, const QString& text)
 {
@@ -37,7 +37,7 @@ void PrintLine(FILE* stream, const QString& text)
 int Refuse(const QString& reason)
 {
     PrintLine(stderr, QStringLiteral("px-scheduler: %1").arg(reason));
-    return refused;
+    return ExitRefused;
 }
 
 CommandLine ReadCommandLine(int& argc, char** argv)
@@ -69,7 +69,7 @@ int RunTour(MainWindow& window, const QString& folder)
         &tour, &ScreenshotTour::Finished, &window,
         [&](const QString& reason) {
             problem = reason;
-            QCoreApplication::exit(reason.isEmpty() ? 0 : failed);
+            QCoreApplication::exit(reason.isEmpty() ? 0 : ExitFailed);
         },
         Qt::QueuedConnection);
     tour.Start();
@@ -137,7 +137,7 @@ int RunApplication(int argc, char** argv)
     const CommandLine line = ReadCommandLine(argc, argv);
     if (line.task == CommandLine::Task::Refuse) {
         PrintLine(stderr, line.message);
-        return refused;
+        return ExitRefused;
     }
     if (line.task == CommandLine::Task::Print) {
         PrintLine(stdout, line.message);
@@ -149,7 +149,7 @@ int RunApplication(int argc, char** argv)
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
-    // Lets the desktop find name and icon of the window in the installed desktop entry.
+    // So that the desktop finds name and icon of the window in the installed desktop entry.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.zentor.PxScheduler"));
     if (!line.screenshotsFolder.isEmpty()) {
         return RunOnCopy(line);

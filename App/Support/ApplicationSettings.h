@@ -33,7 +33,7 @@ PX::SettingsSection ApplicationSettingsSection();
 /// The application's part of \a store, to which the section has been added.
 ApplicationSettings ApplicationSettingsIn(const PX::SettingsStore& store);
 
-/// Lets \a change alter the application's part of \a store, like SettingsStore::Change().
+/// Alters the application's part of \a store by \a change, like SettingsStore::Change().
 void ChangeApplicationSettings(PX::SettingsStore& store,
                                const std::function<void(ApplicationSettings&)>& change);
 

@@ -35,7 +35,8 @@ void WidenToTexts(QComboBox& box);
 /// Selects the entry of \a value in \a box or, where there is none, the first one.
 void SelectValue(QComboBox& box, const QString& value);
 
-/// Has the style sheet draw the lists of the combo boxes in \a parent.
+/// Leaves the lists of the combo boxes in \a parent to the style sheet, which Qt does not by
+/// itself.
 void StyleComboBoxLists(const QWidget& parent);
 
 } // namespace Zentor::Desktop

@@ -9,7 +9,7 @@
 namespace Zentor::Desktop {
 namespace {
 
-constexpr unsigned daysToKeep = 14;
+constexpr unsigned DaysToKeep = 14;
 
 /// What takes Qt's messages besides the log.
 QtMessageHandler otherHandler = nullptr;
@@ -46,7 +46,7 @@ void KeepLog()
     google::SetLogDestination(google::GLOG_INFO, QFile::encodeName(start).constData());
     google::SetLogSymlink(google::GLOG_INFO, "");
     google::SetLogFilenameExtension(".log");
-    google::EnableLogCleaner(daysToKeep);
+    google::EnableLogCleaner(DaysToKeep);
     otherHandler = qInstallMessageHandler(LogMessageOfQt);
 }
 

@@ -7,7 +7,7 @@ namespace Zentor::Desktop {
 /// The folder for log files, in the platform's folder for the application's data.
 QString LogFolder();
 
-/// Has everything that is logged from now on, by Qt also, written into a file of this run in
+/// Writes everything that is logged from now on, by Qt also, into a file of this run in
 /// LogFolder(), beside what goes to standard error. The folder is created when it is missing; files
 /// of earlier runs are deleted when they are two weeks old. Call it after
 /// google::InitGoogleLogging().

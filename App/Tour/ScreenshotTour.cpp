@@ -15,7 +15,7 @@
 namespace Zentor::Desktop {
 namespace {
 
-constexpr int stepMilliseconds = 20;
+constexpr int StepMilliseconds = 20;
 
 QWidget* FindShown(const QString& objectName)
 {
@@ -99,7 +99,7 @@ ScreenshotTour::ScreenshotTour(QWidget& window, const QString& folder)
     : m_window(window)
     , m_folder(folder)
 {
-    m_timer.setInterval(stepMilliseconds);
+    m_timer.setInterval(StepMilliseconds);
     connect(&m_timer, &QTimer::timeout, this, &ScreenshotTour::TakeNextStep);
 }
 
@@ -110,9 +110,9 @@ void ScreenshotTour::AddStep(const QString& what, std::function<bool()> take)
     m_steps.push_back({what, std::move(take)});
 }
 
-void ScreenshotTour::SetPatience(std::chrono::milliseconds patience)
+void ScreenshotTour::SetTimeout(std::chrono::milliseconds timeout)
 {
-    m_patience = patience;
+    m_timeout = timeout;
 }
 
 void ScreenshotTour::WaitFor(const QString& state, std::function<bool()> isReached)
@@ -152,17 +152,18 @@ void ScreenshotTour::Click(const QString& objectName)
     });
 }
 
-void ScreenshotTour::ClickEntry(const QString& objectName, int row)
+void ScreenshotTour::ClickEntry(const QString& objectName, const QVariant& data)
 {
-    AddStep(QStringLiteral("a click on entry %1 of %2").arg(row).arg(objectName),
-            [objectName, row] {
-                const auto* list = qobject_cast<QListWidget*>(FindShown(objectName));
-                const bool ready = list != nullptr && row < list->count();
-                if (ready) {
-                    ClickAt(*list->viewport(), list->visualItemRect(list->item(row)).center());
-                }
-                return ready;
-            });
+    AddStep(QStringLiteral("%1, entry %2").arg(objectName, data.toString()), [objectName, data] {
+        const auto* list = qobject_cast<QListWidget*>(FindShown(objectName));
+        for (int row = 0; list != nullptr && row < list->count(); ++row) {
+            if (list->item(row)->data(Qt::UserRole) == data) {
+                ClickAt(*list->viewport(), list->visualItemRect(list->item(row)).center());
+                return true;
+            }
+        }
+        return false;
+    });
 }
 
 void ScreenshotTour::ClickInBox(QMessageBox::StandardButton button)
@@ -237,7 +238,7 @@ void ScreenshotTour::TakeNextStep()
         m_waiting.restart();
     } else if (!m_problem.isEmpty()) {
         End(m_problem);
-    } else if (m_waiting.hasExpired(m_patience.count())) {
+    } else if (m_waiting.hasExpired(m_timeout.count())) {
         End(tr("cannot reach: %1").arg(m_steps.front().what));
     }
 }

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QObject>
 #include <QTimer>
+#include <QVariant>
 
 class QWidget;
 class QWindow;
@@ -19,7 +20,7 @@ namespace Zentor::Desktop {
 ///
 /// First the steps are written down; nothing happens then. Start() runs them one after another from
 /// the event loop, so that they go on while a message box or a popup is open. Each step waits until
-/// it can be taken; one that cannot in the time of SetPatience() ends the tour with a message that
+/// it can be taken; one that cannot within the timeout ends the tour with a message that
 /// names it.
 class ScreenshotTour : public QObject {
     Q_OBJECT
@@ -30,8 +31,8 @@ public:
     ScreenshotTour(QWidget& window, const QString& folder);
     ~ScreenshotTour() override;
 
-    /// How long to wait for a step; ten seconds at first.
-    void SetPatience(std::chrono::milliseconds patience);
+    /// How long to wait for a step; ten seconds by default.
+    void SetTimeout(std::chrono::milliseconds timeout);
 
     /// Waits until \a isReached. \a state names what is waited for, in the message of a failure.
     void WaitFor(const QString& state, std::function<bool()> isReached);
@@ -42,8 +43,8 @@ public:
     /// Clicks the widget called \a objectName, once it is on screen and enabled. Of several widgets
     /// of that name, the first one is meant.
     void Click(const QString& objectName);
-    /// Clicks the entry in \a row of the list called \a objectName.
-    void ClickEntry(const QString& objectName, int row);
+    /// Clicks the entry with \a data in the list called \a objectName.
+    void ClickEntry(const QString& objectName, const QVariant& data);
     /// Clicks \a button of the message box that is open.
     void ClickInBox(QMessageBox::StandardButton button);
     /// Presses and releases \a key in the widget that has the focus.
@@ -81,7 +82,7 @@ private:
     std::deque<Step> m_steps;
     QTimer m_timer;
     QElapsedTimer m_waiting;
-    std::chrono::milliseconds m_patience{std::chrono::seconds(10)};
+    std::chrono::milliseconds m_timeout{std::chrono::seconds(10)};
     QString m_problem;
 };
 

@@ -4,25 +4,14 @@
 #include <QApplication>
 #include <QWidget>
 
+#include "FilesPage.h"
+#include "GeneralPage.h"
+#include "PanelParts.h"
+#include "SchedulePage.h"
 #include "ScreenshotTour.h"
 
 namespace Zentor::Desktop {
 namespace {
-
-QString NothingButton()
-{
-    return QStringLiteral("disableScheduledCaptureRadioButton");
-}
-
-QString LimitedButton()
-{
-    return QStringLiteral("limitedCaptureDurationRadioButton");
-}
-
-QString ScheduleButton()
-{
-    return QStringLiteral("scheduledCaptureRadioButton");
-}
 
 bool IsShown(const QString& objectName)
 {
@@ -72,17 +61,22 @@ void WaitUntilChecked(ScreenshotTour& tour, const QString& objectName)
     });
 }
 
+void GoTo(ScreenshotTour& tour, const QString& pageId)
+{
+    tour.ClickEntry(QStringLiteral("pageList"), pageId);
+}
+
 void ShowTasks(ScreenshotTour& tour)
 {
-    tour.ClickEntry(QStringLiteral("pageList"), 0);
-    WaitUntilShown(tour, QStringLiteral("infoRecordFrame"));
+    GoTo(tour, SchedulePage::PageId());
+    WaitUntilShown(tour, PanelPart::Row);
     tour.PointAway();
     tour.Picture(QStringLiteral("01-schedule"));
 
-    tour.PointAt(QStringLiteral("titleLabel"));
+    tour.PointAt(PanelPart::RowTitle);
     tour.Picture(QStringLiteral("02-task-under-mouse"));
 
-    tour.Click(QStringLiteral("deleteToolButton"));
+    tour.Click(PanelPart::RowDeleteButton);
     WaitForBox(tour);
     tour.PointAway();
     tour.Picture(QStringLiteral("03-delete-question"));
@@ -92,24 +86,21 @@ void ShowTasks(ScreenshotTour& tour)
 
 void LeaveSchedule(ScreenshotTour& tour)
 {
-    tour.Click(NothingButton());
+    tour.Click(PanelPart::OffModeButton);
     WaitForBox(tour);
     tour.PointAway();
     tour.Picture(QStringLiteral("04-leave-schedule-question"));
     tour.ClickInBox(QMessageBox::Ok);
     WaitForNoBox(tour);
-    WaitUntilChecked(tour, NothingButton());
+    WaitUntilChecked(tour, PanelPart::OffModeButton);
     tour.PointAway();
     tour.Picture(QStringLiteral("05-nothing-scheduled"));
 }
 
 void LimitCapture(ScreenshotTour& tour)
 {
-    const QString duration = QStringLiteral("limitedCaptureDurationSettingsCaptureDuration");
-    const QString action = QStringLiteral("limitedCaptureDurationSettingsActionOnFinishBox");
-
-    tour.Click(LimitedButton());
-    WaitUntilShown(tour, duration);
+    tour.Click(PanelPart::LimitedModeButton);
+    WaitUntilShown(tour, PanelPart::LimitedDurationField);
     tour.PointAway();
     tour.Picture(QStringLiteral("06-limited-capture"));
 
@@ -119,7 +110,7 @@ void LimitCapture(ScreenshotTour& tour)
     tour.PointAway();
     tour.Picture(QStringLiteral("07-limited-capture-duration"));
 
-    tour.Click(action);
+    tour.Click(PanelPart::LimitedActionBox);
     WaitForPopup(tour);
     tour.Press(Qt::Key_Down);
     tour.Press(Qt::Key_Down);
@@ -130,21 +121,20 @@ void LimitCapture(ScreenshotTour& tour)
 
 void ShowEmptySchedule(ScreenshotTour& tour)
 {
-    tour.Click(ScheduleButton());
-    WaitUntilShown(tour, QStringLiteral("stubInfoRecordFrame"));
+    tour.Click(PanelPart::ScheduledModeButton);
+    WaitUntilShown(tour, PanelPart::PlaceholderRow);
     tour.PointAway();
     tour.Picture(QStringLiteral("09-empty-schedule"));
 }
 
 void ShowForm(ScreenshotTour& tour)
 {
-    const QString name = QStringLiteral("scheduledCaptureSettingsNameLineEdit");
-    tour.Click(QStringLiteral("scheduledCaptureSettingsAddRecordButton"));
-    WaitUntilShown(tour, name);
+    tour.Click(PanelPart::AddButton);
+    WaitUntilShown(tour, PanelPart::NameField);
     tour.PointAway();
     tour.Picture(QStringLiteral("10-new-task"));
 
-    tour.Click(name);
+    tour.Click(PanelPart::NameField);
     tour.Press(Qt::Key_A, Qt::ControlModifier);
     tour.Press(Qt::Key_Delete);
     tour.PointAway();
@@ -153,7 +143,7 @@ void ShowForm(ScreenshotTour& tour)
 
 void ShowFiles(ScreenshotTour& tour)
 {
-    tour.ClickEntry(QStringLiteral("pageList"), 1);
+    GoTo(tour, FilesPage::PageId());
     WaitForBox(tour);
     tour.ClickInBox(QMessageBox::No);
     WaitForNoBox(tour);
@@ -164,7 +154,7 @@ void ShowFiles(ScreenshotTour& tour)
 
 void ShowGeneral(ScreenshotTour& tour)
 {
-    tour.ClickEntry(QStringLiteral("pageList"), 2);
+    GoTo(tour, GeneralPage::PageId());
     WaitUntilShown(tour, QStringLiteral("languageBox"));
     tour.PointAway();
     tour.Picture(QStringLiteral("17-general"));
@@ -176,17 +166,12 @@ void ShowGeneral(ScreenshotTour& tour)
     WaitForNoPopup(tour);
 }
 
-QString NameField()
-{
-    return QStringLiteral("scheduledCaptureSettingsNameLineEdit");
-}
-
 void AddLongTask(ScreenshotTour& tour)
 {
-    tour.ClickEntry(QStringLiteral("pageList"), 0);
-    WaitUntilShown(tour, QStringLiteral("stubInfoRecordFrame"));
+    GoTo(tour, SchedulePage::PageId());
+    WaitUntilShown(tour, PanelPart::PlaceholderRow);
     tour.Press(Qt::Key_Insert);
-    WaitUntilShown(tour, NameField());
+    WaitUntilShown(tour, PanelPart::NameField);
     tour.Type(QStringLiteral("Standup"));
     // Past the sections of the date and of the start, onto the first one of the duration.
     for (int section = 0; section < 7; ++section) {
@@ -194,14 +179,14 @@ void AddLongTask(ScreenshotTour& tour)
     }
     tour.Type(QStringLiteral("010000"));
     tour.Press(Qt::Key_Return);
-    WaitUntilShown(tour, QStringLiteral("infoRecordFrame"));
+    WaitUntilShown(tour, PanelPart::Row);
 }
 
 /// Refused twice: for its name, and then for its time.
 void ShowRefusedTask(ScreenshotTour& tour)
 {
     tour.Press(Qt::Key_Insert);
-    WaitUntilShown(tour, NameField());
+    WaitUntilShown(tour, PanelPart::NameField);
     tour.Type(QStringLiteral("Standup"));
     tour.PointAway();
     tour.Picture(QStringLiteral("13-new-task-same-name"));
@@ -218,14 +203,14 @@ void ShowRefusedTask(ScreenshotTour& tour)
 
 void ShowFullDisk(ScreenshotTour& tour)
 {
-    tour.ClickEntry(QStringLiteral("pageList"), 1);
+    GoTo(tour, FilesPage::PageId());
     WaitUntilShown(tour, QStringLiteral("resultsFolderEdit"));
     tour.Click(QStringLiteral("resultsFolderEdit"));
     tour.Press(Qt::Key_A, Qt::ControlModifier);
     // A file system that has no room for files.
     tour.Type(QStringLiteral("/proc/recordings"));
-    tour.ClickEntry(QStringLiteral("pageList"), 0);
-    WaitUntilShown(tour, QStringLiteral("infoRecordFrame"));
+    GoTo(tour, SchedulePage::PageId());
+    WaitUntilShown(tour, PanelPart::Row);
     tour.Click(QStringLiteral("startRecordingButton"));
     WaitForBox(tour);
     tour.PointAway();

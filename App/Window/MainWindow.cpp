@@ -127,7 +127,9 @@ void MainWindow::AddPage(Page* page)
 {
     m_frames << new PageFrame(page, m_pages);
     m_pages->addWidget(m_frames.constLast());
-    m_pageList->addItem(new QListWidgetItem);
+    auto* entry = new QListWidgetItem;
+    entry->setData(Qt::UserRole, page->Id());
+    m_pageList->addItem(entry);
 }
 
 void MainWindow::Connect()

@@ -10,7 +10,7 @@ StatusLine::StatusLine(QWidget* parent)
 {
     connect(this, &QStatusBar::messageChanged, this, [this] {
         UpdateToolTip();
-        // All of it: where people write from right to left, the base class leaves an edge as it is.
+        // All of it: in RTL layouts the base class leaves an edge as it is.
         update();
     });
 }

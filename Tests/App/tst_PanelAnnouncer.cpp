@@ -246,7 +246,7 @@ private:
     struct Spies {
         explicit Spies(const AppWindow& app)
             : announcer(app.window->findChild<Desktop::PanelAnnouncer*>())
-            , happened(announcer, &Desktop::PanelAnnouncer::Happened)
+            , happened(announcer, &Desktop::PanelAnnouncer::Announced)
             , problem(announcer, &Desktop::PanelAnnouncer::ProblemChanged)
         {
         }

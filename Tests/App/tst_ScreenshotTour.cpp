@@ -161,7 +161,7 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         Window window;
         Desktop::ScreenshotTour tour(window, folder.path());
-        tour.SetPatience(std::chrono::milliseconds(50));
+        tour.SetTimeout(std::chrono::milliseconds(50));
         tour.WaitFor(QStringLiteral("the moon"), [] { return false; });
         tour.Picture(QStringLiteral("moon"));
         QVERIFY(Run(tour).contains(QLatin1String("the moon")));
@@ -174,7 +174,7 @@ private Q_SLOTS:
         Window window;
         window.button->setEnabled(false);
         Desktop::ScreenshotTour tour(window, folder.path());
-        tour.SetPatience(std::chrono::milliseconds(50));
+        tour.SetTimeout(std::chrono::milliseconds(50));
         tour.Click(QStringLiteral("button"));
         QVERIFY(Run(tour).contains(QLatin1String("button")));
     }
