@@ -65,6 +65,22 @@ QString FullFolder()
     return QStringLiteral("/proc/recordings");
 }
 
+/// Holds back the click of a button that its key only announces: it would come a tenth of a second
+/// later, when the test has moved on, and open a question that nobody answers.
+class HeldClick final : public QObject {
+public:
+    explicit HeldClick(QAbstractButton* button)
+        : QObject(button)
+    {
+        button->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        return event->type() == QEvent::Timer;
+    }
+};
+
 /// Whether the Tab key stops at \a widget itself, not at one that has taken it in.
 bool IsStopOfTab(const QWidget& widget)
 {
@@ -770,6 +786,9 @@ private Q_SLOTS:
             const QKeySequence key = QKeySequence::mnemonic(label->text());
             QVERIFY2(!key.isEmpty() && !keys.contains(key), qPrintable(label->text()));
             keys << key;
+            if (auto* button = qobject_cast<QAbstractButton*>(field)) {
+                new HeldClick(button);
+            }
             m_window->setFocus();
             // With its text, for letters that Qt Test knows no key of.
             const QString letter = QChar(key[0] & ~Qt::ALT);

@@ -12,6 +12,16 @@ QMessageBox* OpenBox()
     return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
 }
 
+void ClickIn(QMessageBox& box, QMessageBox::StandardButton which)
+{
+    auto* button = box.button(which);
+    if (button == nullptr) {
+        box.reject();
+        QFAIL("another box came");
+    }
+    button->click();
+}
+
 } // namespace
 
 ExpectedBox::ExpectedBox(Action action)
@@ -22,7 +32,7 @@ ExpectedBox::ExpectedBox(Action action)
 }
 
 ExpectedBox::ExpectedBox(QMessageBox::StandardButton button)
-    : ExpectedBox([button](QMessageBox& box) { box.button(button)->click(); })
+    : ExpectedBox([button](QMessageBox& box) { ClickIn(box, button); })
 {
 }
 
