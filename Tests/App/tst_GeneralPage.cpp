@@ -1,11 +1,9 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDesktopServices>
-#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QStandardPaths>
 
 #include <glog/logging.h>
 
@@ -39,14 +37,6 @@ class tst_GeneralPage : public WidgetTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QStandardPaths::setTestModeEnabled(true);
-        QDir(Desktop::LogFolder()).removeRecursively();
-    }
-
-    void cleanupTestCase() { QDir(Desktop::LogFolder()).removeRecursively(); }
-
     void init()
     {
         WidgetTest::init();

@@ -1,6 +1,6 @@
 #include <QDir>
 #include <QFile>
-#include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <glog/logging.h>
 
@@ -13,14 +13,19 @@ class tst_Log : public WidgetTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
+    void init()
     {
-        QStandardPaths::setTestModeEnabled(true);
-        QDir(Desktop::LogFolder()).removeRecursively();
+        WidgetTest::init();
+        m_folder = std::make_unique<QTemporaryDir>();
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder->path()));
         FLAGS_logtostderr = true;
     }
 
-    void cleanupTestCase() { QDir(Desktop::LogFolder()).removeRecursively(); }
+    void cleanup()
+    {
+        m_folder.reset();
+        WidgetTest::cleanup();
+    }
 
     void isNoneWhereItCannotBeWritten()
     {
@@ -59,9 +64,14 @@ private Q_SLOTS:
 
     void isNoneOnceItIsDeleted()
     {
+        Desktop::KeepLog();
+        LOG(INFO) << "something";
         QVERIFY(QFile::remove(Desktop::LogFile()));
         QCOMPARE(Desktop::LogFile(), QString());
     }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 } // namespace Zentor::Tests

@@ -1,5 +1,7 @@
 #include "WidgetTest.h"
 
+#include <ctime>
+
 #include <QApplication>
 #include <QToolTip>
 
@@ -84,6 +86,22 @@ void WidgetTest::cleanup()
     qInstallMessageHandler(CurrentWarnings().next);
     QCOMPARE(CurrentWarnings().unexpected.join(QLatin1String(" | ")), QString());
     QCOMPARE(RemainingTopLevelWidgets().join(QLatin1String(" | ")), QString());
+}
+
+TestEnvironment::TestEnvironment()
+{
+    qputenv("TZ", "UTC");
+    tzset();
+    qputenv("LC_ALL", "C.UTF-8");
+    qunsetenv("LANGUAGE");
+    qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder.filePath(QStringLiteral("data"))));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder.filePath(QStringLiteral("settings"))));
+    const QByteArray platform = qgetenv("SCHEDULER_TEST_PLATFORM");
+    if (!platform.isEmpty()) {
+        qputenv("QT_QPA_PLATFORM", platform);
+    } else if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
 }
 
 int RunTest(int argc, char** argv, QObject& test)

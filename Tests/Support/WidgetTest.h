@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QtTest>
 
 namespace Zentor::Tests {
@@ -22,6 +23,19 @@ protected Q_SLOTS:
     void cleanup();
 };
 
+/// What a test does not take from whoever starts it: zone, locale and folders for data and
+/// settings. Create it before the application object.
+///
+/// The platform is the one in QT_QPA_PLATFORM, offscreen where that is not set. What is in
+/// SCHEDULER_TEST_PLATFORM comes before both: ctest sets the former.
+class TestEnvironment {
+public:
+    TestEnvironment();
+
+private:
+    const QTemporaryDir m_folder;
+};
+
 /// Runs \a test in an application with a fixed locale.
 int RunTest(int argc, char** argv, QObject& test);
 
@@ -30,6 +44,7 @@ int RunTest(int argc, char** argv, QObject& test);
 #define SCHEDULER_TEST_MAIN(TestClass)                                                             \
     int main(int argc, char** argv)                                                                \
     {                                                                                              \
+        const Zentor::Tests::TestEnvironment environment;                                          \
         const QApplication application(argc, argv);                                                \
         TestClass test;                                                                            \
         return Zentor::Tests::RunTest(argc, argv, test);                                           \
