@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 #include <QTimeEdit>
 #include <QToolButton>
+#include <QWindow>
 
 #include "Application/LookAndFeelManager.h"
 #include "Boxes.h"
@@ -421,12 +422,8 @@ private Q_SLOTS:
         m_window->setGeometry(0, 0, 600, 450);
         Close();
         Reopen();
-        const auto metric = [this](QStyle::PixelMetric which) {
-            return m_window->style()->pixelMetric(which, nullptr, m_window.get());
-        };
-        QCOMPARE(m_window->geometry(),
-                 QRect(metric(QStyle::PM_MdiSubWindowFrameWidth), metric(QStyle::PM_TitleBarHeight),
-                       600, 450));
+        const QMargins frame = ExpectedFrame();
+        QCOMPARE(m_window->geometry(), QRect(frame.left(), frame.top(), 600, 450));
     }
 
     void fitsTheScreen_data()
@@ -448,7 +445,7 @@ private Q_SLOTS:
             Close();
             Reopen();
         }
-        const QRect room = m_window->screen()->availableGeometry();
+        const QRect room = m_window->screen()->availableGeometry() + UnexpectedFrame();
         QCOMPARE(room.united(m_window->frameGeometry()), room);
     }
 
@@ -922,6 +919,24 @@ private:
         auto* edit = Find<QLineEdit>("resultsFolderEdit");
         edit->setText(folder);
         Q_EMIT edit->editingFinished();
+    }
+
+    /// The frame that the window expects: the desktop's own is known only when it is on screen.
+    QMargins ExpectedFrame() const
+    {
+        const auto metric = [this](QStyle::PixelMetric which) {
+            return m_window->style()->pixelMetric(which, nullptr, m_window.get());
+        };
+        const int side = metric(QStyle::PM_MdiSubWindowFrameWidth);
+        return {side, metric(QStyle::PM_TitleBarHeight), side, side};
+    }
+
+    /// By how much the frame that the desktop has drawn is larger than the expected one.
+    QMargins UnexpectedFrame() const
+    {
+        const QMargins more = m_window->windowHandle()->frameMargins() - ExpectedFrame();
+        return {qMax(0, more.left()), qMax(0, more.top()), qMax(0, more.right()),
+                qMax(0, more.bottom())};
     }
 
     QString StatusText() const { return m_window->findChild<QStatusBar*>()->currentMessage(); }

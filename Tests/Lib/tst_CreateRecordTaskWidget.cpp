@@ -80,6 +80,10 @@ QString StyleOf(const QWidget* widget)
 
 QString AccessibleName(QWidget* widget)
 {
+    // Qt calls a combo box by its current entry, and by its own name only without one.
+    if (auto* box = qobject_cast<QComboBox*>(widget)) {
+        box->setCurrentIndex(-1);
+    }
     return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
 }
 

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTimeEdit>
 #include <QToolTip>
 
@@ -391,6 +392,10 @@ QStringList TextsOfTheUser(const AppWindow& app)
                       LongTitle(), SecondScreen(), ReasonNotToSave()};
     for (int number = 1; number <= manyTasks; ++number) {
         texts << QStringLiteral("Task %1").arg(number);
+    }
+    const auto screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        texts << screen->name();
     }
     return texts;
 }

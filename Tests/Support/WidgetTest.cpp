@@ -22,11 +22,13 @@ Warnings& CurrentWarnings()
     return warnings;
 }
 
-/// Whether it is what the offscreen platform says of itself.
+/// Whether it is what the platform says of itself: that it is offscreen, or that a window was gone
+/// when the X server answered.
 bool IsOfPlatform(const QString& message)
 {
     static const QRegularExpression ofPlatform(
-        QStringLiteral("^This plugin does not support (propagateSizeHints|raise)\\(\\)"));
+        QStringLiteral("^This plugin does not support (propagateSizeHints|raise)\\(\\)"
+                       "|^QXcbConnection: XCB error: 3 \\(BadWindow\\)"));
     return ofPlatform.match(message).hasMatch();
 }
 

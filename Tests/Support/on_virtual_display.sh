@@ -3,6 +3,8 @@
 #
 #   on_virtual_display.sh <program> [<argument>...]
 #
+# With ctest as the program, all tests are run there, except for those that bring a display along.
+#
 # Needs the Debian packages xvfb, xauth, openbox and xdotool. Where they are not installed, says so
 # and ends with 77: skipped.
 set -euo pipefail
@@ -16,7 +18,8 @@ done
 
 # The program begins when the window manager answers.
 # shellcheck disable=SC2016
-QT_QPA_PLATFORM=xcb exec xvfb-run --auto-servernum --server-args="-screen 0 1280x1024x24" \
+QT_QPA_PLATFORM=xcb SCHEDULER_TEST_PLATFORM=xcb \
+    exec xvfb-run --auto-servernum --server-args="-screen 0 1280x1024x24" \
     bash -c '
         openbox 2>/dev/null &
         for ((attempt = 0; attempt < 100; ++attempt)); do
