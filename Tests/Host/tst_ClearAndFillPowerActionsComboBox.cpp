@@ -1,23 +1,12 @@
 #include <QComboBox>
-#include <QTranslator>
 
 #include "HostInterfaces.h"
+#include "MarkingTranslator.h"
 #include "WidgetTest.h"
 
 using namespace Zentor;
 
 namespace {
-
-class BracketTranslator final : public QTranslator {
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* text, const char*, int) const override
-    {
-        return qstrcmp(context, "PowerAction") == 0
-            ? QStringLiteral("[%1]").arg(QString::fromUtf8(text))
-            : QString();
-    }
-};
 
 QStringList Entries(const QComboBox& box)
 {
@@ -53,12 +42,12 @@ private Q_SLOTS:
     {
         QComboBox box;
         PX::UI::ClearAndFillPowerActionsComboBox(&box);
-        BracketTranslator translator;
+        Tests::MarkingTranslator translator("PowerAction");
         QCoreApplication::installTranslator(&translator);
         PX::UI::ClearAndFillPowerActionsComboBox(&box);
         QCOMPARE(box.count(), 6);
         for (int index = 0; index < box.count(); ++index) {
-            QVERIFY(box.itemText(index).startsWith(QLatin1Char('[')));
+            QVERIFY(box.itemText(index).startsWith(QLatin1Char('~')));
         }
     }
 };

@@ -4,9 +4,9 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QToolTip>
-#include <QTranslator>
 #include <QValidator>
 
+#include "MarkingTranslator.h"
 #include "TaskForm.h"
 #include "WidgetTest.h"
 
@@ -16,25 +16,6 @@ namespace {
 using namespace PX::Scheduler::UI;
 
 const QString Prefix = QStringLiteral("scheduledCaptureSettings");
-
-/// Puts "tr:" before every text of the form and gives its editors other display formats.
-class MarkingTranslator final : public QTranslator {
-public:
-    QString translate(const char* context, const char* source, const char* /*comment*/,
-                      int /*count*/) const override
-    {
-        if (qstrcmp(context, "CreateRecordTaskWidget") != 0) {
-            return {};
-        }
-        const auto text = QString::fromLatin1(source);
-        if (text == QLatin1String("hh:mm:ss")) {
-            return QStringLiteral("hh.mm.ss");
-        }
-        return text == QLatin1String("dd.MM.yyyy") ? QStringLiteral("yyyy-MM-dd") : "tr:" + text;
-    }
-
-    bool isEmpty() const override { return false; }
-};
 
 /// Counts the events of some types that a widget and its children receive.
 class EventCounter final : public QObject {
@@ -373,7 +354,7 @@ private Q_SLOTS:
                             const char* translated = nullptr) {
             QTest::addRow("%s %s", qPrintable(Prefix + name), property)
                 << QByteArray(property) << QString(text)
-                << (translated == nullptr ? QString("tr:") + text : QString(translated));
+                << (translated == nullptr ? QString("~") + text : QString(translated));
         };
         row("Label", "text", "New record:");
         row("NameLabel", "text", "File name:");
@@ -401,12 +382,10 @@ private Q_SLOTS:
         const auto* widget = form.Find(name.constData());
         QTEST(widget->property(property).toString(), "text");
 
-        MarkingTranslator translator;
-        QCoreApplication::installTranslator(&translator);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
+        LanguageSwitch language("CreateRecordTaskWidget");
+        language.Toggle();
         QTEST(widget->property(property).toString(), "translated");
-        QCoreApplication::removeTranslator(&translator);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
+        language.Toggle();
         QTEST(widget->property(property).toString(), "text");
     }
 
@@ -723,15 +702,15 @@ private Q_SLOTS:
     {
         const TaskForm form;
         QVERIFY(form.Show());
-        MarkingTranslator translator;
+        MarkingTranslator translator("CreateRecordTaskWidget");
         QCoreApplication::installTranslator(&translator);
         form.widget->ShowValidateError(EmptyTitle);
-        QCOMPARE(form.Name()->toolTip(), QStringLiteral("tr:Need select task name"));
+        QCOMPARE(form.Name()->toolTip(), QStringLiteral("~Need select task name"));
         form.widget->ShowValidateError(TitleAlreadyExists);
-        QCOMPARE(form.Name()->toolTip(), QStringLiteral("tr:Task with this title already exist"));
+        QCOMPARE(form.Name()->toolTip(), QStringLiteral("~Task with this title already exist"));
         form.widget->ShowValidateError(CaptureTimeIntersected);
         QCOMPARE(form.Start()->toolTip(),
-                 QStringLiteral("tr:Curent capture time intersect with other capture time in the "
+                 QStringLiteral("~Curent capture time intersect with other capture time in the "
                                 "list"));
         QCoreApplication::removeTranslator(&translator);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
@@ -902,12 +881,9 @@ private Q_SLOTS:
         const TaskForm form;
         QWidget* widget = form.Find(QTest::currentDataTag());
         QCOMPARE(AccessibleName(widget), name);
-        MarkingTranslator translator;
-        QCoreApplication::installTranslator(&translator);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
-        QCOMPARE(AccessibleName(widget), "tr:" + name);
-        QCoreApplication::removeTranslator(&translator);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
+        LanguageSwitch language("CreateRecordTaskWidget");
+        language.Toggle();
+        QCOMPARE(AccessibleName(widget), "~" + name);
     }
 
     void canBeDestroyedWithItsCalendarOpen()

@@ -3,10 +3,10 @@
 #include <QGridLayout>
 #include <QScrollArea>
 #include <QToolButton>
-#include <QTranslator>
 
 #include "Boxes.h"
 #include "CpuTimer.h"
+#include "MarkingTranslator.h"
 #include "Panel.h"
 #include "WidgetTest.h"
 
@@ -16,22 +16,6 @@ namespace {
 using std::chrono::hours;
 using std::chrono::microseconds;
 using std::chrono::milliseconds;
-
-/// Puts "tr:" before every text of the panel; clock readings get another format.
-class MarkingTranslator final : public QTranslator {
-public:
-    QString translate(const char* context, const char* source, const char* /*comment*/,
-                      int /*count*/) const override
-    {
-        if (qstrcmp(context, "RecordSchedulerWidget") != 0) {
-            return {};
-        }
-        const auto text = QString::fromLatin1(source);
-        return text == QLatin1String("hh:mm:ss") ? QStringLiteral("hh.mm.ss") : "tr:" + text;
-    }
-
-    bool isEmpty() const override { return false; }
-};
 
 /// One cell of a layout, as "name row,column aligned".
 QStringList Describe(QLayout* layout)
@@ -255,11 +239,9 @@ private Q_SLOTS:
         const Panel panel;
         const auto* widget = panel.Find<QWidget>(QTest::currentDataTag());
         QCOMPARE(widget->property("text").toString(), text);
-        MarkingTranslator translator;
-        QCoreApplication::installTranslator(&translator);
-        QCoreApplication::sendPostedEvents();
-        QCOMPARE(widget->property("text").toString(), "tr:" + text);
-        QCoreApplication::removeTranslator(&translator);
+        LanguageSwitch language("RecordSchedulerWidget");
+        language.Toggle();
+        QCOMPARE(widget->property("text").toString(), "~" + text);
     }
 
     void keepsItsStateInALanguageChange()
@@ -272,15 +254,13 @@ private Q_SLOTS:
         panel.watcher->TakeCalls();
         QCOMPARE(panel.Duration()->displayFormat(), QString("hh:mm:ss"));
 
-        MarkingTranslator translator;
-        QCoreApplication::installTranslator(&translator);
-        QCoreApplication::sendPostedEvents();
+        LanguageSwitch language("RecordSchedulerWidget");
+        language.Toggle();
         QCOMPARE(panel.Duration()->displayFormat(), QString("hh.mm.ss"));
         QCOMPARE(panel.Duration()->time(), QTime(2, 0));
         QCOMPARE(panel.FinishAction()->currentIndex(), int(PX::Hibernate));
         QCOMPARE(panel.FinishAction()->count(), int(PX::ShutDown) + 1);
         QCOMPARE(panel.watcher->TakeCalls(), QStringList());
-        QCoreApplication::removeTranslator(&translator);
     }
 
     void restores_data()
@@ -490,17 +470,15 @@ private Q_SLOTS:
     {
         Panel panel;
         panel.RestoreScheduled({"A"});
-        MarkingTranslator translator;
+        LanguageSwitch language("RecordSchedulerWidget");
         ExpectedBox box([&](QMessageBox& question) {
-            QCoreApplication::installTranslator(&translator);
-            QCoreApplication::sendPostedEvents();
+            language.Toggle();
             QCOMPARE(question.button(QMessageBox::Ok)->text(), QString("Continue"));
             question.reject();
         });
         panel.None()->click();
         QVERIFY(box.Came());
         QCOMPARE(panel.Titles(), QString("A"));
-        QCoreApplication::removeTranslator(&translator);
     }
 
     void survivesItsEndWhileItAsks_data()
@@ -770,11 +748,9 @@ private Q_SLOTS:
         auto* interface =
             QAccessible::queryAccessibleInterface(panel.Find<QWidget>(QTest::currentDataTag()));
         QCOMPARE(interface->text(QAccessible::Name), name);
-        MarkingTranslator translator;
-        QCoreApplication::installTranslator(&translator);
-        QCoreApplication::sendPostedEvents();
-        QCOMPARE(interface->text(QAccessible::Name), "tr:" + name);
-        QCoreApplication::removeTranslator(&translator);
+        LanguageSwitch language("RecordSchedulerWidget");
+        language.Toggle();
+        QCOMPARE(interface->text(QAccessible::Name), "~" + name);
     }
 
     void restoresAThousandTasksQuickly()

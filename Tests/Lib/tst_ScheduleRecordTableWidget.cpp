@@ -6,10 +6,10 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QToolButton>
-#include <QTranslator>
 
 #include "Boxes.h"
 #include "HostInterfaces.h"
+#include "MarkingTranslator.h"
 #include "Samples.h"
 #include "ScheduleRecordTableWidget.h"
 #include "StandIns.h"
@@ -24,25 +24,6 @@ using std::chrono::hours;
 using std::chrono::microseconds;
 using std::chrono::minutes;
 using std::chrono::seconds;
-
-/// Translates every text of the table by putting "tr:" before it, formats into other formats.
-class MarkingTranslator final : public QTranslator {
-public:
-    QString translate(const char* context, const char* source, const char* /*comment*/,
-                      int /*count*/) const override
-    {
-        if (qstrcmp(context, "ScheduleRecordTableWidget") != 0) {
-            return {};
-        }
-        const auto text = QString::fromLatin1(source);
-        if (text == QLatin1String("dd.MM.yyyy")) {
-            return QStringLiteral("yyyy-MM-dd");
-        }
-        return text == QLatin1String("hh:mm:ss") ? QStringLiteral("hh'h'mm") : "tr:" + text;
-    }
-
-    bool isEmpty() const override { return false; }
-};
 
 /// A window with the table in it, and short ways to its parts.
 struct Table {
@@ -695,26 +676,24 @@ private Q_SLOTS:
         const QStringList row{"A", "01.03.2030", "10:00:00", "01:30:00"};
         QCOMPARE(texts(), QStringList({"File name", "Date", "Time", "Duration"}) + row);
         table.changes.clear();
-        MarkingTranslator translator;
-        QCoreApplication::installTranslator(&translator);
-        QCoreApplication::sendPostedEvents();
-        QCOMPARE(texts(), QStringList({"tr:File name", "tr:Date", "tr:Time", "tr:Duration"}) + row);
+        LanguageSwitch language("ScheduleRecordTableWidget");
+        language.Toggle();
+        QCOMPARE(texts(), QStringList({"~File name", "~Date", "~Time", "~Duration"}) + row);
         QCOMPARE(table.changes.count(), 0);
 
         table.widget->ClearSchedule();
         table.widget->AddRecord(Record("B", "10:00", minutes(90)));
         QCOMPARE(texts(),
-                 QStringList({"tr:File name", "tr:Date", "tr:Time", "tr:Duration", "B",
-                              "2030-03-01", "10h00", "01h30"}));
+                 QStringList({"~File name", "~Date", "~Time", "~Duration", "B", "2030-03-01",
+                              "10.00.00", "01.30.00"}));
         ExpectedBox box([&](QMessageBox& question) {
-            QVERIFY(question.text().startsWith(QLatin1String("tr:The task will be")));
-            QCOMPARE(question.button(QMessageBox::Ok)->text(), QString("tr:Delete"));
-            QCOMPARE(question.checkBox()->text(), QString("tr:Always delete"));
+            QVERIFY(question.text().startsWith(QLatin1String("~The task will be")));
+            QCOMPARE(question.button(QMessageBox::Ok)->text(), QString("~Delete"));
+            QCOMPARE(question.checkBox()->text(), QString("~Always delete"));
             question.reject();
         });
         table.ClickDelete(0);
         QVERIFY(box.Came());
-        QCoreApplication::removeTranslator(&translator);
     }
 };
 

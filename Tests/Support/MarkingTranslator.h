@@ -8,9 +8,19 @@ namespace Zentor::Tests {
 /// Another language: every text gets "~" in front, dates and clock readings get another format.
 class MarkingTranslator final : public QTranslator {
 public:
-    QString translate(const char* /*context*/, const char* source, const char* /*comment*/,
+    MarkingTranslator() = default;
+    /// Has the texts of \a context only.
+    explicit MarkingTranslator(const char* context)
+        : m_context(context)
+    {
+    }
+
+    QString translate(const char* context, const char* source, const char* /*comment*/,
                       int /*count*/) const override
     {
+        if (m_context != nullptr && qstrcmp(context, m_context) != 0) {
+            return {};
+        }
         const auto text = QString::fromLatin1(source);
         if (text == QLatin1String("hh:mm:ss")) {
             return QStringLiteral("hh.mm.ss");
@@ -22,12 +32,20 @@ public:
     }
 
     bool isEmpty() const override { return false; }
+
+private:
+    const char* m_context = nullptr;
 };
 
 /// Switches between the language of the sources and the other one, and back in the end.
 class LanguageSwitch {
 public:
     LanguageSwitch() = default;
+    /// The other language has the texts of \a context only.
+    explicit LanguageSwitch(const char* context)
+        : m_translator(context)
+    {
+    }
     ~LanguageSwitch()
     {
         if (m_isMarking) {
