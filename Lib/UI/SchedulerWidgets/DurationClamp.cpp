@@ -28,8 +28,7 @@ QTime ClockReadingOf(std::chrono::microseconds duration)
 {
     const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(duration);
     // QTime counts in int and would take a longer duration for what is left of it after narrowing.
-    if (milliseconds < std::chrono::milliseconds::zero()
-        || milliseconds >= std::chrono::hours(24)) {
+    if (milliseconds < std::chrono::milliseconds::zero() || milliseconds >= CaptureDurationLimit) {
         return {};
     }
     return QTime::fromMSecsSinceStartOfDay(static_cast<int>(milliseconds.count()));

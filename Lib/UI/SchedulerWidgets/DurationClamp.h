@@ -8,12 +8,14 @@
 
 #include <QTime>
 
+#include "HostData.h"
+
 class QTimeEdit;
 
 namespace Zentor::PX::Scheduler::UI {
 
-/// The shortest duration that a duration field keeps: five seconds.
-inline const QTime MinimumDuration(0, 0, 5, 0);
+/// ShortestCaptureDuration as a clock reading: the shortest one that a duration field keeps.
+inline const QTime MinimumDuration = QTime(0, 0).addSecs(ShortestCaptureDuration.count());
 
 /// Raises the time of \a editor to MinimumDuration when it is shorter; otherwise changes nothing.
 ///
@@ -25,7 +27,7 @@ void ClampDuration(QTimeEdit& editor);
 std::chrono::microseconds DurationOf(const QTime& time);
 
 /// The clock reading of \a duration, cut to whole milliseconds toward zero.
-/// Invalid when it is not between zero and 23:59:59.999.
+/// Invalid when it is negative, or not below CaptureDurationLimit.
 QTime ClockReadingOf(std::chrono::microseconds duration);
 
 } // namespace Zentor::PX::Scheduler::UI

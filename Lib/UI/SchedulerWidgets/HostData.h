@@ -104,6 +104,13 @@ public:
 
 namespace PX {
 
+/// The shortest duration that a user can give a capture; inclusive.
+inline constexpr std::chrono::seconds ShortestCaptureDuration{5};
+
+/// The limit that the duration of a capture stays below, as it is entered and shown as a time of
+/// day; exclusive.
+inline constexpr std::chrono::hours CaptureDurationLimit{24};
+
 /// What to do when a capture has ended.
 ///
 /// The value of an entry is its index in every combo box that
@@ -123,7 +130,8 @@ struct RecordTime {
     QString title;
     /// When the recording starts, in whole seconds.
     Time::IClock::time_point start;
-    /// How long it records; from zero up to 23:59:59 when it comes from the task form.
+    /// How long it records. From the task form: at least ShortestCaptureDuration and below
+    /// CaptureDurationLimit.
     std::chrono::microseconds duration{0};
     /// Index of the screen to capture in full, or -1 for the selected area.
     std::int32_t screenIndex = -1;
@@ -227,7 +235,7 @@ public:
     virtual ~ILimitedCaptureWatcher() = default;
 
     virtual void OnLimitedCaptureStateChanged(bool enabled) = 0;
-    /// \a duration is at least five seconds and below 24 hours.
+    /// \a duration is at least ShortestCaptureDuration and below CaptureDurationLimit.
     virtual void OnLimitedCaptureDurationChanged(const std::chrono::microseconds& duration) = 0;
 };
 
