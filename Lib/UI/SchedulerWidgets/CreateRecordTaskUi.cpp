@@ -14,7 +14,8 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 
-#include "TimeEditTyping.h"
+#include "LeftToRightEditor.h"
+#include "SeparatorKeyFilter.h"
 #include "WidgetTree.h"
 
 namespace Zentor::PX::Scheduler::UI {
@@ -39,9 +40,13 @@ void CreateRecordTaskUi::setupUi(QWidget* form)
     });
     Zentor::Util::ApplyWidgetStyle(infoButton, QStringLiteral("QuestionButton"), "SubStyle");
     scheduledCaptureSettingsDate->setCalendarPopup(true);
-    PrepareForTyping(*scheduledCaptureSettingsDate);
-    PrepareForTyping(*scheduledCaptureSettingsStartTime);
-    PrepareForTyping(*scheduledCaptureSettingsDuration);
+    const std::initializer_list<QDateTimeEdit*> editors{scheduledCaptureSettingsDate,
+                                                        scheduledCaptureSettingsStartTime,
+                                                        scheduledCaptureSettingsDuration};
+    for (auto* editor : editors) {
+        KeepLeftToRight(*editor);
+        new SeparatorKeyFilter(editor);
+    }
     retranslateUi();
 }
 

@@ -20,7 +20,7 @@
 #include "ClockChanges.h"
 #include "CreateRecordTaskUi.h"
 #include "DurationClamp.h"
-#include "TimeEditTyping.h"
+#include "TypingKeeper.h"
 
 namespace Zentor::PX::Scheduler::UI {
 namespace {

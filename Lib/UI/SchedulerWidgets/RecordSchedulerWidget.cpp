@@ -21,6 +21,7 @@
 #include <QStackedWidget>
 #include <QTimeEdit>
 
+#include "ClockReading.h"
 #include "CreateRecordTaskWidget.h"
 #include "DurationClamp.h"
 #include "ModalQuestion.h"

@@ -12,8 +12,9 @@
 
 #include "CreateRecordTaskWidget.h"
 #include "HostInterfaces.h"
+#include "LeftToRightEditor.h"
 #include "ScheduleRecordTableWidget.h"
-#include "TimeEditTyping.h"
+#include "SeparatorKeyFilter.h"
 #include "WidgetTree.h"
 
 namespace Zentor::PX::Scheduler::UI {
@@ -43,7 +44,8 @@ void RecordSchedulerWidgetUi::setupUi(QWidget* panel,
         scheduledCaptureStackedWidget, "createRecordTaskWidget", lookAndFeel);
     LayOut(panel);
     BindCaptions();
-    PrepareForTyping(*limitedCaptureDurationSettingsCaptureDuration);
+    KeepLeftToRight(*limitedCaptureDurationSettingsCaptureDuration);
+    new SeparatorKeyFilter(limitedCaptureDurationSettingsCaptureDuration);
     retranslateUi();
 }
 

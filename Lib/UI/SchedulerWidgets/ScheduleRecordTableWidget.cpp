@@ -12,8 +12,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "ClockReading.h"
 #include "DefaultTaskName.h"
-#include "DurationClamp.h"
 #include "ModalQuestion.h"
 #include "ScheduleRecordTableUi.h"
 #include "WidgetTree.h"
