@@ -1,7 +1,6 @@
 #include "CreateRecordTaskUi.h"
 
 #include <QButtonGroup>
-#include <QCalendarWidget>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDateTimeEdit>
@@ -11,11 +10,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimeEdit>
-#include <QToolTip>
 #include <QVBoxLayout>
 
-#include "LeftToRightEditor.h"
-#include "SeparatorKeyFilter.h"
 #include "WidgetTree.h"
 
 namespace Zentor::PX::Scheduler::UI {
@@ -33,21 +29,6 @@ void CreateRecordTaskUi::setupUi(QWidget* form)
     CreateFinish();
     LayOut(form);
     BindCaptions();
-
-    auto* infoButton = scheduledCaptureSettingsSelectedAreaInfoButton;
-    QObject::connect(infoButton, &QPushButton::clicked, infoButton, [infoButton] {
-        QToolTip::showText(infoButton->mapToGlobal(QPoint(0, 0)), infoButton->toolTip());
-    });
-    Zentor::Util::ApplyWidgetStyle(infoButton, QStringLiteral("QuestionButton"), "SubStyle");
-    scheduledCaptureSettingsDate->setCalendarPopup(true);
-    const std::initializer_list<QDateTimeEdit*> editors{scheduledCaptureSettingsDate,
-                                                        scheduledCaptureSettingsStartTime,
-                                                        scheduledCaptureSettingsDuration};
-    for (auto* editor : editors) {
-        KeepLeftToRight(*editor);
-        new SeparatorKeyFilter(editor);
-    }
-    retranslateUi();
 }
 
 void CreateRecordTaskUi::CreateFields(QWidget* form)
@@ -183,7 +164,6 @@ void CreateRecordTaskUi::retranslateUi()
         QCoreApplication::translate("CreateRecordTaskWidget", "Create"));
     scheduledCaptureSettingsBackButton->setText(
         QCoreApplication::translate("CreateRecordTaskWidget", "Back"));
-    RetranslateCalendar();
 }
 
 void CreateRecordTaskUi::RetranslateFields()
@@ -220,19 +200,6 @@ void CreateRecordTaskUi::RetranslateCaptureMode()
         scheduledCaptureSettingsSelectedAreaInfoButton->toolTip());
     scheduledCaptureSettingsScreenSelectBox->setAccessibleName(
         scheduledCaptureSettingsFullScreenAreaButton->text());
-}
-
-void CreateRecordTaskUi::RetranslateCalendar()
-{
-    if (!scheduledCaptureSettingsDate->calendarPopup()) {
-        return;
-    }
-    const auto manager = lookAndFeel;
-    // There is no calendar when a translated display format has no date in it.
-    if (auto* calendar = scheduledCaptureSettingsDate->calendarWidget()) {
-        calendar->setLocale(QLocale(QString::fromStdString(manager->GetLanguage())));
-        calendar->adjustSize();
-    }
 }
 
 } // namespace Zentor::PX::Scheduler::UI

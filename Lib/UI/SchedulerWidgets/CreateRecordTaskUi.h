@@ -45,14 +45,13 @@ struct CreateRecordTaskUi {
     QPushButton* scheduledCaptureSettingsCreateButton = nullptr;
     QPushButton* scheduledCaptureSettingsBackButton = nullptr;
 
-    /// Chooses the language of the calendar.
+    /// Language of the calendar; asked by the form whenever it sets the texts.
     NotNull<std::shared_ptr<App::ILookAndFeelManager>> lookAndFeel;
 
-    /// Builds the widgets inside \a form, and sets the texts.
+    /// Builds the widgets inside \a form. Texts are set by retranslateUi().
     void setupUi(QWidget* form);
 
-    /// Sets every text, the display formats and the calendar's language. The finish actions are not
-    /// touched.
+    /// Sets every text and the display formats. The finish actions are not touched.
     void retranslateUi();
 
 private:
@@ -66,7 +65,6 @@ private:
     void BindCaptions();
     void RetranslateFields();
     void RetranslateCaptureMode();
-    void RetranslateCalendar();
 };
 
 } // namespace Zentor::PX::Scheduler::UI

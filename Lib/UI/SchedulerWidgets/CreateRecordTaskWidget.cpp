@@ -1,6 +1,7 @@
 #include "CreateRecordTaskWidget.h"
 
 #include <chrono>
+#include <initializer_list>
 
 #include <QCalendarWidget>
 #include <QComboBox>
@@ -20,6 +21,8 @@
 #include "ClockChanges.h"
 #include "CreateRecordTaskUi.h"
 #include "DurationClamp.h"
+#include "LeftToRightEditor.h"
+#include "SeparatorKeyFilter.h"
 #include "TypingKeeper.h"
 
 namespace Zentor::PX::Scheduler::UI {
@@ -100,6 +103,9 @@ CreateRecordTaskWidget::CreateRecordTaskWidget(
     , m_ui(std::make_unique<CreateRecordTaskUi>(lookAndFeel))
 {
     m_ui->setupUi(this);
+    PrepareInfoButton();
+    PrepareEditors();
+    SetTexts();
     LimitFields();
     ConnectScreens();
     ConnectFields();
@@ -109,6 +115,28 @@ CreateRecordTaskWidget::CreateRecordTaskWidget(
 }
 
 CreateRecordTaskWidget::~CreateRecordTaskWidget() = default;
+
+void CreateRecordTaskWidget::PrepareInfoButton()
+{
+    auto* infoButton = m_ui->scheduledCaptureSettingsSelectedAreaInfoButton;
+    connect(infoButton, &QPushButton::clicked, infoButton, [infoButton] {
+        QToolTip::showText(infoButton->mapToGlobal(QPoint(0, 0)), infoButton->toolTip());
+    });
+    Zentor::Util::ApplyWidgetStyle(infoButton, QStringLiteral("QuestionButton"), "SubStyle");
+}
+
+/// Runs before SetTexts(): the sections take their order with a display format.
+void CreateRecordTaskWidget::PrepareEditors()
+{
+    m_ui->scheduledCaptureSettingsDate->setCalendarPopup(true);
+    const std::initializer_list<QDateTimeEdit*> editors{m_ui->scheduledCaptureSettingsDate,
+                                                        m_ui->scheduledCaptureSettingsStartTime,
+                                                        m_ui->scheduledCaptureSettingsDuration};
+    for (auto* editor : editors) {
+        KeepLeftToRight(*editor);
+        new SeparatorKeyFilter(editor);
+    }
+}
 
 void CreateRecordTaskWidget::LimitFields()
 {
@@ -245,6 +273,21 @@ int CreateRecordTaskWidget::GetActionOnFinishIndex() const
     return m_ui->scheduledCaptureSettingsActionOnFinishBox->currentIndex();
 }
 
+void CreateRecordTaskWidget::SetTexts()
+{
+    m_ui->retranslateUi();
+    const auto* date = m_ui->scheduledCaptureSettingsDate;
+    if (!date->calendarPopup()) {
+        return;
+    }
+    const auto lookAndFeel = m_ui->lookAndFeel;
+    // There is no calendar when a translated display format has no date in it.
+    if (auto* calendar = date->calendarWidget()) {
+        calendar->setLocale(QLocale(QString::fromStdString(lookAndFeel->GetLanguage())));
+        calendar->adjustSize();
+    }
+}
+
 void CreateRecordTaskWidget::Retranslate()
 {
     auto* date = m_ui->scheduledCaptureSettingsDate;
@@ -256,7 +299,7 @@ void CreateRecordTaskWidget::Retranslate()
     const QDateTime firstDay = date->minimumDateTime();
     const QDateTime start = startTime->dateTime();
     const QDateTime earliestStart = startTime->minimumDateTime();
-    m_ui->retranslateUi();
+    SetTexts();
     date->setDateTime(day);
     date->setMinimumDateTime(firstDay);
     MoveTo(*startTime, start, earliestStart);

@@ -82,11 +82,14 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void PrepareInfoButton();
+    void PrepareEditors();
     void LimitFields();
     void ConnectScreens();
     void ConnectFields();
     void StartTimer();
 
+    void SetTexts();
     void Retranslate();
     void UpdateScreenList();
     void UpdateScreenNames();

@@ -24,9 +24,11 @@
 #include "ClockReading.h"
 #include "CreateRecordTaskWidget.h"
 #include "DurationClamp.h"
+#include "LeftToRightEditor.h"
 #include "ModalQuestion.h"
 #include "RecordSchedulerWidgetUi.h"
 #include "ScheduleRecordTableWidget.h"
+#include "SeparatorKeyFilter.h"
 
 namespace Zentor::PX::Scheduler::UI {
 namespace {
@@ -92,6 +94,9 @@ RecordSchedulerWidget::RecordSchedulerWidget(
     m_ui->setupUi(this, lookAndFeel, settingsManager);
     m_ui->limitedCaptureDurationSettingsFrame->hide();
     m_ui->scheduledCaptureStackedWidget->hide();
+    // Takes effect with the display format that Retranslate() sets.
+    KeepLeftToRight(*m_ui->limitedCaptureDurationSettingsCaptureDuration);
+    new SeparatorKeyFilter(m_ui->limitedCaptureDurationSettingsCaptureDuration);
     ConnectControls();
     ConnectForm();
     Retranslate();

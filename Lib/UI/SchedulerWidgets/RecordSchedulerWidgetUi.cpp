@@ -12,9 +12,7 @@
 
 #include "CreateRecordTaskWidget.h"
 #include "HostInterfaces.h"
-#include "LeftToRightEditor.h"
 #include "ScheduleRecordTableWidget.h"
-#include "SeparatorKeyFilter.h"
 #include "WidgetTree.h"
 
 namespace Zentor::PX::Scheduler::UI {
@@ -44,8 +42,6 @@ void RecordSchedulerWidgetUi::setupUi(QWidget* panel,
         scheduledCaptureStackedWidget, "createRecordTaskWidget", lookAndFeel);
     LayOut(panel);
     BindCaptions();
-    KeepLeftToRight(*limitedCaptureDurationSettingsCaptureDuration);
-    new SeparatorKeyFilter(limitedCaptureDurationSettingsCaptureDuration);
     retranslateUi();
 }
 
