@@ -77,19 +77,47 @@ QString FileSettingsLink()
 
 } // namespace
 
-/// The questions that may stand on screen on behalf of the panel.
-struct RecordSchedulerWidget::Questions {
+/// The reactions of the panel, and the questions that may stand on screen on its behalf.
+struct RecordSchedulerWidget::Private {
+    explicit Private(RecordSchedulerWidget* panel);
+
+    void ConnectControls();
+    void ConnectForm();
+
+    void OnLimitedModeToggled();
+    void OnScheduledModeToggled();
+    void OnLimitedDurationChanged();
+    void OnFinishActionChanged(int index);
+    void OnScheduleChanged();
+    void ReturnToScheduledMode();
+
+    void OpenForm();
+    bool IsFormOpen() const;
+    void ShowTable();
+
+    QMessageBox::StandardButton AskToLeaveSchedule();
+    QMessageBox::StandardButton AskAboutUnsavedRecord();
+    void ShowDiskSpaceAlert();
+
+    RecordSchedulerWidgetUi& ui;
+    RecordSchedulerWidget* const owner;
     ModalQuestion leaveSchedule;
     ModalQuestion unsavedRecord;
     ModalQuestion diskSpace;
 };
+
+RecordSchedulerWidget::Private::Private(RecordSchedulerWidget* panel)
+    : ui(*panel->m_ui)
+    , owner(panel)
+{
+}
 
 RecordSchedulerWidget::RecordSchedulerWidget(
     const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel,
     const std::shared_ptr<App::ISettingsManager>& settingsManager, QWidget* parent)
     : ZFrame(parent, {})
     , m_ui(std::make_unique<RecordSchedulerWidgetUi>())
-    , m_questions(std::make_unique<Questions>())
+    , d(std::make_unique<Private>(this))
 {
     m_ui->setupUi(this, lookAndFeel, settingsManager);
     m_ui->limitedCaptureDurationSettingsFrame->hide();
@@ -97,14 +125,14 @@ RecordSchedulerWidget::RecordSchedulerWidget(
     // Takes effect with the display format that Retranslate() sets.
     KeepLeftToRight(*m_ui->limitedCaptureDurationSettingsCaptureDuration);
     new SeparatorKeyFilter(m_ui->limitedCaptureDurationSettingsCaptureDuration);
-    ConnectControls();
-    ConnectForm();
+    d->ConnectControls();
+    d->ConnectForm();
     Retranslate();
 }
 
 RecordSchedulerWidget::~RecordSchedulerWidget()
 {
-    if (!m_questions->leaveSchedule.IsOpen()) {
+    if (!d->leaveSchedule.IsOpen()) {
         return;
     }
     // The question is asked inside QAbstractButton::setChecked(), which touches its button again on
@@ -138,72 +166,70 @@ void RecordSchedulerWidget::SetSettingsWatcher(
     m_settingsWatcher = watcher.Get();
 }
 
-void RecordSchedulerWidget::ConnectControls()
+void RecordSchedulerWidget::Private::ConnectControls()
 {
-    connect(m_ui->limitedCaptureDurationRadioButton, &QRadioButton::toggled, this,
+    connect(ui.limitedCaptureDurationRadioButton, &QRadioButton::toggled, owner,
             [this] { OnLimitedModeToggled(); });
-    connect(m_ui->scheduledCaptureRadioButton, &QRadioButton::toggled, this,
+    connect(ui.scheduledCaptureRadioButton, &QRadioButton::toggled, owner,
             [this] { OnScheduledModeToggled(); });
 
-    auto* durationEdit = m_ui->limitedCaptureDurationSettingsCaptureDuration;
+    auto* durationEdit = ui.limitedCaptureDurationSettingsCaptureDuration;
     durationEdit->setTime(MinimumDuration);
-    connect(durationEdit, &QTimeEdit::timeChanged, this, [this] { OnLimitedDurationChanged(); });
-    connect(m_ui->limitedCaptureDurationSettingsActionOnFinishBox,
-            qOverload<int>(&QComboBox::currentIndexChanged), this, [this](int index) {
-                if (m_settingsWatcher) {
-                    m_settingsWatcher->OnCaptureFinishActionChanged(index);
-                }
-            });
+    connect(durationEdit, &QTimeEdit::timeChanged, owner, [this] { OnLimitedDurationChanged(); });
+    connect(ui.limitedCaptureDurationSettingsActionOnFinishBox,
+            qOverload<int>(&QComboBox::currentIndexChanged), owner,
+            [this](int index) { OnFinishActionChanged(index); });
 
-    auto* table = m_ui->scheduledCaptureSettingsRecordTableWidget;
+    auto* table = ui.scheduledCaptureSettingsRecordTableWidget;
     connect(
         table, &ScheduleRecordTableWidget::ScheduleChanged, table, [this] { OnScheduleChanged(); },
         Qt::DirectConnection);
 }
 
-void RecordSchedulerWidget::ConnectForm()
+void RecordSchedulerWidget::Private::ConnectForm()
 {
-    auto* addButton = m_ui->scheduledCaptureSettingsAddRecordButton;
+    auto* addButton = ui.scheduledCaptureSettingsAddRecordButton;
     connect(
         addButton, &QPushButton::clicked, addButton, [this] { OpenForm(); }, Qt::DirectConnection);
 
-    auto* form = m_ui->createRecordTaskWidget;
+    auto* form = ui.createRecordTaskWidget;
     for (const auto change :
          {&CreateRecordTaskWidget::TaskNameChanged, &CreateRecordTaskWidget::RecordDateChanged,
           &CreateRecordTaskWidget::RecordStartTimeChanged,
           &CreateRecordTaskWidget::RecordDurationChanged}) {
-        connect(form, change, this, [this] { UpdateControlsState(ValidateRecord()); });
+        connect(form, change, owner,
+                [this] { owner->UpdateControlsState(owner->ValidateRecord()); });
     }
     connect(
         form, &CreateRecordTaskWidget::BackButtonClicked, form,
         [this] {
-            if (ProcessUnsavedRecord()) {
+            if (owner->ProcessUnsavedRecord()) {
                 ShowTable();
             }
         },
         Qt::DirectConnection);
-    connect(form, &CreateRecordTaskWidget::CreateTaskButtonClicked, this,
+    connect(form, &CreateRecordTaskWidget::CreateTaskButtonClicked, owner,
             &RecordSchedulerWidget::ScheduleNewRecord);
 }
 
-void RecordSchedulerWidget::OnLimitedModeToggled()
+void RecordSchedulerWidget::Private::OnLimitedModeToggled()
 {
-    const bool isOn = m_ui->limitedCaptureDurationRadioButton->isChecked();
-    m_ui->limitedCaptureDurationSettingsFrame->setVisible(isOn);
-    ApplyModeStyle(m_ui->limitedCaptureDurationRadioButtonFrame, isOn);
-    if (m_settingsWatcher) {
-        m_settingsWatcher->OnLimitedCaptureStateChanged(isOn);
+    const bool isOn = ui.limitedCaptureDurationRadioButton->isChecked();
+    ui.limitedCaptureDurationSettingsFrame->setVisible(isOn);
+    ApplyModeStyle(ui.limitedCaptureDurationRadioButtonFrame, isOn);
+    if (owner->m_settingsWatcher) {
+        owner->m_settingsWatcher->OnLimitedCaptureStateChanged(isOn);
     }
 }
 
-void RecordSchedulerWidget::OnScheduledModeToggled()
+void RecordSchedulerWidget::Private::OnScheduledModeToggled()
 {
-    auto* table = m_ui->scheduledCaptureSettingsRecordTableWidget;
-    if (!m_ui->scheduledCaptureRadioButton->isChecked() && !table->IsScheduleEmpty()) {
-        const QPointer<RecordSchedulerWidget> self(this);
-        const std::array<QPointer<QObject>, 3> modeButtons{m_ui->disableScheduledCaptureRadioButton,
-                                                           m_ui->limitedCaptureDurationRadioButton,
-                                                           m_ui->scheduledCaptureRadioButton};
+    auto* table = ui.scheduledCaptureSettingsRecordTableWidget;
+    if (!ui.scheduledCaptureRadioButton->isChecked() && !table->IsScheduleEmpty()) {
+        const QPointer<RecordSchedulerWidget> self(owner);
+        const std::array<QPointer<QObject>, 3> modeButtons{ui.disableScheduledCaptureRadioButton,
+                                                           ui.limitedCaptureDurationRadioButton,
+                                                           ui.scheduledCaptureRadioButton};
         const auto answer = AskToLeaveSchedule();
         if (self.isNull()) {
             for (const auto& button : modeButtons) {
@@ -219,78 +245,85 @@ void RecordSchedulerWidget::OnScheduledModeToggled()
         }
         table->ClearSchedule();
     }
-    const bool isOn = m_ui->scheduledCaptureRadioButton->isChecked();
-    m_ui->scheduledCaptureStackedWidget->setVisible(isOn);
-    ApplyModeStyle(m_ui->scheduledCaptureRadioButtonFrame, isOn);
+    const bool isOn = ui.scheduledCaptureRadioButton->isChecked();
+    ui.scheduledCaptureStackedWidget->setVisible(isOn);
+    ApplyModeStyle(ui.scheduledCaptureRadioButtonFrame, isOn);
     if (isOn && IsFormOpen()) {
         // The tasks that the entered one was checked against may be gone.
-        UpdateControlsState(ValidateRecord());
+        owner->UpdateControlsState(owner->ValidateRecord());
     }
 }
 
-QMessageBox::StandardButton RecordSchedulerWidget::AskToLeaveSchedule()
+QMessageBox::StandardButton RecordSchedulerWidget::Private::AskToLeaveSchedule()
 {
     auto box = std::make_unique<Zentor::Util::AlertBox>(
         Zentor::Util::AlertBox::Information, QString(),
         QCoreApplication::translate("RecordSchedulerWidget",
                                     "All tasks will be permanently deleted from the recording "
                                     "schedule. Are you sure you want to continue?"),
-        QMessageBox::Ok | QMessageBox::Cancel, window(),
+        QMessageBox::Ok | QMessageBox::Cancel, owner->window(),
         Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
     box->button(QMessageBox::Ok)
         ->setText(QCoreApplication::translate("RecordSchedulerWidget", "Continue"));
-    return ModalQuestion::Ask(m_questions->leaveSchedule, std::move(box), this);
+    return ModalQuestion::Ask(leaveSchedule, std::move(box), owner);
 }
 
-void RecordSchedulerWidget::ReturnToScheduledMode()
+void RecordSchedulerWidget::Private::ReturnToScheduledMode()
 {
-    m_ui->limitedCaptureDurationRadioButton->setChecked(false);
-    m_ui->disableScheduledCaptureRadioButton->setChecked(false);
-    m_ui->scheduledCaptureRadioButton->click();
+    ui.limitedCaptureDurationRadioButton->setChecked(false);
+    ui.disableScheduledCaptureRadioButton->setChecked(false);
+    ui.scheduledCaptureRadioButton->click();
 }
 
-void RecordSchedulerWidget::OnLimitedDurationChanged()
+void RecordSchedulerWidget::Private::OnLimitedDurationChanged()
 {
-    auto* durationEdit = m_ui->limitedCaptureDurationSettingsCaptureDuration;
+    auto* durationEdit = ui.limitedCaptureDurationSettingsCaptureDuration;
     const QSignalBlocker blocker(durationEdit);
     ClampDuration(*durationEdit);
-    if (m_settingsWatcher) {
-        m_settingsWatcher->OnLimitedCaptureDurationChanged(DurationOf(durationEdit->time()));
+    if (owner->m_settingsWatcher) {
+        owner->m_settingsWatcher->OnLimitedCaptureDurationChanged(DurationOf(durationEdit->time()));
     }
 }
 
-void RecordSchedulerWidget::OnScheduleChanged()
+void RecordSchedulerWidget::Private::OnFinishActionChanged(int index)
 {
-    const auto* table = m_ui->scheduledCaptureSettingsRecordTableWidget;
-    m_settingsWatcher->OnScheduleChanged(table->GetPreparedSchedule());
-    m_settingsWatcher->OnScheduleStateChanged(!table->IsScheduleEmpty());
+    if (owner->m_settingsWatcher) {
+        owner->m_settingsWatcher->OnCaptureFinishActionChanged(index);
+    }
 }
 
-void RecordSchedulerWidget::OpenForm()
+void RecordSchedulerWidget::Private::OnScheduleChanged()
+{
+    const auto* table = ui.scheduledCaptureSettingsRecordTableWidget;
+    owner->m_settingsWatcher->OnScheduleChanged(table->GetPreparedSchedule());
+    owner->m_settingsWatcher->OnScheduleStateChanged(!table->IsScheduleEmpty());
+}
+
+void RecordSchedulerWidget::Private::OpenForm()
 {
     QString name;
     try {
-        name = m_ui->scheduledCaptureSettingsRecordTableWidget->GetDefaultTaskName();
+        name = ui.scheduledCaptureSettingsRecordTableWidget->GetDefaultTaskName();
     } catch (const std::runtime_error&) {
         // A title with a number that cannot be read leaves the name to the user.
     }
-    auto* form = m_ui->createRecordTaskWidget;
-    m_ui->scheduledCaptureStackedWidget->setCurrentWidget(form);
+    auto* form = ui.createRecordTaskWidget;
+    ui.scheduledCaptureStackedWidget->setCurrentWidget(form);
     {
         const QSignalBlocker blocker(form);
         form->ResetForm(name);
     }
-    UpdateControlsState(ValidateRecord());
+    owner->UpdateControlsState(owner->ValidateRecord());
 }
 
-bool RecordSchedulerWidget::IsFormOpen() const
+bool RecordSchedulerWidget::Private::IsFormOpen() const
 {
-    return m_ui->scheduledCaptureStackedWidget->currentWidget() == m_ui->createRecordTaskWidget;
+    return ui.scheduledCaptureStackedWidget->currentWidget() == ui.createRecordTaskWidget;
 }
 
-void RecordSchedulerWidget::ShowTable()
+void RecordSchedulerWidget::Private::ShowTable()
 {
-    m_ui->scheduledCaptureStackedWidget->setCurrentWidget(m_ui->scheduledCaptureRecordTablePage);
+    ui.scheduledCaptureStackedWidget->setCurrentWidget(ui.scheduledCaptureRecordTablePage);
 }
 
 void RecordSchedulerWidget::UpdateControlsState(ValidateError error)
@@ -328,16 +361,16 @@ void RecordSchedulerWidget::ScheduleNewRecord()
     record.finishAction = static_cast<PowerAction>(form->GetActionOnFinishIndex());
     record.title = form->GetTaskName();
     m_ui->scheduledCaptureSettingsRecordTableWidget->AddRecord(record);
-    ShowTable();
+    d->ShowTable();
 }
 
 bool RecordSchedulerWidget::ProcessUnsavedRecord()
 {
-    if (!IsFormOpen()) {
+    if (!d->IsFormOpen()) {
         return true;
     }
     const QPointer<RecordSchedulerWidget> self(this);
-    const auto answer = AskAboutUnsavedRecord();
+    const auto answer = d->AskAboutUnsavedRecord();
     if (self.isNull() || (answer != QMessageBox::Yes && answer != QMessageBox::No)) {
         return false;
     }
@@ -353,14 +386,14 @@ bool RecordSchedulerWidget::ProcessUnsavedRecord()
     return true;
 }
 
-QMessageBox::StandardButton RecordSchedulerWidget::AskAboutUnsavedRecord()
+QMessageBox::StandardButton RecordSchedulerWidget::Private::AskAboutUnsavedRecord()
 {
     auto box = std::make_unique<Zentor::Util::AlertBox>(
         Zentor::Util::AlertBox::Question, QString(),
         QCoreApplication::translate("RecordSchedulerWidget",
                                     "The task hasn't been saved. Would you like to add this task "
                                     "to the recording schedule?"),
-        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, window(),
+        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, owner->window(),
         Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
     box->setObjectName(QStringLiteral("RecordSchedulerWidget_UnsavedRecordAlertBox"));
     box->setDefaultButton(QMessageBox::Cancel);
@@ -368,7 +401,7 @@ QMessageBox::StandardButton RecordSchedulerWidget::AskAboutUnsavedRecord()
         ->setText(QCoreApplication::translate("RecordSchedulerWidget", "Don't Add"));
     box->button(QMessageBox::Yes)
         ->setText(QCoreApplication::translate("RecordSchedulerWidget", "Add"));
-    return ModalQuestion::Ask(m_questions->unsavedRecord, std::move(box), this);
+    return ModalQuestion::Ask(unsavedRecord, std::move(box), owner);
 }
 
 bool RecordSchedulerWidget::ValidateSettings()
@@ -386,11 +419,11 @@ bool RecordSchedulerWidget::ValidateSettings()
         return true;
     }
     LogLowDiskSpace(freeBytes);
-    ShowDiskSpaceAlert();
+    d->ShowDiskSpaceAlert();
     return false;
 }
 
-void RecordSchedulerWidget::ShowDiskSpaceAlert()
+void RecordSchedulerWidget::Private::ShowDiskSpaceAlert()
 {
     const auto text =
         QCoreApplication::translate(
@@ -402,24 +435,24 @@ void RecordSchedulerWidget::ShowDiskSpaceAlert()
                  QStringLiteral("</a>"));
     auto box = std::make_unique<Zentor::Util::AlertBox>(
         Zentor::Util::AlertBox::Warning, QString(), text, QMessageBox::Ok | QMessageBox::Cancel,
-        window(), Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+        owner->window(), Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
     for (QLabel* label : box->findChildren<QLabel*>()) {
         label->setTextInteractionFlags(Qt::LinksAccessibleByMouse);
         label->setOpenExternalLinks(false);
-        connect(label, &QLabel::linkActivated, this,
+        connect(label, &QLabel::linkActivated, owner,
                 [this, alert = box.get()](const QString& link) {
                     if (link == FileSettingsLink()) {
                         alert->reject();
-                        Q_EMIT OpenFilesSettingsRequested();
+                        Q_EMIT owner->OpenFilesSettingsRequested();
                     }
                 });
     }
     auto* preferencesButton = box->button(QMessageBox::Ok);
     preferencesButton->setText(
         QCoreApplication::translate("CaptureControllerWrapper", "File Preferences"));
-    connect(preferencesButton, &QAbstractButton::clicked, this,
+    connect(preferencesButton, &QAbstractButton::clicked, owner,
             &RecordSchedulerWidget::OpenFilesSettingsRequested);
-    ModalQuestion::Ask(m_questions->diskSpace, std::move(box), this);
+    ModalQuestion::Ask(diskSpace, std::move(box), owner);
 }
 
 void RecordSchedulerWidget::RestoreSettings()
@@ -461,7 +494,7 @@ void RecordSchedulerWidget::showEvent(QShowEvent* event)
     // A window that returns from its minimised state sends a spontaneous event; the panel was not
     // hidden then, and an open form stays open.
     if (!event->spontaneous()) {
-        ShowTable();
+        d->ShowTable();
     }
     QWidget::showEvent(event);
 }

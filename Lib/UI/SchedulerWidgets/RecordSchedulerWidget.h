@@ -66,27 +66,12 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void ConnectControls();
-    void ConnectForm();
     void Retranslate();
-
-    void OnLimitedModeToggled();
-    void OnScheduledModeToggled();
-    void OnLimitedDurationChanged();
-    void OnScheduleChanged();
-    void OpenForm();
-    bool IsFormOpen() const;
-    void ShowTable();
-
-    QMessageBox::StandardButton AskToLeaveSchedule();
-    void ReturnToScheduledMode();
 
     void UpdateControlsState(ValidateError error);
     ValidateError ValidateRecord() const;
     void ScheduleNewRecord();
     bool ProcessUnsavedRecord();
-    QMessageBox::StandardButton AskAboutUnsavedRecord();
-    void ShowDiskSpaceAlert();
 
     std::unique_ptr<RecordSchedulerWidgetUi> m_ui;
     std::shared_ptr<SchedulerSettings> m_schedulerSettings;
@@ -94,9 +79,8 @@ private:
     std::shared_ptr<PathsSettings> m_pathsSettings;
     std::shared_ptr<ISettingsWatcher> m_settingsWatcher;
 
-    /// What is on screen on behalf of the panel; not a setting.
-    struct Questions;
-    const std::unique_ptr<Questions> m_questions;
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace Zentor::PX::Scheduler::UI
