@@ -3,9 +3,8 @@
 #include <utility>
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QMouseEvent>
-
-#include "HostInterfaces.h"
 
 namespace Zentor {
 
@@ -59,18 +58,5 @@ void CaptionClicks::ClickButton()
     // this object can go. Nothing is touched after it.
     m_button->click();
 }
-
-namespace Util {
-
-void bindWidgets(QWidget* label, QAbstractButton* button)
-{
-    new CaptionClicks(label, button);
-    if (auto* caption = qobject_cast<QLabel*>(label)) {
-        caption->setBuddy(button);
-        button->setAccessibleName(AccessibleNameFrom(*caption));
-    }
-}
-
-} // namespace Util
 
 } // namespace Zentor

@@ -7,15 +7,4 @@ ZFrame::ZFrame(QWidget* parent, Qt::WindowFlags flags)
 {
 }
 
-namespace Util {
-
-QFrame* createSpacer(QWidget* parent, const QString& objectName)
-{
-    auto* spacer = new QFrame(parent);
-    spacer->setObjectName(objectName);
-    return spacer;
-}
-
-} // namespace Util
-
 } // namespace Zentor

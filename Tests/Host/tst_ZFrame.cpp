@@ -22,16 +22,6 @@ private Q_SLOTS:
         const ZFrame frame(nullptr, Qt::Tool);
         QCOMPARE(frame.windowType(), Qt::Tool);
     }
-
-    void spacerIsAnEmptyNamedFrame()
-    {
-        QWidget window;
-        const QFrame* spacer = Util::createSpacer(&window, QStringLiteral("endSpacer"));
-        QCOMPARE(spacer->parentWidget(), &window);
-        QCOMPARE(spacer->objectName(), QStringLiteral("endSpacer"));
-        QVERIFY(spacer->children().isEmpty());
-        QCOMPARE(spacer->metaObject()->className(), "QFrame");
-    }
 };
 
 SCHEDULER_TEST_MAIN(tst_ZFrame)

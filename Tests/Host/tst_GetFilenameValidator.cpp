@@ -5,7 +5,7 @@
 
 using namespace Zentor;
 
-class tst_FilenameValidator : public Tests::WidgetTest {
+class tst_GetFilenameValidator : public Tests::WidgetTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -52,5 +52,5 @@ private Q_SLOTS:
     }
 };
 
-SCHEDULER_TEST_MAIN(tst_FilenameValidator)
-#include "tst_FilenameValidator.moc"
+SCHEDULER_TEST_MAIN(tst_GetFilenameValidator)
+#include "tst_GetFilenameValidator.moc"

@@ -29,7 +29,7 @@ bool IsAboutFreeAt(const QString& path, std::int64_t bytes)
 
 } // namespace
 
-class tst_AvailableDiskSpace : public Tests::WidgetTest {
+class tst_GetAvailableDiskSpace : public Tests::WidgetTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -71,5 +71,5 @@ private Q_SLOTS:
     void emptyPathCannotBeTold() { QVERIFY(SpaceOf({}) < 0); }
 };
 
-SCHEDULER_TEST_MAIN(tst_AvailableDiskSpace)
-#include "tst_AvailableDiskSpace.moc"
+SCHEDULER_TEST_MAIN(tst_GetAvailableDiskSpace)
+#include "tst_GetAvailableDiskSpace.moc"
