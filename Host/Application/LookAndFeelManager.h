@@ -4,7 +4,7 @@
 
 namespace Zentor::App {
 
-/// Holds the language of the interface: at first the system's.
+/// Language of the interface; the system's by default.
 class ZENTOR_HOST_API LookAndFeelManager final : public ILookAndFeelManager {
 public:
     LookAndFeelManager();

@@ -5,7 +5,7 @@
 
 namespace Zentor::App {
 
-/// Keeps the answers that were given for good in the settings store.
+/// Remembered answers, kept in the settings store.
 class ZENTOR_HOST_API SettingsManager final : public ISettingsManager {
 public:
     /// \a store must not be null.
@@ -14,7 +14,7 @@ public:
     bool IsConfirmed(const QString& confirmationId) const override;
     void SetConfirmed(const QString& confirmationId, bool confirmed) override;
 
-    /// Has every question asked again.
+    /// Forgets every answer: all questions are asked again.
     void ForgetAll();
 
 private:

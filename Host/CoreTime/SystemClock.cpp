@@ -12,7 +12,7 @@ IClock::time_point SystemClock::Now() const
 
 IClock::time_point SystemClock::FromTimeT(std::int64_t seconds) const
 {
-    // Beyond these the count of microseconds would not fit.
+    // Saturates: beyond these the count of microseconds would overflow.
     constexpr auto earliest = std::chrono::ceil<std::chrono::seconds>(duration::min());
     constexpr auto latest = std::chrono::floor<std::chrono::seconds>(duration::max());
     return time_point(std::clamp(std::chrono::seconds(seconds), earliest, latest));

@@ -10,7 +10,7 @@ namespace {
 
 using TimePoint = Time::IClock::time_point;
 
-/// The moments from `start` up to, but not including, `end`.
+/// Half-open interval: from `start` up to, but not including, `end`.
 struct Span {
     TimePoint start;
     TimePoint end;
@@ -18,7 +18,7 @@ struct Span {
 
 Span SpanOf(const RecordTime& record)
 {
-    // A span that would end after the end of time ends there.
+    // Saturates: an end beyond the largest time point is that time point.
     const bool fits = record.duration <= std::chrono::microseconds::zero()
         || record.start <= TimePoint::max() - record.duration;
     return {record.start, fits ? record.start + record.duration : TimePoint::max()};
@@ -37,7 +37,7 @@ bool IsBefore(const RecordTime& left, const RecordTime& right)
 struct SchedulerHelper::Private {
     /// Ordered by IsBefore(). As no two spans overlap, their ends are in order too.
     std::vector<RecordTime> records;
-    /// The same records, for a look-up that does not walk through them.
+    /// The same records, for look-up in constant time.
     QHash<QString, RecordTime> byTitle;
 };
 

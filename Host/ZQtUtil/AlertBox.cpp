@@ -36,13 +36,13 @@ QMessageBox::StandardButton AlertBox::Exec()
     if (defaultButton() == nullptr && button(Cancel) != nullptr) {
         setDefaultButton(Cancel);
     }
-    // Not clickedButton(): that still is the one of the time before when the box is closed.
+    // Not clickedButton(): when the box is closed, that is the button of the previous Exec().
     StandardButton answer = Cancel;
     const QObject duringExec;
     connect(this, &QMessageBox::buttonClicked, &duringExec,
             [&](QAbstractButton* clicked) { answer = standardButton(clicked); });
     exec();
-    // The box may be gone.
+    // The box may have been deleted.
     return answer;
 }
 

@@ -70,7 +70,7 @@ bool KeptButtonLabels::eventFilter(QObject* watched, QEvent* event)
     if (event->type() != QEvent::LanguageChange || m_isPassingOn) {
         return QObject::eventFilter(watched, event);
     }
-    // The button box gives all standard buttons their texts anew, so it goes first.
+    // The button box goes first: it resets the texts of all standard buttons.
     const Texts given = GivenTexts();
     {
         const QScopedValueRollback<bool> passingOn(m_isPassingOn, true);

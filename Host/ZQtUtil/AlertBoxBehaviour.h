@@ -6,12 +6,12 @@
 
 namespace Zentor::Util {
 
-/// Has Escape and closing reject a message box, also one without a button for that.
+/// Event filter by which Escape and closing reject a message box, also one without a button for it.
 class RejectOnClose final : public QObject {
     Q_OBJECT
 
 public:
-    /// Starts watching \a box, which becomes the owner.
+    /// Filters the events of \a box, which becomes the owner.
     explicit RejectOnClose(QMessageBox* box);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -20,13 +20,13 @@ private:
     QMessageBox* m_box;
 };
 
-/// Keeps the texts that were given to standard buttons when the language changes. Buttons with
-/// their standard text are translated as ever.
+/// Event filter that keeps custom texts of standard buttons when the language changes. Buttons with
+/// their standard text are translated by Qt.
 class KeptButtonLabels final : public QObject {
     Q_OBJECT
 
 public:
-    /// Starts watching \a buttonBox, which becomes the owner.
+    /// Filters the events of \a buttonBox, which becomes the owner.
     explicit KeptButtonLabels(QDialogButtonBox* buttonBox);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

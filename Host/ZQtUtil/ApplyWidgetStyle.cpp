@@ -15,7 +15,7 @@ void ApplyWidgetStyle(QWidget* widget, const QString& style, const char* propert
     widget->setProperty(property, style);
     widget->style()->unpolish(widget);
     widget->style()->polish(widget);
-    // Frames take the paddings and borders of the sheet over when they hear of the change.
+    // Frames take padding and border of the sheet on a StyleChange event.
     QEvent change(QEvent::StyleChange);
     QApplication::sendEvent(widget, &change);
     widget->update();

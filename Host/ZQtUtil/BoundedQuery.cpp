@@ -11,8 +11,8 @@
 namespace Zentor::Util {
 namespace {
 
-constexpr std::int64_t noAnswer = -1;
-constexpr std::size_t maxUnanswered = 4;
+constexpr std::int64_t NoAnswer = -1;
+constexpr std::size_t MaxUnanswered = 4;
 
 } // namespace
 
@@ -23,7 +23,7 @@ public:
     bool Add(const std::string& subject)
     {
         const std::lock_guard lock(m_mutex);
-        return m_subjects.size() < maxUnanswered && m_subjects.insert(subject).second;
+        return m_subjects.size() < MaxUnanswered && m_subjects.insert(subject).second;
     }
 
     void Remove(const std::string& subject)
@@ -37,8 +37,8 @@ private:
     std::set<std::string> m_subjects;
 };
 
-BoundedQuery::BoundedQuery(std::chrono::milliseconds patience)
-    : m_patience(patience)
+BoundedQuery::BoundedQuery(std::chrono::milliseconds timeout)
+    : m_timeout(timeout)
     , m_subjects(std::make_shared<Subjects>())
 {
 }
@@ -48,7 +48,7 @@ BoundedQuery::~BoundedQuery() = default;
 std::int64_t BoundedQuery::Ask(const std::string& subject, Question question)
 {
     if (!m_subjects->Add(subject)) {
-        return noAnswer;
+        return NoAnswer;
     }
     std::promise<std::int64_t> promise;
     auto answer = promise.get_future();
@@ -63,12 +63,12 @@ std::int64_t BoundedQuery::Ask(const std::string& subject, Question question)
         m_subjects->Remove(subject);
         LOG(WARNING) << "Zentor::Util::BoundedQuery::Ask: error=" << error.what()
                      << "; subject=" << subject;
-        return noAnswer;
+        return NoAnswer;
     }
-    if (answer.wait_for(m_patience) != std::future_status::ready) {
+    if (answer.wait_for(m_timeout) != std::future_status::ready) {
         LOG(WARNING) << "Zentor::Util::BoundedQuery::Ask: error=no answer in time; patience="
-                     << m_patience.count() << " ms; subject=" << subject;
-        return noAnswer;
+                     << m_timeout.count() << " ms; subject=" << subject;
+        return NoAnswer;
     }
     return answer.get();
 }

@@ -10,7 +10,7 @@
 
 namespace Zentor::Util {
 
-/// Asks questions that may hang in the operating system and gives up when that takes too long.
+/// Query with a timeout, for questions that may hang in the operating system.
 ///
 /// Each question runs on a thread of its own. One that hangs keeps its thread until it is answered;
 /// so that such threads do not pile up, its subject is not asked about again meanwhile, and only a
@@ -20,8 +20,8 @@ public:
     /// Answers with a number, negative when there is no answer. Must not throw.
     using Question = std::function<std::int64_t()>;
 
-    /// Waits up to \a patience for each answer.
-    explicit BoundedQuery(std::chrono::milliseconds patience);
+    /// Waits up to \a timeout for each answer.
+    explicit BoundedQuery(std::chrono::milliseconds timeout);
     ~BoundedQuery();
     BoundedQuery(const BoundedQuery&) = delete;
     BoundedQuery& operator=(const BoundedQuery&) = delete;
@@ -32,7 +32,7 @@ public:
 
 private:
     class Subjects;
-    std::chrono::milliseconds m_patience;
+    std::chrono::milliseconds m_timeout;
     std::shared_ptr<Subjects> m_subjects;
 };
 

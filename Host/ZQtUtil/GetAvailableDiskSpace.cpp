@@ -42,7 +42,7 @@ std::int64_t GetAvailableDiskSpace(const ioPath& path)
     if (utf8Path.empty()) {
         return -1;
     }
-    // A network volume whose server is gone blocks whoever asks about it, without limit.
+    // Timeout: a network volume whose server is gone blocks the caller forever.
     static BoundedQuery query(std::chrono::seconds(2));
     return query.Ask(utf8Path, [utf8Path] { return AvailableBytes(utf8Path); });
 }

@@ -13,7 +13,7 @@ QString AccessibleNameFrom(const QLabel& caption)
     QString name = caption.text();
     const QChar mark = QLatin1Char('&');
     for (int at = name.indexOf(mark); at >= 0; at = name.indexOf(mark, at + 1)) {
-        // Of a doubled mark, which stands for the character itself, one stays.
+        // A doubled mark stands for the character itself: one stays.
         name.remove(at, 1);
     }
     return name;
@@ -54,8 +54,8 @@ void CaptionClicks::ClickButton()
     if ((m_button->focusPolicy() & Qt::ClickFocus) != 0) {
         m_button->setFocus(Qt::MouseFocusReason);
     }
-    // A click may ask a question and wait for its answer; meanwhile the caption, the button and
-    // this object can go. Nothing is touched after it.
+    // A click may run a modal dialog, in which the caption, the button and this object can be
+    // deleted. Nothing is touched after it.
     m_button->click();
 }
 

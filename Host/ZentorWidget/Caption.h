@@ -8,16 +8,15 @@ class QLabel;
 
 namespace Zentor {
 
-/// The name that the buddy of \a caption has in front of a screen reader: the caption's text
-/// without the mark of its mnemonic.
+/// Accessible name for the buddy of \a caption: the caption's text without its mnemonic mark.
 QString AccessibleNameFrom(const QLabel& caption);
 
-/// Clicks a button when its caption is clicked.
+/// Event filter that clicks a button when its caption is clicked.
 class CaptionClicks final : public QObject {
     Q_OBJECT
 
 public:
-    /// Starts watching \a caption, which becomes the owner.
+    /// Filters the events of \a caption, which becomes the owner.
     CaptionClicks(QWidget* caption, QAbstractButton* button);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -15,7 +15,7 @@ Qt::LayoutDirection DirectionOf(const QString& text)
     return text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
 }
 
-/// Text for a tool tip, which unlike the label guesses whether it is given markup.
+/// Tool tip with \a text as plain text: unlike the label, a tool tip guesses whether it is markup.
 QString ToolTipShowing(const QString& text)
 {
     return Qt::mightBeRichText(text) ? QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped())
@@ -56,7 +56,7 @@ bool ElidedText::HasMnemonic() const
     return m_label->buddy() != nullptr && m_label->text().contains(QLatin1Char('&'));
 }
 
-/// Where the label puts its text: within its padding, margin and indent.
+/// Text rectangle of the label: within its padding, margin and indent.
 QRect ElidedText::TextRect() const
 {
     const int margin = m_label->margin();
@@ -88,7 +88,7 @@ bool ElidedText::IsTextTooWide() const
     return m_label->fontMetrics().size(flags, m_label->text()).width() > TextRect().width();
 }
 
-QString ElidedText::ShortenedText() const
+QString ElidedText::ElidedLines() const
 {
     const int flags = HasMnemonic() ? Qt::TextShowMnemonic : 0;
     const int width = TextRect().width();
@@ -99,7 +99,7 @@ QString ElidedText::ShortenedText() const
     return lines.join(QLatin1Char('\n'));
 }
 
-/// Paints what the label itself would, but for the shortened text.
+/// Paints what the label itself would, but with the elided text.
 void ElidedText::Paint() const
 {
     QPainter painter(m_label);
@@ -115,8 +115,7 @@ void ElidedText::Paint() const
         flags |= isShown ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
     }
     m_label->style()->drawItemText(&painter, TextRect(), flags, m_label->palette(),
-                                   m_label->isEnabled(), ShortenedText(),
-                                   m_label->foregroundRole());
+                                   m_label->isEnabled(), ElidedLines(), m_label->foregroundRole());
 }
 
 void ElidedText::UpdateToolTip()

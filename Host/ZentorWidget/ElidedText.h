@@ -7,17 +7,17 @@ class QLabel;
 
 namespace Zentor {
 
-/// Paints the plain text of a label shortened where it does not fit, and shows the whole of it in
-/// the label's tool tip meanwhile. A tip that was set by others is left alone.
+/// Event filter that elides the plain text of a label where it does not fit, with the whole text in
+/// the label's tool tip meanwhile. A tool tip that was set by others is left alone.
 class ElidedText final : public QObject {
     Q_OBJECT
 
 public:
-    /// Starts watching \a label, which becomes the owner.
+    /// Filters the events of \a label, which becomes the owner.
     explicit ElidedText(QLabel* label);
 
-    /// Sets or clears the tool tip as the room for the text requires. Also happens by itself when
-    /// the label is resized or painted.
+    /// Sets or clears the tool tip, as the text fits or not. Also runs when the label is resized or
+    /// painted.
     void UpdateToolTip();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -26,7 +26,7 @@ private:
     bool HasMnemonic() const;
     bool IsTextTooWide() const;
     QRect TextRect() const;
-    QString ShortenedText() const;
+    QString ElidedLines() const;
     void Paint() const;
 
     QLabel* m_label;

@@ -6,16 +6,16 @@ class QLabel;
 
 namespace Zentor {
 
-/// Aligns the text of a label with the window and not with its own script, so that the texts of a
-/// column stand below each other whatever they are written in.
+/// Event filter that aligns the text of a label by the layout direction and not by the direction of
+/// the text, so that the texts of a column line up in any script.
 ///
-/// Qt puts a right-to-left text at the right edge of its label in every window, and digits at the
-/// left edge. An alignment that was set by others is left alone.
+/// Qt puts an RTL text at the right edge of its label in LTR layouts too, and digits at the left
+/// edge in RTL layouts. An alignment that was set by others is left alone.
 class LayoutAlignment final : public QObject {
     Q_OBJECT
 
 public:
-    /// Starts watching \a label, which becomes the owner.
+    /// Filters the events of \a label, which becomes the owner.
     explicit LayoutAlignment(QLabel* label);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -109,7 +109,7 @@ void CreateRecordTaskUi::LayOutFields()
     grid->addWidget(scheduledCaptureSettingsStartTime, 3, 1, Qt::AlignLeft);
     grid->addWidget(scheduledCaptureSettingsDurationLabel, 3, 2, Qt::AlignRight);
     grid->addWidget(scheduledCaptureSettingsDuration, 3, 3, Qt::AlignRight);
-    // The caption reaches into the row below, where it shares its column with the next caption.
+    // Spans the row below too, where it shares its column with the next caption.
     grid->addWidget(scheduledCaptureSettingsCaptureModeLabel, 4, 0, 2, 1, Qt::AlignTop);
     grid->addWidget(scheduledCaptureSettingsCaptureModeFrame, 4, 1, 1, 3);
     grid->addWidget(scheduledCaptureSettingsActionOnFinishLabel, 5, 0);
@@ -137,7 +137,7 @@ void CreateRecordTaskUi::LayOutButtons()
     row->addWidget(scheduledCaptureSettingsBackButton);
     row->addWidget(scheduledCaptureSettingsCreateButton);
     row->addStretch();
-    // They are created the other way round.
+    // Reverse to their creation order, which the tab order follows otherwise.
     QWidget::setTabOrder(scheduledCaptureSettingsBackButton, scheduledCaptureSettingsCreateButton);
 }
 
@@ -195,7 +195,7 @@ void CreateRecordTaskUi::RetranslateCaptureMode()
     scheduledCaptureSettingsFullScreenAreaButton->setText(
         QCoreApplication::translate("CreateRecordTaskWidget", "Fullscreen"));
 
-    // These two have no caption that could name them.
+    // Accessible names of the two without a caption.
     scheduledCaptureSettingsSelectedAreaInfoButton->setAccessibleName(
         scheduledCaptureSettingsSelectedAreaInfoButton->toolTip());
     scheduledCaptureSettingsScreenSelectBox->setAccessibleName(

@@ -35,9 +35,9 @@ constexpr int ErrorTipMilliseconds = 10000;
 
 /// Moves a time editor to \a moment, with \a minimum as its new minimum.
 ///
-/// Set in the ordinary way, a new date would first drag the old limits along and be clamped to
-/// them. A range of one moment carries the editor there at once, with one signal, and it keeps
-/// apart the two moments of a reading that comes twice when the clocks are put back.
+/// setDateTime() would drag the old limits along with a new date and clamp it to them. A range of
+/// one moment moves the editor at once, with one signal, and keeps apart the two moments of a
+/// reading that is repeated when daylight saving time (DST) ends.
 void MoveTo(QDateTimeEdit& editor, const QDateTime& moment, const QDateTime& minimum)
 {
     editor.setDateTimeRange(moment, moment);
@@ -46,9 +46,8 @@ void MoveTo(QDateTimeEdit& editor, const QDateTime& moment, const QDateTime& min
 
 /// Sets the date editor to the date of \a moment.
 ///
-/// The editor keeps the time of day unseen. On a date without that time it would show the day
-/// before when the clocks are put forward early in the morning, so these hours give way to noon
-/// where clocks are changed at all.
+/// The editor keeps the hidden time of day. On a date on which DST skips that time, early in the
+/// morning, it would show the day before: these hours give way to noon in zones with transitions.
 void SetDateOf(QDateTimeEdit& editor, const QDateTime& moment)
 {
     const QTime morning(4, 0);
@@ -86,7 +85,8 @@ QString MessageOf(ValidateError error)
     return {};
 }
 
-/// Takes away the tip about an error of \a field: Qt leaves it on screen when the text is cleared.
+/// Error tool tip of \a field: cleared and hidden, as Qt leaves it on screen when the text is
+/// cleared.
 void ClearErrorTip(QWidget& field)
 {
     if (!field.toolTip().isEmpty() && QToolTip::text() == field.toolTip()) {
@@ -125,7 +125,7 @@ void CreateRecordTaskWidget::PrepareInfoButton()
     Zentor::Util::ApplyWidgetStyle(infoButton, QStringLiteral("QuestionButton"), "SubStyle");
 }
 
-/// Runs before SetTexts(): the sections take their order with a display format.
+/// Runs before SetTexts(): the order of the sections takes effect with the display format.
 void CreateRecordTaskWidget::PrepareEditors()
 {
     m_ui->scheduledCaptureSettingsDate->setCalendarPopup(true);
@@ -209,7 +209,7 @@ void CreateRecordTaskWidget::ShowValidateError(ValidateError error)
     QWidget* const invalidField = FieldOf(error);
     const QString invalid = QStringLiteral("Invalid");
     for (QWidget* field : {nameField, startField}) {
-        // A mark that stays is not taken away in between: each change is a new style sheet pass.
+        // A mark that stays is not reset in between: each change is a new style sheet pass.
         if (field != invalidField || field->property("SubStyle") != invalid) {
             Zentor::Util::ApplyWidgetStyle(field, QStringLiteral("Normal"), "SubStyle");
         }
@@ -325,7 +325,7 @@ void CreateRecordTaskWidget::UpdateScreenList()
 
 void CreateRecordTaskWidget::UpdateScreenNames()
 {
-    // A screen that loses its output may stay under another name, and no signal tells.
+    // A screen that loses its output may stay under another name, without a signal.
     auto* box = m_ui->scheduledCaptureSettingsScreenSelectBox;
     const QStringList names = ScreenNames();
     if (names.size() != box->count()) {
@@ -361,7 +361,7 @@ void CreateRecordTaskWidget::MoveDateToStart(const QDate& today)
     auto* date = m_ui->scheduledCaptureSettingsDate;
     const TypingKeeper keeper(*date);
     SetDateOf(*date, m_ui->scheduledCaptureSettingsStartTime->dateTime());
-    // In some zones a day begins later than midnight when the clocks are put forward.
+    // In some zones the day on which DST starts begins later than midnight.
     date->setMinimumDateTime(today.startOfDay());
 }
 

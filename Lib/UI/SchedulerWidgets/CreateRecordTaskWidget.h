@@ -16,7 +16,7 @@ struct CreateRecordTaskUi;
 /// capture area and what to do when the capture ends.
 ///
 /// The form neither validates nor stores anything. It keeps its fields within their limits, reports
-/// every change by a signal, and shows the verdict that it is given.
+/// every change by a signal, and shows the validation result that it is given.
 ///
 /// Date and start time belong together: choosing a date keeps the clock reading of the start, and a
 /// start that has passed becomes ten seconds from now within 300 ms, also while the form is hidden.
@@ -27,7 +27,7 @@ class CreateRecordTaskWidget : public ZFrame {
 public:
     /// Creates a form that starts now and records the full screen for five seconds, with an empty
     /// name and no finish action chosen.
-    /// \a lookAndFeel tells the language of the calendar; the form keeps a share of it.
+    /// \a lookAndFeel has the language of the calendar; the form keeps a share of it.
     /// \throws std::logic_error when \a lookAndFeel is null.
     CreateRecordTaskWidget(const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel,
                            QWidget* parent);
@@ -38,8 +38,8 @@ public:
     /// when the name changes.
     void ResetForm(const QString& taskName);
 
-    /// Marks the field that \a error is about and shows why, or clears the marks when there is no
-    /// error; "Create" can be clicked only then. Does nothing while the form is hidden.
+    /// Marks the field that \a error is about and shows a tool tip about it. With NoError the marks
+    /// are cleared and "Create" is enabled. Does nothing while the form is hidden.
     void ShowValidateError(ValidateError error);
 
     /// The name without white space at its ends; at most 100 characters.
@@ -48,7 +48,7 @@ public:
     /// Date and time of the start, in local time.
     QDateTime GetStartDateTime() const;
 
-    /// The duration as a clock reading, from 00:00:05 to 23:59:59.
+    /// The duration as a clock reading; ShortestCaptureDuration at least.
     QTime GetDuration() const;
 
     /// Whether a full screen is captured, and not a selected area.
@@ -65,7 +65,7 @@ Q_SIGNALS:
     /// The text of the name changed, by the user or by ResetForm().
     void TaskNameChanged();
 
-    /// The date changed. The start time has been moved to it already.
+    /// The date changed; the start time was moved to it first.
     void RecordDateChanged();
 
     /// The start changed: by the user, with the date, or because it had passed.

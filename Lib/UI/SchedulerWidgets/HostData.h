@@ -2,7 +2,7 @@
 /// The part of the host's contract that needs Qt Core alone: records, clock, path, schedule and
 /// settings objects.
 ///
-/// What keeps or runs a schedule without a window includes this; the panel's hosts include
+/// Code that keeps or runs a schedule without a window includes this; the panel's hosts include
 /// HostInterfaces.h, which includes it.
 #pragma once
 
@@ -220,7 +220,7 @@ public:
     virtual QString GetResultsFolderPath() const = 0;
 };
 
-/// Is told when the user chooses what to do at the end of a capture.
+/// Observer of the action at the end of a capture.
 class ZENTOR_HOST_API IFinishActionWatcher {
 public:
     virtual ~IFinishActionWatcher() = default;
@@ -229,7 +229,7 @@ public:
     virtual void OnCaptureFinishActionChanged(int index) = 0;
 };
 
-/// Is told when the user changes the limited capture.
+/// Observer of the limited capture.
 class ZENTOR_HOST_API ILimitedCaptureWatcher {
 public:
     virtual ~ILimitedCaptureWatcher() = default;
@@ -239,7 +239,7 @@ public:
     virtual void OnLimitedCaptureDurationChanged(const std::chrono::microseconds& duration) = 0;
 };
 
-/// Is told when the schedule changes; the two are always called together, in this order.
+/// Observer of the schedule; the two are always called together, in this order.
 class ZENTOR_HOST_API IScheduleWatcher {
 public:
     virtual ~IScheduleWatcher() = default;
@@ -250,7 +250,7 @@ public:
     virtual void OnScheduleStateChanged(bool enabled) = 0;
 };
 
-/// Receives every change that the user makes in the panel, at once.
+/// Observer of every change that the user makes in the panel, at once.
 class ZENTOR_HOST_API ISettingsWatcher : public IFinishActionWatcher,
                                          public ILimitedCaptureWatcher,
                                          public IScheduleWatcher { };

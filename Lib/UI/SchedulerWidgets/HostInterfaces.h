@@ -32,12 +32,12 @@ namespace UI {
 /// of PowerAction.
 ZENTOR_HOST_API void ClearAndFillPowerActionsComboBox(QComboBox* comboBox);
 
-/// Keeps the mouse wheel from the widget that it watches.
+/// Event filter that drops the wheel events of a widget.
 class ZENTOR_HOST_API WheelEventsBlocker : public QObject {
     Q_OBJECT
 
 public:
-    /// Starts watching \a watched, which becomes the owner.
+    /// Filters the events of \a watched, which becomes the owner.
     explicit WheelEventsBlocker(QWidget* watched);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -65,7 +65,7 @@ enum ValidateError {
 
 namespace App {
 
-/// Tells how the application looks and speaks.
+/// Look and feel of the application.
 class ZENTOR_HOST_API ILookAndFeelManager {
 public:
     virtual ~ILookAndFeelManager() = default;
@@ -74,7 +74,7 @@ public:
     virtual std::string GetLanguage() const = 0;
 };
 
-/// Remembers the questions that the user does not want to be asked again.
+/// Store of the confirmations that the user does not want to be asked for again.
 class ZENTOR_HOST_API ISettingsManager {
 public:
     virtual ~ISettingsManager() = default;
@@ -108,7 +108,7 @@ public:
 
 namespace App {
 
-/// An alert box whose accepting answer the user can have remembered.
+/// An alert box with a check box by which the user has the accepting answer remembered.
 class ZENTOR_HOST_API ConfirmationAlertBox : public Util::AlertBox {
     Q_OBJECT
 
@@ -122,7 +122,7 @@ public:
     /// Names the question. Without a name no answer is remembered.
     void SetConfirmationId(const QString& confirmationId);
 
-    /// Adds a check box with this text, with which the user has the accepting answer remembered.
+    /// Text of the check box; without one there is no check box.
     void SetConfirmationText(const QString& text);
 
     /// Answers with the accepting button without showing the box when that answer was remembered,
@@ -145,14 +145,13 @@ ZENTOR_HOST_API std::int64_t GetAvailableDiskSpace(const ioPath& path);
 /// A new validator that accepts only text usable as a file name; \a parent owns it.
 ZENTOR_HOST_API QValidator* GetFilenameValidator(QObject* parent);
 
-/// Sets the style property \a property of \a widget to \a style and has the style sheet applied
-/// anew.
+/// Sets the style property \a property of \a widget to \a style and polishes the widget again.
 ZENTOR_HOST_API void ApplyWidgetStyle(QWidget* widget, const QString& style, const char* property);
 
 } // namespace Util
 
-/// What a host's layout manager knows a laid out widget by. The widgets of this library call
-/// nothing of it.
+/// Base by which a host's layout manager knows a widget. The widgets of this library call nothing
+/// of it.
 class ZENTOR_HOST_API AbstractLayoutController {
 public:
     virtual ~AbstractLayoutController() = default;
@@ -173,7 +172,7 @@ class ZENTOR_HOST_API ZLabel : public QLabel {
 public:
     explicit ZLabel(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
 
-    /// Sets the text. A host may show it shortened where it does not fit.
+    /// Sets the text. A host may elide it where it does not fit.
     void setOriginalText(const QString& text);
     /// The whole text, as it was set.
     QString originalText() const;

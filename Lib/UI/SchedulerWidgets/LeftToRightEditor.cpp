@@ -7,14 +7,14 @@
 namespace Zentor::PX::Scheduler::UI {
 namespace {
 
-/// Mirrors the place of an editor in its layout together with the parent.
+/// Event filter that mirrors the alignment of an editor in its layout together with the parent.
 ///
 /// A layout aligns a widget by the widget's own direction: in RTL layouts a left-to-right editor
 /// would stand at the far edge of its cell.
-class PlaceMirror final : public QObject {
+class AlignmentMirror final : public QObject {
 public:
-    /// Starts watching the parent of \a editor, which becomes the owner.
-    explicit PlaceMirror(QDateTimeEdit* editor);
+    /// Filters the events of the parent of \a editor; \a editor becomes the owner.
+    explicit AlignmentMirror(QDateTimeEdit* editor);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -25,7 +25,7 @@ private:
     bool m_isMirrored = false;
 };
 
-PlaceMirror::PlaceMirror(QDateTimeEdit* editor)
+AlignmentMirror::AlignmentMirror(QDateTimeEdit* editor)
     : QObject(editor)
     , m_editor(editor)
 {
@@ -33,7 +33,7 @@ PlaceMirror::PlaceMirror(QDateTimeEdit* editor)
     FollowParent();
 }
 
-bool PlaceMirror::eventFilter(QObject* watched, QEvent* event)
+bool AlignmentMirror::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::LayoutDirectionChange) {
         FollowParent();
@@ -41,7 +41,7 @@ bool PlaceMirror::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-void PlaceMirror::FollowParent()
+void AlignmentMirror::FollowParent()
 {
     const QWidget* parent = m_editor->parentWidget();
     QLayout* layout = parent->layout();
@@ -58,7 +58,7 @@ void PlaceMirror::FollowParent()
 void KeepLeftToRight(QDateTimeEdit& editor)
 {
     editor.setLayoutDirection(Qt::LeftToRight);
-    new PlaceMirror(&editor);
+    new AlignmentMirror(&editor);
 }
 
 } // namespace Zentor::PX::Scheduler::UI

@@ -4,9 +4,9 @@ class QDateTimeEdit;
 
 namespace Zentor::PX::Scheduler::UI {
 
-/// Has \a editor show and take its sections from left to right in every language, from its next
-/// display format on. Its place in the layout of its parent, which it has by then, is mirrored in
-/// RTL layouts all the same.
+/// Left-to-right sections in every language, from the next display format of \a editor on. Only
+/// the editor's alignment in the layout of its parent, in which it is by then, is mirrored in RTL
+/// layouts.
 ///
 /// In RTL layouts Qt reverses the sections: the seconds would come first in a clock reading, and
 /// typing would go from the hours to the end of the field.

@@ -11,7 +11,7 @@ QMessageBox::StandardButton ModalQuestion::Ask(ModalQuestion& question,
     if (question.IsOpen()) {
         return QMessageBox::Cancel;
     }
-    // The box belongs to its window too, so from here on only these pointers know what still lives.
+    // The box belongs to its window too, so only these pointers know what has been destroyed.
     const QPointer<Zentor::Util::AlertBox> guardedBox(box.release());
     const QPointer<QWidget> guardedAsker(asker);
     question.m_isOpen = true;

@@ -14,14 +14,14 @@ namespace Zentor::PX::Scheduler::UI {
 /// widget may be destroyed, or the same question be asked once more.
 class ModalQuestion {
 public:
-    /// Whether the user is being asked: Ask() is running.
+    /// Whether the box is open: Ask() is running.
     bool IsOpen() const { return m_isOpen; }
 
     /// Runs \a box on behalf of \a asker, which owns \a question, and returns the answer.
     ///
-    /// The answer is Cancel, the refusing one, when the question is open already (\a box is then
+    /// The answer is Cancel, the rejecting one, when the box of \a question is open (\a box is then
     /// not shown), and when \a box or \a asker is destroyed before the user answers. The caller
-    /// finds out with a QPointer whether it still exists.
+    /// finds out with a QPointer whether it was destroyed.
     static QMessageBox::StandardButton
     Ask(ModalQuestion& question, std::unique_ptr<Zentor::Util::AlertBox> box, QWidget* asker);
 

@@ -63,7 +63,7 @@ bool IsEnoughDiskSpace(std::int64_t freeBytes)
 
 void LogLowDiskSpace(std::int64_t freeBytes)
 {
-    // The place is fixed, so that what reads the logs finds the line in every version.
+    // Fixed file and line: readers of the log match them.
     google::LogMessage("Lib/UI/SchedulerWidgets/RecordSchedulerWidget", 187, google::GLOG_WARNING)
             .stream()
         << "Zentor::PX::Scheduler::UI::RecordSchedulerWidget::ValidateSettings: freeSize="
@@ -77,7 +77,7 @@ QString FileSettingsLink()
 
 } // namespace
 
-/// The reactions of the panel, and the questions that may stand on screen on its behalf.
+/// The reactions of the panel, and its questions to the user.
 struct RecordSchedulerWidget::Private {
     explicit Private(RecordSchedulerWidget* panel);
 
@@ -425,6 +425,7 @@ bool RecordSchedulerWidget::ValidateSettings()
 
 void RecordSchedulerWidget::Private::ShowDiskSpaceAlert()
 {
+    // The translation context of this alert is the host's.
     const auto text =
         QCoreApplication::translate(
             "CaptureControllerWrapper",
@@ -491,8 +492,8 @@ void RecordSchedulerWidget::changeEvent(QEvent* event)
 
 void RecordSchedulerWidget::showEvent(QShowEvent* event)
 {
-    // A window that returns from its minimised state sends a spontaneous event; the panel was not
-    // hidden then, and an open form stays open.
+    // Spontaneous: the window was restored from its minimised state. The panel was not hidden then,
+    // and an open form stays open.
     if (!event->spontaneous()) {
         d->ShowTable();
     }

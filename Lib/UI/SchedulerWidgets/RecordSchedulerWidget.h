@@ -29,7 +29,7 @@ public:
                           const std::shared_ptr<App::ISettingsManager>& settingsManager,
                           QWidget* parent);
 
-    /// Refuses a question that is on screen. The shares of the settings objects are released.
+    /// Rejects an open message box of the panel. The shares of the settings objects are released.
     ~RecordSchedulerWidget() override;
 
     /// Each setter replaces the object that the panel had a share of, and does nothing else.

@@ -18,7 +18,7 @@
 namespace Zentor::PX::Scheduler::UI {
 namespace {
 
-/// A row of a mode: its button and the caption.
+/// Row of a mode: its button and the caption.
 void LayOutRow(QWidget* row, QWidget* button, QWidget* caption)
 {
     auto* rowLayout = CreateLayout<QHBoxLayout>(row);

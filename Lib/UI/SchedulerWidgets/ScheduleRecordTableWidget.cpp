@@ -45,7 +45,8 @@ void AddRowLabels(QWidget* row, const RecordTime& record)
             .toString(QCoreApplication::translate("ScheduleRecordTableWidget", "hh:mm:ss")));
 }
 
-/// The child widgets are what the style sheet draws a row with; the row itself is only their frame.
+/// Sub-style of the children of \a row: the style sheet draws a row with them, the row itself is
+/// only their frame.
 void ApplyRowStyle(QObject* row, const QString& style)
 {
     const auto children = row->findChildren<QWidget*>();
@@ -121,8 +122,8 @@ ZFrame* ScheduleRecordTableWidget::Private::CreateStubRow()
     return row;
 }
 
-/// Brings the placeholder row in line with the schedule. Runs exactly once after each change: on an
-/// empty schedule a second run takes the placeholder away again.
+/// Placeholder row, which is there while the schedule is empty. Runs exactly once after each
+/// change: on an empty schedule a second run removes the placeholder again.
 void ScheduleRecordTableWidget::Private::UpdateStubRow()
 {
     const auto count = schedulerHelper.GetRecordCount();
@@ -138,8 +139,8 @@ void ScheduleRecordTableWidget::Private::UpdateStubRow()
     }
 }
 
-/// Takes the button that asks out of its row, which is about to go. A tool button writes to itself
-/// after the click that asked, so it outlives the row until that click is over.
+/// Reparents the asking button before its row is deleted: a tool button writes to itself after the
+/// click that asked, so it outlives the row until that click is over.
 void ScheduleRecordTableWidget::Private::KeepAskingButton()
 {
     if (deletionQuestion.IsOpen() && !askingButton.isNull()) {

@@ -7,14 +7,13 @@ class QDateTimeEdit;
 
 namespace Zentor::PX::Scheduler::UI {
 
-/// Event filter with which the separators of a date or time editor can be typed too: 00:01:30 as
-/// well as 000130.
+/// Event filter for typed separators in a date or time editor: 00:01:30 is taken as well as 000130.
 ///
 /// The digit that fills a section makes the editor move on to the next one. A separator typed then
 /// would skip that section, so the filter drops it. In any other place a separator moves on.
 class SeparatorKeyFilter final : public QObject {
 public:
-    /// Starts watching \a editor, which becomes the owner.
+    /// Filters the events of \a editor, which becomes the owner.
     explicit SeparatorKeyFilter(QDateTimeEdit* editor);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

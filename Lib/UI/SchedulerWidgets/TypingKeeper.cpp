@@ -17,7 +17,7 @@ TypingKeeper::TypingKeeper(QDateTimeEdit& editor)
 
 TypingKeeper::~TypingKeeper()
 {
-    // The editor must not take this for something that the user did.
+    // The editor must not take this for user input.
     const QSignalBlocker blocker(m_lineEdit);
     if (!m_incompleteText.isNull()) {
         m_lineEdit->setText(m_incompleteText);
