@@ -12,28 +12,28 @@
 namespace Zentor::PX {
 namespace {
 
-constexpr int currentVersion = 1;
+constexpr int CurrentVersion = 1;
 
-constexpr std::array actionNames{"doNothing", "quitApplication", "sleep",
+constexpr std::array ActionNames{"doNothing", "quitApplication", "sleep",
                                  "hibernate", "restart",         "shutDown"};
-static_assert(actionNames.size() == ShutDown + 1);
+static_assert(ActionNames.size() == ShutDown + 1);
 
 namespace Key {
 
-const QLatin1String version("version");
-const QLatin1String limitedCapture("limitedCapture");
-const QLatin1String scheduledCapture("scheduledCapture");
-const QLatin1String enabled("enabled");
-const QLatin1String duration("duration");
-const QLatin1String tasks("tasks");
-const QLatin1String title("title");
-const QLatin1String start("start");
-const QLatin1String screenIndex("screenIndex");
-const QLatin1String finishAction("finishAction");
-const QLatin1String captureFinishAction("captureFinishAction");
-const QLatin1String paths("paths");
-const QLatin1String resultsFolder("resultsFolder");
-const QLatin1String confirmations("confirmations");
+const QLatin1String Version("version");
+const QLatin1String LimitedCapture("limitedCapture");
+const QLatin1String ScheduledCapture("scheduledCapture");
+const QLatin1String Enabled("enabled");
+const QLatin1String Duration("duration");
+const QLatin1String Tasks("tasks");
+const QLatin1String Title("title");
+const QLatin1String Start("start");
+const QLatin1String ScreenIndex("screenIndex");
+const QLatin1String FinishAction("finishAction");
+const QLatin1String CaptureFinishAction("captureFinishAction");
+const QLatin1String Paths("paths");
+const QLatin1String ResultsFolder("resultsFolder");
+const QLatin1String Confirmations("confirmations");
 
 } // namespace Key
 
@@ -47,14 +47,14 @@ std::optional<std::chrono::microseconds> ToLimitedCaptureDuration(const QJsonVal
 {
     const auto duration = ToDuration(value);
     const bool isInRange =
-        duration && *duration >= std::chrono::seconds(5) && *duration < std::chrono::hours(24);
+        duration && *duration >= ShortestCaptureDuration && *duration < CaptureDurationLimit;
     return isInRange ? duration : std::nullopt;
 }
 
 std::optional<PowerAction> ToAction(const QJsonValue& value)
 {
-    for (std::size_t action = 0; action < actionNames.size(); ++action) {
-        if (value == QLatin1String(actionNames[action])) {
+    for (std::size_t action = 0; action < ActionNames.size(); ++action) {
+        if (value == QLatin1String(ActionNames[action])) {
             return static_cast<PowerAction>(action);
         }
     }
@@ -64,7 +64,7 @@ std::optional<PowerAction> ToAction(const QJsonValue& value)
 QJsonValue FromAction(PowerAction action)
 {
     const auto index = static_cast<std::size_t>(action);
-    return QLatin1String(actionNames[index < actionNames.size() ? index : 0]);
+    return QLatin1String(ActionNames[index < ActionNames.size() ? index : 0]);
 }
 
 // Reading and writing, section by section.
@@ -80,11 +80,11 @@ std::optional<RecordTime> ParseTask(const SectionReader& reader)
         return isInRange ? index : std::nullopt;
     };
     qint64 screenIndex = task.screenIndex;
-    const bool isRead = reader.ReadRequired(Key::title, task.title, ToText)
-        && reader.ReadRequired(Key::start, start, ToDuration)
-        && reader.ReadRequired(Key::duration, task.duration, ToDuration)
-        && reader.Read(Key::screenIndex, screenIndex, toIndex)
-        && reader.Read(Key::finishAction, task.finishAction, ToAction);
+    const bool isRead = reader.ReadRequired(Key::Title, task.title, ToText)
+        && reader.ReadRequired(Key::Start, start, ToDuration)
+        && reader.ReadRequired(Key::Duration, task.duration, ToDuration)
+        && reader.Read(Key::ScreenIndex, screenIndex, toIndex)
+        && reader.Read(Key::FinishAction, task.finishAction, ToAction);
     task.start = Time::IClock::time_point(start);
     task.screenIndex = static_cast<std::int32_t>(screenIndex);
     return isRead ? std::make_optional(task) : std::nullopt;
@@ -104,9 +104,9 @@ QLatin1String WhyRefused(const SchedulerHelper& schedule, const RecordTime& task
 
 std::vector<RecordTime> ParseTasks(const SectionReader& section, QStringList& problems)
 {
-    const QJsonValue tasks = section.Fields().value(Key::tasks);
+    const QJsonValue tasks = section.Fields().value(Key::Tasks);
     if (!tasks.isUndefined() && !tasks.isArray()) {
-        section.AddProblem(Key::tasks, "not an array");
+        section.AddProblem(Key::Tasks, "not an array");
     }
     SchedulerHelper schedule;
     int number = 0;
@@ -127,20 +127,20 @@ UserSettings ParseSections(const QJsonObject& fields, const std::vector<Settings
 {
     UserSettings settings;
     const SectionReader root(fields, {}, problems);
-    root.Read(Key::captureFinishAction, settings.captureFinishAction, ToAction);
+    root.Read(Key::CaptureFinishAction, settings.captureFinishAction, ToAction);
 
-    const SectionReader limited(root, Key::limitedCapture);
-    limited.Read(Key::enabled, settings.limitedCaptureEnabled, ToBool);
-    limited.Read(Key::duration, settings.limitedCaptureDuration, ToLimitedCaptureDuration);
+    const SectionReader limited(root, Key::LimitedCapture);
+    limited.Read(Key::Enabled, settings.limitedCaptureEnabled, ToBool);
+    limited.Read(Key::Duration, settings.limitedCaptureDuration, ToLimitedCaptureDuration);
 
-    const SectionReader scheduled(root, Key::scheduledCapture);
-    scheduled.Read(Key::enabled, settings.scheduledCaptureEnabled, ToBool);
+    const SectionReader scheduled(root, Key::ScheduledCapture);
+    scheduled.Read(Key::Enabled, settings.scheduledCaptureEnabled, ToBool);
     settings.schedule = ParseTasks(scheduled, problems);
 
-    const SectionReader paths(root, Key::paths);
-    paths.Read(Key::resultsFolder, settings.resultsFolderPath, ToText);
+    const SectionReader paths(root, Key::Paths);
+    paths.Read(Key::ResultsFolder, settings.resultsFolderPath, ToText);
 
-    const SectionReader confirmations(root, Key::confirmations);
+    const SectionReader confirmations(root, Key::Confirmations);
     const auto ids = confirmations.Fields().keys();
     for (const QString& id : ids) {
         bool isConfirmed = false;
@@ -160,11 +160,11 @@ QJsonArray FormatTasks(const std::vector<RecordTime>& schedule)
     QJsonArray tasks;
     for (const RecordTime& task : schedule) {
         tasks.append(QJsonObject{
-            {Key::title, task.title},
-            {Key::start, FromInteger(task.start.time_since_epoch().count())},
-            {Key::duration, FromInteger(task.duration.count())},
-            {Key::screenIndex, task.screenIndex},
-            {Key::finishAction, FromAction(task.finishAction)},
+            {Key::Title, task.title},
+            {Key::Start, FromInteger(task.start.time_since_epoch().count())},
+            {Key::Duration, FromInteger(task.duration.count())},
+            {Key::ScreenIndex, task.screenIndex},
+            {Key::FinishAction, FromAction(task.finishAction)},
         });
     }
     return tasks;
@@ -194,13 +194,13 @@ SettingsDocument ParseSettings(const QByteArray& json, const std::vector<Setting
     document.settings = DefaultSettings(sections);
     QJsonParseError error;
     const QJsonObject fields = QJsonDocument::fromJson(json, &error).object();
-    const auto version = ToInteger(fields.value(Key::version));
+    const auto version = ToInteger(fields.value(Key::Version));
     if (error.error != QJsonParseError::NoError) {
         document.problems
             << QStringLiteral("not JSON at byte %1: %2").arg(error.offset).arg(error.errorString());
     } else if (!version || *version < 1) {
         document.problems << QStringLiteral("no version that is known");
-    } else if (*version > currentVersion) {
+    } else if (*version > CurrentVersion) {
         document.problems << QStringLiteral("written by a newer version: %1").arg(*version);
     } else {
         document.isUnderstood = true;
@@ -213,15 +213,15 @@ SettingsDocument ParseSettings(const QByteArray& json, const std::vector<Setting
 QByteArray FormatSettings(const UserSettings& settings, const QJsonObject& previousFields)
 {
     QJsonObject fields = previousFields;
-    fields.insert(Key::version, currentVersion);
-    fields.insert(Key::captureFinishAction, FromAction(settings.captureFinishAction));
-    SetSection(fields, Key::limitedCapture,
-               {{Key::enabled, settings.limitedCaptureEnabled},
-                {Key::duration, FromInteger(settings.limitedCaptureDuration.count())}});
-    SetSection(fields, Key::scheduledCapture,
-               {{Key::enabled, settings.scheduledCaptureEnabled},
-                {Key::tasks, FormatTasks(settings.schedule)}});
-    SetSection(fields, Key::paths, {{Key::resultsFolder, settings.resultsFolderPath}});
+    fields.insert(Key::Version, CurrentVersion);
+    fields.insert(Key::CaptureFinishAction, FromAction(settings.captureFinishAction));
+    SetSection(fields, Key::LimitedCapture,
+               {{Key::Enabled, settings.limitedCaptureEnabled},
+                {Key::Duration, FromInteger(settings.limitedCaptureDuration.count())}});
+    SetSection(fields, Key::ScheduledCapture,
+               {{Key::Enabled, settings.scheduledCaptureEnabled},
+                {Key::Tasks, FormatTasks(settings.schedule)}});
+    SetSection(fields, Key::Paths, {{Key::ResultsFolder, settings.resultsFolderPath}});
     for (auto it = settings.sections.begin(); it != settings.sections.end(); ++it) {
         SetSection(fields, it.key(), it.value());
     }
@@ -230,7 +230,7 @@ QByteArray FormatSettings(const UserSettings& settings, const QJsonObject& previ
     for (auto it = settings.confirmations.begin(); it != settings.confirmations.end(); ++it) {
         confirmations.insert(it.key(), it.value());
     }
-    fields.insert(Key::confirmations, confirmations);
+    fields.insert(Key::Confirmations, confirmations);
     return QJsonDocument(fields).toJson();
 }
 

@@ -11,7 +11,7 @@
 namespace Zentor::PX {
 namespace {
 
-constexpr std::chrono::seconds retryInterval(5);
+constexpr std::chrono::seconds RetryInterval(5);
 
 QString Text(const char* text, const QString& path, const QString& reason = {})
 {
@@ -209,7 +209,7 @@ bool SettingsStore::Flush()
         Q_EMIT Saved();
         return true;
     }
-    m_retryTimer.start(retryInterval);
+    m_retryTimer.start(RetryInterval);
     if (failure != m_failure) {
         m_failure = failure;
         LOG(ERROR) << "Zentor::PX::SettingsStore::Flush: error=" << failure.toStdString()

@@ -32,7 +32,7 @@ public:
     /// Saves what has not been saved yet, and frees the file for others.
     ~SettingsStore() override;
 
-    /// Has the file keep \a section for another part of the program, which reads and changes it in
+    /// Adds a section that another part of the program keeps in the file, and reads and changes in
     /// UserSettings::sections. Call it before Open().
     void AddSection(const SettingsSection& section);
 
@@ -52,8 +52,7 @@ public:
     /// The settings as they are now, whether or not they have been saved.
     const UserSettings& Settings() const { return m_settings; }
 
-    /// Lets \a change alter the settings, at once, and has them saved in the next pass of the event
-    /// loop.
+    /// Alters the settings by \a change, at once, and saves them in the next pass of the event loop.
     void Change(const std::function<void(UserSettings&)>& change);
 
     /// Why the settings could not be saved last, in the language in use; empty when they could.

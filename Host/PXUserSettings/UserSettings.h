@@ -17,8 +17,8 @@ ZENTOR_HOST_API QString DefaultResultsFolderPath();
 /// Everything that is remembered for the user. The initial values are the defaults.
 struct UserSettings {
     bool limitedCaptureEnabled = false;
-    /// From five seconds up to, but not including, 24 hours.
-    std::chrono::microseconds limitedCaptureDuration{std::chrono::seconds(5)};
+    /// At least ShortestCaptureDuration and below CaptureDurationLimit.
+    std::chrono::microseconds limitedCaptureDuration{ShortestCaptureDuration};
     bool scheduledCaptureEnabled = false;
     /// In display order.
     std::vector<RecordTime> schedule;
