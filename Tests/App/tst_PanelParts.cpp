@@ -143,6 +143,7 @@ private Q_SLOTS:
 
 int main(int argc, char** argv)
 {
+    const Zentor::Tests::TestEnvironment environment;
     const QApplication application(argc, argv);
     if (QCoreApplication::arguments().contains(QLatin1String(Zentor::Tests::FindPartsOfNothing))) {
         const QWidget nothing;

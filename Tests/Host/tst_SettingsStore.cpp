@@ -657,14 +657,14 @@ private Q_SLOTS:
 
 int main(int argc, char** argv)
 {
-    const QByteArray task(argc > 2 ? argv[1] : "");
-    const bool isOther = task == saveMany || task == holdFile;
-    // The other process has that of the first. It is killed and would leave its folders behind.
-    const auto environment = isOther ? nullptr : std::make_unique<TestEnvironment>();
+    const TestEnvironment environment;
     const QApplication application(argc, argv);
-    if (isOther) {
-        const QString path = QCoreApplication::arguments().at(2);
-        return task == saveMany ? SaveMany(path) : HoldFile(path);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String(saveMany)) {
+        return SaveMany(arguments.value(2));
+    }
+    if (arguments.value(1) == QLatin1String(holdFile)) {
+        return HoldFile(arguments.value(2));
     }
     tst_SettingsStore test;
     return RunTest(argc, argv, test);

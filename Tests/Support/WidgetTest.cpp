@@ -92,12 +92,18 @@ void WidgetTest::cleanup()
 
 TestEnvironment::TestEnvironment()
 {
+    constexpr const char* isSetUp = "SCHEDULER_TEST_IS_SET_UP";
+    if (qEnvironmentVariableIsSet(isSetUp)) {
+        return;
+    }
+    qputenv(isSetUp, "1");
+    m_folder = std::make_unique<QTemporaryDir>();
     qputenv("TZ", "UTC");
     tzset();
     qputenv("LC_ALL", "C.UTF-8");
     qunsetenv("LANGUAGE");
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder.filePath(QStringLiteral("data"))));
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder.filePath(QStringLiteral("settings"))));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder->filePath(QStringLiteral("data"))));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder->filePath(QStringLiteral("settings"))));
     const QByteArray platform = qgetenv("SCHEDULER_TEST_PLATFORM");
     if (!platform.isEmpty()) {
         qputenv("QT_QPA_PLATFORM", platform);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include <QRegularExpression>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -33,7 +35,7 @@ public:
     TestEnvironment();
 
 private:
-    const QTemporaryDir m_folder;
+    std::unique_ptr<const QTemporaryDir> m_folder;
 };
 
 /// Runs \a test in an application with a fixed locale.
