@@ -1,32 +1,22 @@
-#include <QAbstractButton>
-#include <QApplication>
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStackedWidget>
-#include <QStatusBar>
-#include <QTemporaryDir>
 #include <QTimeEdit>
 #include <QToolButton>
-#include <QWindow>
 
-#include "Application/LookAndFeelManager.h"
+#include "AppWindow.h"
 #include "Boxes.h"
 #include "Languages.h"
-#include "MainWindow.h"
 #include "MarkingTranslator.h"
-#include "PXUserSettings/SettingsStore.h"
 #include "RecordSchedulerWidget.h"
 #include "Resources.h"
-#include "Samples.h"
-#include "StoreIn.h"
 #include "Theme.h"
 #include "WidgetTest.h"
 
@@ -102,16 +92,10 @@ private Q_SLOTS:
         Desktop::ApplyTheme(Desktop::Theme::Light);
     }
 
-    void init()
-    {
-        WidgetTest::init();
-        m_folder = std::make_unique<QTemporaryDir>();
-    }
-
     void cleanup()
     {
         Close();
-        m_folder.reset();
+        m_app.reset();
         WidgetTest::cleanup();
     }
 
@@ -126,17 +110,17 @@ private Q_SLOTS:
     void putsEveryRowOnScreen()
     {
         Open(Tasks(5));
-        const QImage picture = m_window->grab().toImage();
+        const QImage picture = Window().grab().toImage();
         const QColor ground(
             Desktop::ColorsOf(Desktop::Theme::Light).value(QStringLiteral("surface")));
-        const auto rows = m_window->findChildren<QWidget*>(QStringLiteral("infoRecordFrame"));
+        const auto rows = Window().findChildren<QWidget*>(QStringLiteral("infoRecordFrame"));
         QCOMPARE(rows.size(), 5);
         for (const QWidget* row : rows) {
             for (const char* name :
                  {"titleLabel", "dateLabel", "timeLabel", "durationLabel", "deleteToolButton"}) {
                 const auto* child = row->findChild<QWidget*>(QLatin1String(name));
                 QCOMPARE(child->visibleRegion(), QRegion(child->rect()));
-                const QRect place(child->mapTo(m_window.get(), QPoint(0, 0)), child->size());
+                const QRect place(child->mapTo(&Window(), QPoint(0, 0)), child->size());
                 QVERIFY2(InkOn(picture.copy(place), ground) > 20, name);
             }
         }
@@ -182,8 +166,8 @@ private Q_SLOTS:
             {"headerDurationLabel", "durationLabel"}};
         for (const auto& [head, cell] : columns) {
             const QPoint origin(0, 0);
-            QCOMPARE(Find<QWidget>(cell)->mapTo(m_window.get(), origin).x(),
-                     Find<QWidget>(head)->mapTo(m_window.get(), origin).x());
+            QCOMPARE(Find<QWidget>(cell)->mapTo(&Window(), origin).x(),
+                     Find<QWidget>(head)->mapTo(&Window(), origin).x());
             QCOMPARE(Find<QWidget>(cell)->width(), Find<QWidget>(head)->width());
         }
     }
@@ -211,13 +195,13 @@ private Q_SLOTS:
         }
         PageList()->setCurrentRow(1);
         Find<QLineEdit>("resultsFolderEdit")->setText(QDir::tempPath());
-        m_window->setGeometry(30, 40, 720, 500);
+        Window().setGeometry(30, 40, 720, 500);
         Close();
 
         Reopen();
         QCOMPARE(PageList()->currentRow(), 1);
         QCOMPARE(Find<QLineEdit>("resultsFolderEdit")->text(), QDir::tempPath());
-        QCOMPARE(m_window->geometry(), QRect(30, 40, 720, 500));
+        QCOMPARE(Window().geometry(), QRect(30, 40, 720, 500));
         PageList()->setCurrentRow(0);
         QVERIFY(Button("scheduledCaptureRadioButton")->isChecked());
         QCOMPARE(Titles(), (QStringList{QStringLiteral("Task 1"), QStringLiteral("Task 2")}));
@@ -281,10 +265,10 @@ private Q_SLOTS:
         QFETCH(int, key);
         QFETCH(int, modifier);
         Open();
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        Window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&Window()));
         Button("startRecordingButton")->setFocus();
-        QTest::keyClick(m_window->windowHandle(), static_cast<Qt::Key>(key),
+        QTest::keyClick(Window().windowHandle(), static_cast<Qt::Key>(key),
                         Qt::KeyboardModifiers(modifier));
         QTRY_COMPARE(StatusText(), QStringLiteral("Ready to record"));
     }
@@ -305,7 +289,7 @@ private Q_SLOTS:
         QFETCH(QString, status);
         QFETCH(int, tasks);
         Open(Tasks(1));
-        KeepRecordingsIn(m_folder->path());
+        KeepRecordingsIn(Folder());
         Click("scheduledCaptureSettingsAddRecordButton");
         const ExpectedBox box(static_cast<QMessageBox::StandardButton>(answer));
         Click("startRecordingButton");
@@ -340,7 +324,7 @@ private Q_SLOTS:
         Open(Tasks(1));
         KeepRecordingsIn(FullFolder());
         PageList()->setCurrentRow(1);
-        Find<QLineEdit>("resultsFolderEdit")->setText(m_folder->path());
+        Find<QLineEdit>("resultsFolderEdit")->setText(Folder());
         Click("startRecordingButton");
         QCOMPARE(StatusText(), QStringLiteral("Ready to record"));
     }
@@ -360,7 +344,7 @@ private Q_SLOTS:
         if (withForm) {
             Click("scheduledCaptureSettingsAddRecordButton");
         }
-        const ExpectedBox box([this](QMessageBox&) { m_window.reset(); });
+        const ExpectedBox box([this](QMessageBox&) { m_app->window.reset(); });
         // Not with the mouse, which would touch the button again on return.
         Button("startRecordingButton")->click();
         QVERIFY(box.Came());
@@ -370,7 +354,7 @@ private Q_SLOTS:
     void ignoresAPageThatItDoesNotHave()
     {
         Open();
-        m_window->ShowPage(QStringLiteral("elsewhere"));
+        Window().ShowPage(QStringLiteral("elsewhere"));
         QCOMPARE(PageList()->currentRow(), 0);
     }
 
@@ -387,8 +371,8 @@ private Q_SLOTS:
     void keepsEverythingReachableWhenSmall()
     {
         Open(Tasks(6));
-        m_window->resize(640, 480);
-        QCOMPARE(m_window->size(), QSize(640, 480));
+        Window().resize(640, 480);
+        QCOMPARE(Window().size(), QSize(640, 480));
         const auto* stack = Find<QStackedWidget>("pages");
         auto* page = qobject_cast<QScrollArea*>(stack->currentWidget());
         for (const char* name :
@@ -407,23 +391,22 @@ private Q_SLOTS:
         Open();
         auto* label = Find<QLabel>("saveProblemLabel");
         QVERIFY(!label->isVisible());
-        Q_EMIT m_store->SaveFailed(QStringLiteral("the <b>disk</b> is full"));
+        Q_EMIT Store().SaveFailed(QStringLiteral("the <b>disk</b> is full"));
         QVERIFY(label->isVisible());
         QVERIFY(label->text().contains(QLatin1String("the <b>disk</b> is full")));
         QCOMPARE(label->textFormat(), Qt::PlainText);
-        Q_EMIT m_store->Saved();
+        Q_EMIT Store().Saved();
         QVERIFY(!label->isVisible());
     }
 
     void movesOnlyAsFarAsItsFrameNeeds()
     {
-        OpenStore();
-        ShowWindow();
-        m_window->setGeometry(0, 0, 600, 450);
+        OpenWithoutPlace();
+        Window().setGeometry(0, 0, 600, 450);
         Close();
         Reopen();
         const QMargins frame = ExpectedFrame();
-        QCOMPARE(m_window->geometry(), QRect(frame.left(), frame.top(), 600, 450));
+        QCOMPARE(Window().geometry(), QRect(frame.left(), frame.top(), 600, 450));
     }
 
     void fitsTheScreen_data()
@@ -438,15 +421,14 @@ private Q_SLOTS:
     void fitsTheScreen()
     {
         QFETCH(QRect, left);
-        OpenStore();
-        ShowWindow();
+        OpenWithoutPlace();
         if (!left.isNull()) {
-            m_window->setGeometry(left);
+            Window().setGeometry(left);
             Close();
             Reopen();
         }
-        const QRect room = m_window->screen()->availableGeometry() + UnexpectedFrame();
-        QCOMPARE(room.united(m_window->frameGeometry()), room);
+        const QRect room = Window().screen()->availableGeometry() + UnexpectedFrame();
+        QCOMPARE(room.united(Window().frameGeometry()), room);
     }
 
     void writesTheListInANewLanguage()
@@ -460,8 +442,8 @@ private Q_SLOTS:
                  QDate::fromString(before, QStringLiteral("dd.MM.yyyy")));
         QVERIFY(date() != before);
         QCOMPARE(StatusText(), QString());
-        QCOMPARE(m_window->findChildren<QLabel*>(QStringLiteral("dateLabel")).size(), 1);
-        QCOMPARE(m_window->findChildren<Panel*>().size(), 1);
+        QCOMPARE(Window().findChildren<QLabel*>(QStringLiteral("dateLabel")).size(), 1);
+        QCOMPARE(Window().findChildren<Panel*>().size(), 1);
         QCOMPARE(Titles(), QStringList{QStringLiteral("Task 0")});
         QVERIFY(Button("scheduledCaptureRadioButton")->isChecked());
         QCOMPARE(Find<QWidget>("recordTableScrollArea")->accessibleName(),
@@ -469,7 +451,7 @@ private Q_SLOTS:
 
         // The new panel is assisted as the one before, and an unfinished task stays as it is.
         Click("scheduledCaptureSettingsAddRecordButton");
-        QCOMPARE(m_window->focusWidget()->objectName(), NameEdit()->objectName());
+        QCOMPARE(Window().focusWidget()->objectName(), NameEdit()->objectName());
         language.Toggle();
         QVERIFY(NameEdit()->isVisible());
     }
@@ -505,12 +487,12 @@ private Q_SLOTS:
     void tellsWhyNothingIsSavedInANewLanguage()
     {
         Open();
-        QVERIFY(m_store->Flush());
+        QVERIFY(Store().Flush());
         QVERIFY(QFile::remove(SettingsFile()));
-        QVERIFY(QDir(m_folder->path()).mkpath(SettingsFile() + QStringLiteral("/in the way")));
+        QVERIFY(QDir(Folder()).mkpath(SettingsFile() + QStringLiteral("/in the way")));
         Desktop::ChangeApplicationSettings(
-            *m_store, [](auto& settings) { settings.page = QStringLiteral("files"); });
-        QVERIFY(!m_store->Flush());
+            Store(), [](auto& settings) { settings.page = QStringLiteral("files"); });
+        QVERIFY(!Store().Flush());
         const auto* label = Find<QLabel>("saveProblemLabel");
         QVERIFY(label->text().startsWith(QLatin1String("Your changes")));
         LanguageSwitch language;
@@ -519,7 +501,7 @@ private Q_SLOTS:
         QVERIFY(label->text().contains(QLatin1String("~The settings cannot be saved")));
         language.Toggle();
         QVERIFY(QDir(SettingsFile()).removeRecursively());
-        QVERIFY(m_store->Flush());
+        QVERIFY(Store().Flush());
     }
 
     void goesWhereTheListStandsAfterTheAnswer()
@@ -586,7 +568,7 @@ private Q_SLOTS:
         QFETCH(QString, titles);
         BeginTask(title);
         const ExpectedBox box(static_cast<QMessageBox::StandardButton>(answer));
-        QCOMPARE(m_window->close(), isFinished);
+        QCOMPARE(Window().close(), isFinished);
         QVERIFY(box.Came());
         QCOMPARE(Titles().join(QLatin1Char(',')), titles);
         if (!isFinished) {
@@ -606,10 +588,10 @@ private Q_SLOTS:
     {
         QFETCH(bool, isClosing);
         BeginTask(QStringLiteral("Unfinished"));
-        const ExpectedBox box([this](QMessageBox&) { m_window.reset(); });
+        const ExpectedBox box([this](QMessageBox&) { m_app->window.reset(); });
         if (isClosing) {
             // As a user does it, who leaves no caller behind in the window.
-            QTimer::singleShot(0, m_window.get(), &QWidget::close);
+            QTimer::singleShot(0, &Window(), &QWidget::close);
         } else {
             ClickPage(1);
         }
@@ -620,22 +602,22 @@ private Q_SLOTS:
     void asksBeforeItClosesOnUnsavedSettings()
     {
         Open();
-        QVERIFY(m_store->Flush());
+        QVERIFY(Store().Flush());
         // Nothing can be written where a folder stands in the way.
         QVERIFY(QFile::remove(SettingsFile()));
-        QVERIFY(QDir(m_folder->path()).mkpath(SettingsFile() + QStringLiteral("/in the way")));
+        QVERIFY(QDir(Folder()).mkpath(SettingsFile() + QStringLiteral("/in the way")));
         {
             const ExpectedBox box(PressEscape);
-            QVERIFY(!m_window->close());
+            QVERIFY(!Window().close());
             QVERIFY(box.Came());
         }
-        QVERIFY(m_window->isVisible());
+        QVERIFY(Window().isVisible());
         {
             const ExpectedBox box(QMessageBox::Ok);
-            QVERIFY(m_window->close());
+            QVERIFY(Window().close());
             QVERIFY(box.Came());
         }
-        QVERIFY(!m_window->isVisible());
+        QVERIFY(!Window().isVisible());
     }
 
     void followsAChangeOfTheme()
@@ -644,7 +626,7 @@ private Q_SLOTS:
         Desktop::ApplyTheme(Desktop::Theme::Dark);
         const QColor ground(
             Desktop::ColorsOf(Desktop::Theme::Dark).value(QStringLiteral("window")));
-        const QImage picture = m_window->grab().toImage();
+        const QImage picture = Window().grab().toImage();
         QCOMPARE(picture.pixelColor(picture.rect().bottomRight()), ground);
         QCOMPARE(Find<QWidget>("scheduledCaptureSettingsRecordTableWidget")->width(), 710);
         Desktop::ApplyTheme(Desktop::Theme::Light);
@@ -717,10 +699,10 @@ private Q_SLOTS:
         Open(Tasks(withTask ? 1 : 0));
         Click(qPrintable(clicked));
         PageList()->setCurrentRow(page);
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        Window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&Window()));
         QStringList found;
-        const auto widgets = m_window->findChildren<QWidget*>();
+        const auto widgets = Window().findChildren<QWidget*>();
         for (QWidget* widget : widgets) {
             if (!IsStopOfTab(*widget)) {
                 continue;
@@ -728,10 +710,10 @@ private Q_SLOTS:
             if (QWidget* before = QApplication::focusWidget()) {
                 before->clearFocus();
             }
-            const QImage without = m_window->grab().toImage();
+            const QImage without = Window().grab().toImage();
             widget->setFocus(Qt::TabFocusReason);
             QVERIFY2(widget->hasFocus(), qPrintable(widget->objectName()));
-            QVERIFY2(m_window->grab().toImage() != without, qPrintable(widget->objectName()));
+            QVERIFY2(Window().grab().toImage() != without, qPrintable(widget->objectName()));
             found << widget->objectName();
         }
         QCOMPARE(found.join(QLatin1Char(' ')), controls);
@@ -770,11 +752,11 @@ private Q_SLOTS:
             Click(qPrintable(clicked));
         }
         PageList()->setCurrentRow(page);
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        Window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&Window()));
         QList<QKeySequence> keys = KeysOfButtons();
         int reached = 0;
-        const auto labels = m_window->findChildren<QLabel*>();
+        const auto labels = Window().findChildren<QLabel*>();
         for (const QLabel* label : labels) {
             QWidget* field = label->buddy();
             if (!label->isVisible() || field == nullptr || field->focusPolicy() == Qt::NoFocus) {
@@ -786,10 +768,10 @@ private Q_SLOTS:
             if (auto* button = qobject_cast<QAbstractButton*>(field)) {
                 new HeldClick(button);
             }
-            m_window->setFocus();
+            Window().setFocus();
             // With its text, for letters that Qt Test knows no key of.
             const QString letter = QChar(key[0] & ~Qt::ALT);
-            QTest::sendKeyEvent(QTest::Click, m_window->windowHandle(), Qt::Key(key[0] & ~Qt::ALT),
+            QTest::sendKeyEvent(QTest::Click, Window().windowHandle(), Qt::Key(key[0] & ~Qt::ALT),
                                 letter, Qt::AltModifier);
             QVERIFY2(field->hasFocus(), qPrintable(label->text()));
             ++reached;
@@ -802,7 +784,7 @@ private Q_SLOTS:
     }
 
 private:
-    QString SettingsFile() const { return m_folder->filePath(QStringLiteral("settings.json")); }
+    QString SettingsFile() const { return m_app->folder.filePath(QStringLiteral("settings.json")); }
 
     static void AddAnswers()
     {
@@ -864,7 +846,7 @@ private:
     QList<QKeySequence> KeysOfButtons() const
     {
         QList<QKeySequence> keys;
-        const auto buttons = m_window->findChildren<QAbstractButton*>();
+        const auto buttons = Window().findChildren<QAbstractButton*>();
         for (const QAbstractButton* button : buttons) {
             const QKeySequence key = QKeySequence::mnemonic(button->text());
             if (button->isVisible() && !key.isEmpty()) {
@@ -877,42 +859,41 @@ private:
     /// Opens a window on new settings that hold \a tasks, in the mode that goes with them.
     void Open(const std::vector<PX::RecordTime>& tasks = {})
     {
-        OpenStore();
-        m_store->Change([&](auto& settings) {
-            settings.schedule = tasks;
-            settings.scheduledCaptureEnabled = !tasks.empty();
-        });
+        m_app = std::make_unique<AppWindow>(tasks);
         ShowWindow();
-        // Whatever room the screen of the test has.
-        m_window->resize(Desktop::MainWindow::FirstSize());
+    }
+
+    /// Opens a window on settings that have no place of a window.
+    void OpenWithoutPlace()
+    {
+        m_app = std::make_unique<AppWindow>();
+        Reopen();
     }
 
     /// Opens a window on the settings as they were left.
     void Reopen()
     {
-        OpenStore();
+        m_app->Reopen();
         ShowWindow();
     }
 
-    void OpenStore() { m_store = OpenStoreIn(*m_folder); }
-
-    void ShowWindow()
+    void ShowWindow() const
     {
-        m_window = std::make_unique<Desktop::MainWindow>(
-            m_store, std::make_shared<App::LookAndFeelManager>());
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        Window().show();
+        QVERIFY(QTest::qWaitForWindowExposed(&Window()));
     }
 
     void Close()
     {
-        if (m_window != nullptr && m_window->isVisible()) {
+        if (m_app != nullptr && m_app->window != nullptr && Window().isVisible()) {
             FinishTask();
-            m_window->close();
+            Window().close();
         }
-        m_window.reset();
-        m_store.reset();
     }
+
+    Desktop::MainWindow& Window() const { return *m_app->window; }
+    PX::SettingsStore& Store() const { return *m_app->store; }
+    QString Folder() const { return m_app->folder.path(); }
 
     void KeepRecordingsIn(const QString& folder) const
     {
@@ -925,7 +906,7 @@ private:
     QMargins ExpectedFrame() const
     {
         const auto metric = [this](QStyle::PixelMetric which) {
-            return m_window->style()->pixelMetric(which, nullptr, m_window.get());
+            return Window().style()->pixelMetric(which, nullptr, &Window());
         };
         const int side = metric(QStyle::PM_MdiSubWindowFrameWidth);
         return {side, metric(QStyle::PM_TitleBarHeight), side, side};
@@ -934,19 +915,19 @@ private:
     /// By how much the frame that the desktop has drawn is larger than the expected one.
     QMargins UnexpectedFrame() const
     {
-        const QMargins more = m_window->windowHandle()->frameMargins() - ExpectedFrame();
+        const QMargins more = Window().windowHandle()->frameMargins() - ExpectedFrame();
         return {qMax(0, more.left()), qMax(0, more.top()), qMax(0, more.right()),
                 qMax(0, more.bottom())};
     }
 
-    QString StatusText() const { return m_window->findChild<QStatusBar*>()->currentMessage(); }
+    QString StatusText() const { return m_app->StatusText(); }
 
     template <typename T> T* Find(const char* objectName) const
     {
-        return m_window->findChild<T*>(QLatin1String(objectName));
+        return m_app->Find<T>(objectName);
     }
-    QListWidget* PageList() const { return Find<QListWidget>("pageList"); }
-    QAbstractButton* Button(const char* name) const { return Find<QAbstractButton>(name); }
+    QListWidget* PageList() const { return m_app->PageList(); }
+    QAbstractButton* Button(const char* name) const { return m_app->Button(name); }
     void Click(const char* name) const
     {
         QTest::mouseClick(Button(name), Qt::LeftButton);
@@ -957,15 +938,13 @@ private:
     QStringList Titles() const
     {
         QStringList titles;
-        for (const auto& task : m_store->Settings().schedule) {
+        for (const auto& task : Store().Settings().schedule) {
             titles << task.title;
         }
         return titles;
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::shared_ptr<PX::SettingsStore> m_store;
-    std::unique_ptr<Desktop::MainWindow> m_window;
+    std::unique_ptr<AppWindow> m_app;
 };
 
 } // namespace Zentor::Tests

@@ -1,13 +1,11 @@
-#include <QTemporaryDir>
-
 #include "Application/LookAndFeelManager.h"
 #include "Application/SettingsManager.h"
 #include "CpuTimer.h"
-#include "PXUserSettings/SettingsStore.h"
 #include "PXUserSettings/StoredSettings.h"
 #include "RecordSchedulerWidget.h"
 #include "Resources.h"
 #include "Samples.h"
+#include "StoreIn.h"
 #include "Theme.h"
 #include "WidgetTest.h"
 
@@ -37,9 +35,7 @@ private Q_SLOTS:
     {
         constexpr int taskCount = 1000;
         const QTemporaryDir folder;
-        const auto store = std::make_shared<PX::SettingsStore>(folder.filePath("settings.json"));
-        QString error;
-        QVERIFY2(store->Open(&error), qPrintable(error));
+        const auto store = OpenStoreIn(folder);
         store->Change([](PX::UserSettings& settings) {
             settings.schedule = Tasks(taskCount);
             settings.scheduledCaptureEnabled = true;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -19,26 +20,34 @@
 namespace Zentor::Tests {
 
 /// The application's window on settings of its own, and short ways to its parts. Where the panel
-/// starts with tasks, they are "Task 1", "Task 2" and so on, and the schedule mode is on.
+/// starts with tasks, they are "Task 1", "Task 2" and so on, or those given, and the schedule mode
+/// is on.
 class AppWindow {
 public:
     explicit AppWindow(int taskCount = 0)
+        : AppWindow(NumberedTasks(taskCount))
+    {
+    }
+    explicit AppWindow(const std::vector<PX::RecordTime>& tasks)
         : store(OpenStoreIn(folder))
     {
         store->Change([&](PX::UserSettings& settings) {
-            for (int number = 1; number <= taskCount; ++number) {
-                settings.schedule.push_back(Record(QStringLiteral("Task %1").arg(number),
-                                                   At("00:00") + std::chrono::hours(number),
-                                                   std::chrono::minutes(30)));
-            }
-            settings.scheduledCaptureEnabled = taskCount > 0;
+            settings.schedule = tasks;
+            settings.scheduledCaptureEnabled = !tasks.empty();
             settings.resultsFolderPath = folder.path();
         });
-        const auto lookAndFeel = std::make_shared<App::LookAndFeelManager>();
-        lookAndFeel->SetLanguage(QLocale().name().toStdString());
-        window = std::make_unique<Desktop::MainWindow>(store, lookAndFeel);
+        CreateWindow();
         // Whatever room the screen of the test has.
         window->resize(Desktop::MainWindow::FirstSize());
+    }
+
+    /// Lets go of the window and the store, and opens new ones on the settings as they were left.
+    void Reopen()
+    {
+        window.reset();
+        store.reset();
+        store = OpenStoreIn(folder);
+        CreateWindow();
     }
 
     /// Shows the window and waits until it has the keyboard.
@@ -102,6 +111,25 @@ public:
     const QTemporaryDir folder;
     std::shared_ptr<PX::SettingsStore> store;
     std::unique_ptr<Desktop::MainWindow> window;
+
+private:
+    static std::vector<PX::RecordTime> NumberedTasks(int count)
+    {
+        std::vector<PX::RecordTime> tasks;
+        for (int number = 1; number <= count; ++number) {
+            tasks.push_back(Record(QStringLiteral("Task %1").arg(number),
+                                   At("00:00") + std::chrono::hours(number),
+                                   std::chrono::minutes(30)));
+        }
+        return tasks;
+    }
+
+    void CreateWindow()
+    {
+        const auto lookAndFeel = std::make_shared<App::LookAndFeelManager>();
+        lookAndFeel->SetLanguage(QLocale().name().toStdString());
+        window = std::make_unique<Desktop::MainWindow>(store, lookAndFeel);
+    }
 };
 
 } // namespace Zentor::Tests
