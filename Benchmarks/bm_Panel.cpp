@@ -15,6 +15,7 @@
 #include <QToolButton>
 #include <QtTest>
 
+#include "PanelParts.h"
 #include "RecordSchedulerWidget.h"
 #include "Samples.h"
 
@@ -175,8 +176,8 @@ private Q_SLOTS:
         const auto panel = CreatePanel(0);
         panel->RestoreSettings();
         panel->show();
-        auto* limited = panel->findChild<QRadioButton*>("limitedCaptureDurationRadioButton");
-        auto* none = panel->findChild<QRadioButton*>("disableScheduledCaptureRadioButton");
+        auto* limited = panel->findChild<QRadioButton*>(Desktop::PanelPart::LimitedModeButton);
+        auto* none = panel->findChild<QRadioButton*>(Desktop::PanelPart::OffModeButton);
         QBENCHMARK
         {
             limited->click();
@@ -192,8 +193,8 @@ private Q_SLOTS:
         const auto panel = CreatePanel(taskCount);
         panel->RestoreSettings();
         panel->show();
-        panel->findChild<QPushButton*>("scheduledCaptureSettingsAddRecordButton")->click();
-        auto* name = panel->findChild<QLineEdit*>("scheduledCaptureSettingsNameLineEdit");
+        panel->findChild<QPushButton*>(Desktop::PanelPart::AddButton)->click();
+        auto* name = panel->findChild<QLineEdit*>(Desktop::PanelPart::NameField);
         QBENCHMARK
         {
             QTest::keyClick(name, Qt::Key_X);

@@ -41,6 +41,9 @@ inline const QString AddButton = QStringLiteral("scheduledCaptureSettingsAddReco
 
 inline const QString Row = QStringLiteral("infoRecordFrame");
 inline const QString RowTitle = QStringLiteral("titleLabel");
+inline const QString RowDate = QStringLiteral("dateLabel");
+inline const QString RowTime = QStringLiteral("timeLabel");
+inline const QString RowDuration = QStringLiteral("durationLabel");
 inline const QString RowDeleteButton = QStringLiteral("deleteToolButton");
 /// The row of an empty list.
 inline const QString PlaceholderRow = QStringLiteral("stubInfoRecordFrame");

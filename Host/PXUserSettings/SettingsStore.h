@@ -52,7 +52,8 @@ public:
     /// The settings as they are now, whether or not they have been saved.
     const UserSettings& Settings() const { return m_settings; }
 
-    /// Alters the settings by \a change, at once, and saves them in the next pass of the event loop.
+    /// Alters the settings by \a change, at once, and saves them in the next pass of the event
+    /// loop.
     void Change(const std::function<void(UserSettings&)>& change);
 
     /// Why the settings could not be saved last, in the language in use; empty when they could.

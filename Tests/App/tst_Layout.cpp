@@ -7,6 +7,7 @@
 #include "AppScenes.h"
 #include "Languages.h"
 #include "LayoutProblems.h"
+#include "PanelParts.h"
 #include "Resources.h"
 #include "Theme.h"
 #include "WidgetTest.h"
@@ -16,16 +17,16 @@ namespace {
 
 constexpr QSize smallSize(640, 480);
 
-constexpr const char* nameEdit = "scheduledCaptureSettingsNameLineEdit";
-constexpr const char* dateEdit = "scheduledCaptureSettingsDate";
-constexpr const char* startEdit = "scheduledCaptureSettingsStartTime";
-constexpr const char* addButton = "scheduledCaptureSettingsAddRecordButton";
+const QString& nameEdit = Desktop::PanelPart::NameField;
+const QString& dateEdit = Desktop::PanelPart::DateField;
+const QString& startEdit = Desktop::PanelPart::StartField;
+const QString& addButton = Desktop::PanelPart::AddButton;
 
 /// A mode's button and its caption, from the top of the panel down.
-constexpr std::pair<const char*, const char*> modes[] = {
-    {"disableScheduledCaptureRadioButton", "disableScheduledCaptureLabel"},
-    {"limitedCaptureDurationRadioButton", "limitedCaptureDurationLabel"},
-    {"scheduledCaptureRadioButton", "scheduledCaptureLabel"}};
+const std::pair<QString, QString> modes[] = {
+    {Desktop::PanelPart::OffModeButton, "disableScheduledCaptureLabel"},
+    {Desktop::PanelPart::LimitedModeButton, "limitedCaptureDurationLabel"},
+    {Desktop::PanelPart::ScheduledModeButton, "scheduledCaptureLabel"}};
 
 /// Where named widgets are in their window.
 using Places = QMap<QString, QRect>;
@@ -62,7 +63,7 @@ QString MovedSince(const Places& before, const QWidget& page)
 }
 
 /// Where the part of a mode starts in the window, from the side on which lines start.
-QPoint StartOf(const AppWindow& app, const char* objectName)
+QPoint StartOf(const AppWindow& app, const QString& objectName)
 {
     const QWidget& part = *app.Find(objectName);
     return QStyle::visualRect(part.layoutDirection(), app.window->rect(), PlaceOf(part)).topLeft();
@@ -72,8 +73,8 @@ QMap<QString, QPoint> StartsOfModes(const AppWindow& app)
 {
     QMap<QString, QPoint> starts;
     for (const auto& [button, caption] : modes) {
-        starts[QLatin1String(button)] = StartOf(app, button);
-        starts[QLatin1String(caption)] = StartOf(app, caption);
+        starts[button] = StartOf(app, button);
+        starts[caption] = StartOf(app, caption);
     }
     return starts;
 }
@@ -196,8 +197,7 @@ private Q_SLOTS:
             const auto after = StartsOfModes(app);
             bool isBelow = false;
             for (const auto& [button, caption] : modes) {
-                for (const QString& part :
-                     {QString::fromLatin1(button), QString::fromLatin1(caption)}) {
+                for (const QString& part : {button, caption}) {
                     const QPoint way = after[part] - before[part];
                     // Below the chosen mode stand its values.
                     if (way.x() != 0 || (way.y() != 0 && !isBelow)) {
@@ -218,7 +218,7 @@ private Q_SLOTS:
         Open(app);
         app.Button(addButton)->click();
         Settle();
-        const QWidget& form = *app.Find("createRecordTaskWidget");
+        const QWidget& form = *app.Find(Desktop::PanelPart::Form);
         const Places before = PlacesIn(form);
         auto* name = app.Find<QLineEdit>(nameEdit);
         const QString accepted = name->text();

@@ -15,6 +15,7 @@
 #include "Boxes.h"
 #include "Languages.h"
 #include "MarkingTranslator.h"
+#include "PanelParts.h"
 #include "RecordSchedulerWidget.h"
 #include "Resources.h"
 #include "Theme.h"
@@ -104,7 +105,7 @@ private Q_SLOTS:
         Open();
         QCOMPARE(PageList()->currentRow(), 0);
         QVERIFY(Find<Panel>("recordSchedulerWidget")->isVisible());
-        QVERIFY(Button("disableScheduledCaptureRadioButton")->isChecked());
+        QVERIFY(Button(Desktop::PanelPart::OffModeButton)->isChecked());
     }
 
     void putsEveryRowOnScreen()
@@ -113,15 +114,17 @@ private Q_SLOTS:
         const QImage picture = Window().grab().toImage();
         const QColor ground(
             Desktop::ColorsOf(Desktop::Theme::Light).value(QStringLiteral("surface")));
-        const auto rows = Window().findChildren<QWidget*>(QStringLiteral("infoRecordFrame"));
+        const auto rows = Window().findChildren<QWidget*>(Desktop::PanelPart::Row);
         QCOMPARE(rows.size(), 5);
         for (const QWidget* row : rows) {
-            for (const char* name :
-                 {"titleLabel", "dateLabel", "timeLabel", "durationLabel", "deleteToolButton"}) {
-                const auto* child = row->findChild<QWidget*>(QLatin1String(name));
+            for (const QString& name :
+                 {Desktop::PanelPart::RowTitle, Desktop::PanelPart::RowDate,
+                  Desktop::PanelPart::RowTime, Desktop::PanelPart::RowDuration,
+                  Desktop::PanelPart::RowDeleteButton}) {
+                const auto* child = row->findChild<QWidget*>(name);
                 QCOMPARE(child->visibleRegion(), QRegion(child->rect()));
                 const QRect place(child->mapTo(&Window(), QPoint(0, 0)), child->size());
-                QVERIFY2(InkOn(picture.copy(place), ground) > 20, name);
+                QVERIFY2(InkOn(picture.copy(place), ground) > 20, qPrintable(name));
             }
         }
     }
@@ -143,15 +146,15 @@ private Q_SLOTS:
         QFETCH(int, count);
         QFETCH(int, height);
         Open(Tasks(count));
-        Click("scheduledCaptureRadioButton");
-        QCOMPARE(Find<QWidget>("scheduledCaptureSettingsRecordTableWidget")->size(),
-                 QSize(710, height));
+        Click(Desktop::PanelPart::ScheduledModeButton);
+        QCOMPARE(Find<QWidget>(Desktop::PanelPart::Table)->size(), QSize(710, height));
 
         // The numbers that the height is made of are the heights of what is shown.
         QCOMPARE(Find<QWidget>("headerFrame")->height(), 36);
-        const char* row = count == 0 ? "stubInfoRecordFrame" : "infoRecordFrame";
+        const QString row =
+            count == 0 ? Desktop::PanelPart::PlaceholderRow : Desktop::PanelPart::Row;
         QCOMPARE(Find<QWidget>(row)->height(), 40);
-        const auto* scrollArea = Find<QScrollArea>("recordTableScrollArea");
+        const auto* scrollArea = Find<QScrollArea>(Desktop::PanelPart::List);
         QCOMPARE(scrollArea->verticalScrollBar()->isVisible(), count > 5);
         QVERIFY(!scrollArea->horizontalScrollBar()->isVisible());
     }
@@ -159,11 +162,11 @@ private Q_SLOTS:
     void alignsTheColumns()
     {
         Open(Tasks(6));
-        const std::pair<const char*, const char*> columns[] = {
-            {"headerTitleLabel", "titleLabel"},
-            {"headerDateLabel", "dateLabel"},
-            {"headerTimeLabel", "timeLabel"},
-            {"headerDurationLabel", "durationLabel"}};
+        const std::pair<QString, QString> columns[] = {
+            {"headerTitleLabel", Desktop::PanelPart::RowTitle},
+            {"headerDateLabel", Desktop::PanelPart::RowDate},
+            {"headerTimeLabel", Desktop::PanelPart::RowTime},
+            {"headerDurationLabel", Desktop::PanelPart::RowDuration}};
         for (const auto& [head, cell] : columns) {
             const QPoint origin(0, 0);
             QCOMPARE(Find<QWidget>(cell)->mapTo(&Window(), origin).x(),
@@ -175,10 +178,10 @@ private Q_SLOTS:
     void keepsCaptionsBesideTheirButtons()
     {
         Open();
-        const std::pair<const char*, const char*> captions[] = {
-            {"disableScheduledCaptureRadioButton", "disableScheduledCaptureLabel"},
-            {"limitedCaptureDurationRadioButton", "limitedCaptureDurationLabel"},
-            {"scheduledCaptureRadioButton", "scheduledCaptureLabel"}};
+        const std::pair<QString, QString> captions[] = {
+            {Desktop::PanelPart::OffModeButton, "disableScheduledCaptureLabel"},
+            {Desktop::PanelPart::LimitedModeButton, "limitedCaptureDurationLabel"},
+            {Desktop::PanelPart::ScheduledModeButton, "scheduledCaptureLabel"}};
         for (const auto& [button, caption] : captions) {
             QCOMPARE(Find<QWidget>(button)->width(), 24);
             QCOMPARE(Find<QWidget>(caption)->x(), Find<QWidget>(button)->geometry().right() + 1);
@@ -190,7 +193,7 @@ private Q_SLOTS:
         Open(Tasks(3));
         {
             const ExpectedBox box(QMessageBox::Ok);
-            Click("deleteToolButton");
+            Click(Desktop::PanelPart::RowDeleteButton);
             QVERIFY(box.Came());
         }
         PageList()->setCurrentRow(1);
@@ -203,24 +206,22 @@ private Q_SLOTS:
         QCOMPARE(Find<QLineEdit>("resultsFolderEdit")->text(), QDir::tempPath());
         QCOMPARE(Window().geometry(), QRect(30, 40, 720, 500));
         PageList()->setCurrentRow(0);
-        QVERIFY(Button("scheduledCaptureRadioButton")->isChecked());
+        QVERIFY(Button(Desktop::PanelPart::ScheduledModeButton)->isChecked());
         QCOMPARE(Titles(), (QStringList{QStringLiteral("Task 1"), QStringLiteral("Task 2")}));
         {
             const ExpectedBox box(QMessageBox::Ok);
-            Click("limitedCaptureDurationRadioButton");
+            Click(Desktop::PanelPart::LimitedModeButton);
             QVERIFY(box.Came());
         }
-        Find<QTimeEdit>("limitedCaptureDurationSettingsCaptureDuration")->setTime(QTime(1, 30));
-        Find<QComboBox>("limitedCaptureDurationSettingsActionOnFinishBox")->setCurrentIndex(2);
+        Find<QTimeEdit>(Desktop::PanelPart::LimitedDurationField)->setTime(QTime(1, 30));
+        Find<QComboBox>(Desktop::PanelPart::LimitedActionBox)->setCurrentIndex(2);
         Close();
 
         Reopen();
         QCOMPARE(PageList()->currentRow(), 0);
-        QVERIFY(Button("limitedCaptureDurationRadioButton")->isChecked());
-        QCOMPARE(Find<QTimeEdit>("limitedCaptureDurationSettingsCaptureDuration")->time(),
-                 QTime(1, 30));
-        QCOMPARE(Find<QComboBox>("limitedCaptureDurationSettingsActionOnFinishBox")->currentIndex(),
-                 2);
+        QVERIFY(Button(Desktop::PanelPart::LimitedModeButton)->isChecked());
+        QCOMPARE(Find<QTimeEdit>(Desktop::PanelPart::LimitedDurationField)->time(), QTime(1, 30));
+        QCOMPARE(Find<QComboBox>(Desktop::PanelPart::LimitedActionBox)->currentIndex(), 2);
         QCOMPARE(Titles(), QStringList());
     }
 
@@ -290,7 +291,7 @@ private Q_SLOTS:
         QFETCH(int, tasks);
         Open(Tasks(1));
         KeepRecordingsIn(Folder());
-        Click("scheduledCaptureSettingsAddRecordButton");
+        Click(Desktop::PanelPart::AddButton);
         const ExpectedBox box(static_cast<QMessageBox::StandardButton>(answer));
         Click("startRecordingButton");
         QVERIFY(box.Came());
@@ -342,7 +343,7 @@ private Q_SLOTS:
         Open(Tasks(1));
         KeepRecordingsIn(FullFolder());
         if (withForm) {
-            Click("scheduledCaptureSettingsAddRecordButton");
+            Click(Desktop::PanelPart::AddButton);
         }
         const ExpectedBox box([this](QMessageBox&) { m_app->window.reset(); });
         // Not with the mouse, which would touch the button again on return.
@@ -375,13 +376,13 @@ private Q_SLOTS:
         QCOMPARE(Window().size(), QSize(640, 480));
         const auto* stack = Find<QStackedWidget>("pages");
         auto* page = qobject_cast<QScrollArea*>(stack->currentWidget());
-        for (const char* name :
-             {"disableScheduledCaptureRadioButton", "scheduledCaptureSettingsAddRecordButton"}) {
+        for (const QString& name :
+             {Desktop::PanelPart::OffModeButton, Desktop::PanelPart::AddButton}) {
             auto* widget = Find<QWidget>(name);
             page->ensureWidgetVisible(widget);
             QCOMPARE(widget->visibleRegion(), QRegion(widget->rect()));
         }
-        auto* deleteButton = Find<QWidget>("deleteToolButton");
+        auto* deleteButton = Find<QWidget>(Desktop::PanelPart::RowDeleteButton);
         page->ensureWidgetVisible(deleteButton);
         QCOMPARE(deleteButton->visibleRegion(), QRegion(deleteButton->rect()));
     }
@@ -434,7 +435,7 @@ private Q_SLOTS:
     void writesTheListInANewLanguage()
     {
         Open(Tasks(1));
-        const auto date = [this] { return Find<QLabel>("dateLabel")->text(); };
+        const auto date = [this] { return Find<QLabel>(Desktop::PanelPart::RowDate)->text(); };
         const QString before = date();
         LanguageSwitch language;
         language.Toggle();
@@ -442,15 +443,15 @@ private Q_SLOTS:
                  QDate::fromString(before, QStringLiteral("dd.MM.yyyy")));
         QVERIFY(date() != before);
         QCOMPARE(StatusText(), QString());
-        QCOMPARE(Window().findChildren<QLabel*>(QStringLiteral("dateLabel")).size(), 1);
+        QCOMPARE(Window().findChildren<QLabel*>(Desktop::PanelPart::RowDate).size(), 1);
         QCOMPARE(Window().findChildren<Panel*>().size(), 1);
         QCOMPARE(Titles(), QStringList{QStringLiteral("Task 0")});
-        QVERIFY(Button("scheduledCaptureRadioButton")->isChecked());
-        QCOMPARE(Find<QWidget>("recordTableScrollArea")->accessibleName(),
+        QVERIFY(Button(Desktop::PanelPart::ScheduledModeButton)->isChecked());
+        QCOMPARE(Find<QWidget>(Desktop::PanelPart::List)->accessibleName(),
                  QStringLiteral("~Recording schedule"));
 
         // The new panel is assisted as the one before, and an unfinished task stays as it is.
-        Click("scheduledCaptureSettingsAddRecordButton");
+        Click(Desktop::PanelPart::AddButton);
         QCOMPARE(Window().focusWidget()->objectName(), NameEdit()->objectName());
         language.Toggle();
         QVERIFY(NameEdit()->isVisible());
@@ -469,9 +470,9 @@ private Q_SLOTS:
     void keepsTheModeInANewLanguage_data()
     {
         QTest::addColumn<QString>("mode");
-        QTest::newRow("nothing") << QStringLiteral("disableScheduledCaptureRadioButton");
-        QTest::newRow("limited") << QStringLiteral("limitedCaptureDurationRadioButton");
-        QTest::newRow("empty schedule") << QStringLiteral("scheduledCaptureRadioButton");
+        QTest::newRow("nothing") << Desktop::PanelPart::OffModeButton;
+        QTest::newRow("limited") << Desktop::PanelPart::LimitedModeButton;
+        QTest::newRow("empty schedule") << Desktop::PanelPart::ScheduledModeButton;
     }
 
     void keepsTheModeInANewLanguage()
@@ -628,7 +629,7 @@ private Q_SLOTS:
             Desktop::ColorsOf(Desktop::Theme::Dark).value(QStringLiteral("window")));
         const QImage picture = Window().grab().toImage();
         QCOMPARE(picture.pixelColor(picture.rect().bottomRight()), ground);
-        QCOMPARE(Find<QWidget>("scheduledCaptureSettingsRecordTableWidget")->width(), 710);
+        QCOMPARE(Find<QWidget>(Desktop::PanelPart::Table)->width(), 710);
         Desktop::ApplyTheme(Desktop::Theme::Light);
     }
 
@@ -650,10 +651,9 @@ private Q_SLOTS:
         QFETCH(QString, after);
         QGuiApplication::setLayoutDirection(static_cast<Qt::LayoutDirection>(direction));
         Open();
-        const auto* calendar =
-            Find<QDateTimeEdit>("scheduledCaptureSettingsDate")->calendarWidget();
-        const auto shows = [&](const char* button, const QString& icon) {
-            auto* arrow = calendar->findChild<QToolButton*>(QLatin1String(button));
+        const auto* calendar = Find<QDateTimeEdit>(Desktop::PanelPart::DateField)->calendarWidget();
+        const auto shows = [&](const QString& button, const QString& icon) {
+            auto* arrow = calendar->findChild<QToolButton*>(button);
             arrow->ensurePolished();
             return arrow->icon().pixmap(16).toImage()
                 == Desktop::ThemedIcon(icon).pixmap(16).toImage();
@@ -671,21 +671,21 @@ private Q_SLOTS:
         // Of a group of radio buttons, Tab stops at the checked one; the arrow keys lead to the
         // rest.
         QTest::newRow("schedule")
-            << QStringLiteral("scheduledCaptureRadioButton") << 0
+            << Desktop::PanelPart::ScheduledModeButton << 0
             << QStringLiteral(
                    "pageList scheduledCaptureRadioButton recordTableScrollArea "
                    "deleteToolButton scheduledCaptureSettingsAddRecordButton startRecordingButton");
         QTest::newRow("limited capture")
-            << QStringLiteral("limitedCaptureDurationRadioButton") << 0
+            << Desktop::PanelPart::LimitedModeButton << 0
             << QStringLiteral(
                    "pageList limitedCaptureDurationRadioButton "
                    "limitedCaptureDurationSettingsCaptureDuration "
                    "limitedCaptureDurationSettingsActionOnFinishBox startRecordingButton");
         QTest::newRow("files")
-            << QStringLiteral("disableScheduledCaptureRadioButton") << 1
+            << Desktop::PanelPart::OffModeButton << 1
             << QStringLiteral("pageList resultsFolderEdit browseButton startRecordingButton");
         QTest::newRow("general")
-            << QStringLiteral("disableScheduledCaptureRadioButton") << 2
+            << Desktop::PanelPart::OffModeButton << 2
             << QStringLiteral(
                    "pageList languageBox themeBox openFolderButton startRecordingButton");
     }
@@ -695,7 +695,7 @@ private Q_SLOTS:
         QFETCH(QString, clicked);
         QFETCH(int, page);
         QFETCH(QString, controls);
-        const bool withTask = clicked == QLatin1String("scheduledCaptureRadioButton");
+        const bool withTask = clicked == Desktop::PanelPart::ScheduledModeButton;
         Open(Tasks(withTask ? 1 : 0));
         Click(qPrintable(clicked));
         PageList()->setCurrentRow(page);
@@ -727,12 +727,12 @@ private Q_SLOTS:
         QTest::addColumn<int>("fields");
         const auto codes = Desktop::LanguageCodes();
         for (const QString& code : codes) {
-            const auto row = [&](const char* name, const char* clicked, int page, int fields) {
+            const auto row = [&](const char* name, const QString& clicked, int page, int fields) {
                 QTest::addRow("%s, %s", qPrintable(code), name)
-                    << code << QString::fromLatin1(clicked) << page << fields;
+                    << code << clicked << page << fields;
             };
-            row("limited capture", "limitedCaptureDurationRadioButton", 0, 5);
-            row("form", "scheduledCaptureSettingsAddRecordButton", 0, 8);
+            row("limited capture", Desktop::PanelPart::LimitedModeButton, 0, 5);
+            row("form", Desktop::PanelPart::AddButton, 0, 8);
             row("files", "", 1, 1);
             row("general", "", 2, 2);
         }
@@ -807,7 +807,7 @@ private:
     void BeginTask(const QString& title)
     {
         Open({Record(QStringLiteral("Task 0"), At("10:00") + 24h * 3650, 30min)});
-        Click("scheduledCaptureSettingsAddRecordButton");
+        Click(Desktop::PanelPart::AddButton);
         NameEdit()->setText(title);
     }
 
@@ -816,7 +816,7 @@ private:
     {
         if (NameEdit()->isVisible()) {
             const ExpectedBox box(QMessageBox::No);
-            Click("scheduledCaptureSettingsBackButton");
+            Click(Desktop::PanelPart::BackButton);
         }
     }
 
@@ -826,7 +826,7 @@ private:
         QTest::mouseClick(PageList()->viewport(), Qt::LeftButton, Qt::NoModifier, place.center());
     }
 
-    QLineEdit* NameEdit() const { return Find<QLineEdit>("scheduledCaptureSettingsNameLineEdit"); }
+    QLineEdit* NameEdit() const { return Find<QLineEdit>(Desktop::PanelPart::NameField); }
 
     /// Where the Tab key stops, one after another, from the list of pages on.
     QStringList StopsOfTab() const
@@ -922,13 +922,13 @@ private:
 
     QString StatusText() const { return m_app->StatusText(); }
 
-    template <typename T> T* Find(const char* objectName) const
+    template <typename T> T* Find(const QString& objectName) const
     {
         return m_app->Find<T>(objectName);
     }
     QListWidget* PageList() const { return m_app->PageList(); }
-    QAbstractButton* Button(const char* name) const { return m_app->Button(name); }
-    void Click(const char* name) const
+    QAbstractButton* Button(const QString& name) const { return m_app->Button(name); }
+    void Click(const QString& name) const
     {
         QTest::mouseClick(Button(name), Qt::LeftButton);
         // What is deleted later is gone now, and what moved has its new place.

@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include "PanelParts.h"
 #include "Resources.h"
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformaccessibility.h>
@@ -17,7 +18,7 @@
 namespace Zentor::Tests {
 namespace {
 
-constexpr const char* nameEdit = "scheduledCaptureSettingsNameLineEdit";
+const QString& nameEdit = Desktop::PanelPart::NameField;
 
 QString DuplicateProblem()
 {
@@ -91,7 +92,7 @@ private Q_SLOTS:
         QVERIFY(app.Show());
         const Spies spies(app);
         const auto buttons =
-            app.window->findChildren<QAbstractButton*>(QStringLiteral("deleteToolButton"));
+            app.window->findChildren<QAbstractButton*>(Desktop::PanelPart::RowDeleteButton);
         const ExpectedBox box(QMessageBox::Ok);
         buttons.at(row - 1)->click();
         QVERIFY(box.Came());
@@ -106,7 +107,7 @@ private Q_SLOTS:
         QVERIFY(app.Show());
         const Spies spies(app);
         const ExpectedBox box(QMessageBox::Ok);
-        app.Button("disableScheduledCaptureRadioButton")->click();
+        app.Button(Desktop::PanelPart::OffModeButton)->click();
         QVERIFY(box.Came());
         QCOMPARE(spies.Happened(), QStringList{QStringLiteral("All tasks deleted")});
     }
@@ -203,12 +204,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("mode");
         QTest::addColumn<bool>("withForm");
         QTest::addColumn<int>("atLeast");
-        QTest::newRow("nothing") << 0 << "disableScheduledCaptureRadioButton" << false << 5;
-        QTest::newRow("limited") << 0 << "limitedCaptureDurationRadioButton" << false << 7;
-        QTest::newRow("schedule") << 0 << "scheduledCaptureRadioButton" << false << 9;
-        QTest::newRow("form") << 0 << "scheduledCaptureRadioButton" << true << 14;
-        QTest::newRow("files") << 1 << "scheduledCaptureRadioButton" << false << 4;
-        QTest::newRow("general") << 2 << "scheduledCaptureRadioButton" << false << 7;
+        QTest::newRow("nothing") << 0 << Desktop::PanelPart::OffModeButton << false << 5;
+        QTest::newRow("limited") << 0 << Desktop::PanelPart::LimitedModeButton << false << 7;
+        QTest::newRow("schedule") << 0 << Desktop::PanelPart::ScheduledModeButton << false << 9;
+        QTest::newRow("form") << 0 << Desktop::PanelPart::ScheduledModeButton << true << 14;
+        QTest::newRow("files") << 1 << Desktop::PanelPart::ScheduledModeButton << false << 4;
+        QTest::newRow("general") << 2 << Desktop::PanelPart::ScheduledModeButton << false << 7;
     }
 
     void namesEveryControl()
@@ -222,7 +223,7 @@ private Q_SLOTS:
         app.Button(qPrintable(mode))->click();
         app.PageList()->setCurrentRow(page);
         if (withForm) {
-            app.Button("scheduledCaptureSettingsAddRecordButton")->click();
+            app.Button(Desktop::PanelPart::AddButton)->click();
         }
         int count = 0;
         const auto widgets = app.window->findChildren<QWidget*>();

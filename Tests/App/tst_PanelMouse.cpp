@@ -2,6 +2,7 @@
 #include <QMouseEvent>
 
 #include "AppWindow.h"
+#include "PanelParts.h"
 #include "Resources.h"
 #include "Theme.h"
 #include "WidgetTest.h"
@@ -31,8 +32,8 @@ private Q_SLOTS:
         QFETCH(QPoint, point);
         const AppWindow app(1);
         QVERIFY(app.Show());
-        app.Button("scheduledCaptureSettingsAddRecordButton")->click();
-        auto* date = app.Find<QDateTimeEdit>("scheduledCaptureSettingsDate");
+        app.Button(Desktop::PanelPart::AddButton)->click();
+        auto* date = app.Find<QDateTimeEdit>(Desktop::PanelPart::DateField);
         const QDate before = date->date();
         QTest::mouseClick(date, Qt::LeftButton, Qt::NoModifier, point);
         QTest::mouseDClick(date, Qt::LeftButton, Qt::NoModifier, point);
@@ -44,8 +45,8 @@ private Q_SLOTS:
     {
         const AppWindow app(1);
         QVERIFY(app.Show());
-        app.Button("scheduledCaptureSettingsAddRecordButton")->click();
-        auto* date = app.Find<QDateTimeEdit>("scheduledCaptureSettingsDate");
+        app.Button(Desktop::PanelPart::AddButton)->click();
+        auto* date = app.Find<QDateTimeEdit>(Desktop::PanelPart::DateField);
         AllowWarning(QStringLiteral("grabbing"));
         QTest::mouseClick(date, Qt::LeftButton, Qt::NoModifier,
                           {date->width() - 12, date->height() / 2});
@@ -57,10 +58,10 @@ private Q_SLOTS:
     {
         const AppWindow app(1);
         QVERIFY(app.Show());
-        app.Button("scheduledCaptureSettingsAddRecordButton")->click();
+        app.Button(Desktop::PanelPart::AddButton)->click();
         app.Type("Other");
-        QTest::mouseClick(app.Button("scheduledCaptureSettingsCreateButton"), Qt::LeftButton);
-        auto* add = app.Button("scheduledCaptureSettingsAddRecordButton");
+        QTest::mouseClick(app.Button(Desktop::PanelPart::CreateButton), Qt::LeftButton);
+        auto* add = app.Button(Desktop::PanelPart::AddButton);
         QVERIFY(add->isVisible());
         const QPoint center = add->rect().center();
         for (const auto type : {QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {

@@ -1,6 +1,7 @@
 #include "Application/LookAndFeelManager.h"
 #include "Application/SettingsManager.h"
 #include "CpuTimer.h"
+#include "PanelParts.h"
 #include "PXUserSettings/StoredSettings.h"
 #include "RecordSchedulerWidget.h"
 #include "Resources.h"
@@ -59,7 +60,7 @@ private Q_SLOTS:
         QTRY_VERIFY(saved.count() > 0);
         const auto elapsed = timer.Milliseconds();
         qInfo("%d tasks restored, shown and saved in %.0f ms", taskCount, elapsed);
-        QCOMPARE(panel.findChildren<QWidget*>("infoRecordFrame").size(), taskCount);
+        QCOMPARE(panel.findChildren<QWidget*>(Desktop::PanelPart::Row).size(), taskCount);
         QVERIFY(store->Flush());
         QCOMPARE(saved.count(), 1);
 #ifdef NDEBUG

@@ -1,5 +1,6 @@
 #include <QValidator>
 
+#include "PanelParts.h"
 #include "TaskForm.h"
 #include "WidgetTest.h"
 
@@ -87,7 +88,7 @@ private Q_SLOTS:
                  QStringList({"Style SelectedAreaInfoButton QuestionButton SubStyle", "Language",
                               "Validator", "Language", "Fill ActionOnFinishBox blocked"}));
         QCOMPARE(form.GetActionOnFinishIndex(), -1);
-        auto* name = form.findChild<QLineEdit*>("scheduledCaptureSettingsNameLineEdit");
+        auto* name = form.findChild<QLineEdit*>(Desktop::PanelPart::NameField);
         QTest::keyClicks(name, "a1b2");
         QCOMPARE(form.GetTaskName(), QStringLiteral("ab"));
     }
@@ -96,7 +97,7 @@ private Q_SLOTS:
     {
         CreateRecordTaskWidget form(std::make_shared<CountingLanguages>(), nullptr);
         form.ResetForm("a");
-        auto* box = form.findChild<QComboBox*>("scheduledCaptureSettingsActionOnFinishBox");
+        auto* box = form.findChild<QComboBox*>(Desktop::PanelPart::ActionBox);
         box->setCurrentIndex(2);
         TakeCalls();
         QEvent language(QEvent::LanguageChange);

@@ -8,6 +8,7 @@
 #include "FakeClock.h"
 #include "MarkingTranslator.h"
 #include "Panel.h"
+#include "PanelParts.h"
 #include "PXUserSettings/StoredSettings.h"
 #include "UserInput.h"
 #include "WidgetTest.h"
@@ -121,7 +122,7 @@ private:
         const auto* rows = panel.Table()->findChild<QScrollArea*>()->widget()->layout();
         for (int i = 0; i < rows->count(); ++i) {
             const auto* row = rows->itemAt(i)->widget();
-            if (row != nullptr && row->objectName() == QLatin1String("infoRecordFrame")) {
+            if (row != nullptr && row->objectName() == Desktop::PanelPart::Row) {
                 buttons << row->findChild<QToolButton*>();
             }
         }

@@ -9,6 +9,7 @@
 #include "Boxes.h"
 #include "CpuTimer.h"
 #include "Panel.h"
+#include "PanelParts.h"
 #include "WidgetTest.h"
 
 namespace {
@@ -232,11 +233,10 @@ private Q_SLOTS:
         panel.window->show();
         panel.FillForm(QStringLiteral("  New task "), QTime(10, 30, 15, 999), QTime(2, 3, 4, 5));
         panel.FormDuration()->setTime(QTime(0, 3, 4));
-        panel.Find<QComboBox>("scheduledCaptureSettingsActionOnFinishBox")
-            ->setCurrentIndex(PX::Restart);
+        panel.Find<QComboBox>(Desktop::PanelPart::ActionBox)->setCurrentIndex(PX::Restart);
         panel
-            .Find<QRadioButton>(fullScreen ? "scheduledCaptureSettingsFullScreenAreaButton"
-                                           : "scheduledCaptureSettingsSelectedAreaButton")
+            .Find<QRadioButton>(fullScreen ? Desktop::PanelPart::FullScreenButton
+                                           : Desktop::PanelPart::SelectedAreaButton)
             ->click();
         panel.Create()->click();
 
@@ -287,13 +287,11 @@ private Q_SLOTS:
         auto* widget = new RecordSchedulerWidget(lookAndFeel,
                                                  std::make_shared<FakeSettingsManager>(), &window);
         widget->SetPathSettings(std::make_shared<FakePathsSettings>());
-        auto* stack =
-            widget->findChild<QStackedWidget*>(QStringLiteral("scheduledCaptureStackedWidget"));
+        auto* stack = widget->findChild<QStackedWidget*>(Desktop::PanelPart::Stack);
         auto* form = widget->findChild<CreateRecordTaskWidget*>();
-        widget->findChild<QRadioButton*>(QStringLiteral("scheduledCaptureRadioButton"))->click();
+        widget->findChild<QRadioButton*>(Desktop::PanelPart::ScheduledModeButton)->click();
         window.show();
-        widget->findChild<QPushButton*>(QStringLiteral("scheduledCaptureSettingsAddRecordButton"))
-            ->click();
+        widget->findChild<QPushButton*>(Desktop::PanelPart::AddButton)->click();
         Q_EMIT form->CreateTaskButtonClicked();
         QCOMPARE(stack->currentWidget(), form);
         QVERIFY(widget->findChild<ScheduleRecordTableWidget*>()->IsScheduleEmpty());

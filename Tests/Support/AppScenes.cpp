@@ -12,17 +12,18 @@
 
 #include "Boxes.h"
 #include "FakeScreen.h"
+#include "PanelParts.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {
 namespace {
 
-constexpr const char* nothingButton = "disableScheduledCaptureRadioButton";
-constexpr const char* limitedButton = "limitedCaptureDurationRadioButton";
-constexpr const char* scheduleButton = "scheduledCaptureRadioButton";
-constexpr const char* addButton = "scheduledCaptureSettingsAddRecordButton";
-constexpr const char* nameEdit = "scheduledCaptureSettingsNameLineEdit";
-constexpr const char* startEdit = "scheduledCaptureSettingsStartTime";
+const QString& nothingButton = Desktop::PanelPart::OffModeButton;
+const QString& limitedButton = Desktop::PanelPart::LimitedModeButton;
+const QString& scheduleButton = Desktop::PanelPart::ScheduledModeButton;
+const QString& addButton = Desktop::PanelPart::AddButton;
+const QString& nameEdit = Desktop::PanelPart::NameField;
+const QString& startEdit = Desktop::PanelPart::StartField;
 constexpr const char* folderEdit = "resultsFolderEdit";
 
 /// More than the list shows without scrolling.
@@ -87,7 +88,7 @@ public:
     }
 
     const AppWindow& App() const { return m_app; }
-    template <typename T> T* Find(const char* objectName) const
+    template <typename T> T* Find(const QString& objectName) const
     {
         return m_app.Find<T>(objectName);
     }
@@ -114,16 +115,16 @@ public:
         Settle();
     }
 
-    void Click(const char* objectName) const
+    void Click(const QString& objectName) const
     {
         m_app.Button(objectName)->click();
         Settle();
     }
-    void ClickInBox(const char* objectName, QMessageBox::StandardButton answer) const
+    void ClickInBox(const QString& objectName, QMessageBox::StandardButton answer) const
     {
         const ExpectedBox box(answer);
         Click(objectName);
-        QVERIFY2(box.Came(), objectName);
+        QVERIFY2(box.Came(), qPrintable(objectName));
     }
 
     void ShowPage(int row) const
@@ -139,7 +140,7 @@ public:
         Q_EMIT edit->editingFinished();
     }
 
-    bool IsMarked(const char* objectName) const
+    bool IsMarked(const QString& objectName) const
     {
         return m_app.Find(objectName)->property("SubStyle") == QLatin1String("Invalid");
     }
@@ -180,11 +181,11 @@ void ShowModes(const Stage& stage)
 {
     stage.Click(limitedButton);
     stage.Show(QStringLiteral("limited duration"),
-               stage.App().Find("limitedCaptureDurationSettingsFrame")->isVisible());
+               stage.App().Find(Desktop::PanelPart::LimitedSettings)->isVisible());
     ShowListsOfPage(stage, QStringLiteral("limited duration"));
     stage.Click(scheduleButton);
     stage.Show(QStringLiteral("empty schedule"),
-               stage.App().Find("stubInfoRecordFrame")->isVisible());
+               stage.App().Find(Desktop::PanelPart::PlaceholderRow)->isVisible());
     stage.Click(nothingButton);
     stage.Show(QStringLiteral("nothing scheduled"), stage.App().Button(nothingButton)->isChecked());
 }
@@ -236,7 +237,7 @@ void ShowGeneralPage(const Stage& stage)
 
 void ShowCalendar(const Stage& stage)
 {
-    auto* date = stage.Find<QDateTimeEdit>("scheduledCaptureSettingsDate");
+    auto* date = stage.Find<QDateTimeEdit>(Desktop::PanelPart::DateField);
     constexpr int toButton = 8;
     const QRect rect = date->rect();
     QTest::mouseClick(date, Qt::LeftButton, {},
@@ -249,7 +250,7 @@ void ShowCalendar(const Stage& stage)
 
 void ShowAreaTip(const Stage& stage)
 {
-    stage.Click("scheduledCaptureSettingsSelectedAreaInfoButton");
+    stage.Click(Desktop::PanelPart::SelectedAreaInfoButton);
     stage.Show(QStringLiteral("tip about the area"), QToolTip::isVisible());
     QToolTip::hideText();
 }
@@ -257,7 +258,7 @@ void ShowAreaTip(const Stage& stage)
 void ShowScreens(const Stage& stage)
 {
     FakeScreen* screen = Plug(SecondScreen());
-    const auto* screens = stage.Find<QComboBox>("scheduledCaptureSettingsScreenSelectBox");
+    const auto* screens = stage.Find<QComboBox>(Desktop::PanelPart::ScreenBox);
     stage.Show(QStringLiteral("form with two screens"), screens->isVisible());
     ShowListsOfPage(stage, QStringLiteral("form with two screens"));
     Unplug(screen);
@@ -274,7 +275,7 @@ void ShowForm(const Stage& stage)
     ShowScreens(stage);
     stage.Find<QLineEdit>(nameEdit)->clear();
     stage.Show(QStringLiteral("form without name"), stage.IsMarked(nameEdit));
-    stage.ClickInBox("scheduledCaptureSettingsBackButton", QMessageBox::No);
+    stage.ClickInBox(Desktop::PanelPart::BackButton, QMessageBox::No);
 }
 
 void ShowSaveProblems(const Stage& stage)
@@ -305,14 +306,14 @@ void ShowRefusedTasks(const Stage& stage)
     stage.Find<QLineEdit>(nameEdit)->setText(QStringLiteral("Task 1"));
     stage.Show(QStringLiteral("form with a name that is taken"), stage.IsMarked(nameEdit));
     stage.Find<QLineEdit>(nameEdit)->setText(LongTitle());
-    stage.Find<QDateTimeEdit>("scheduledCaptureSettingsDate")->setDate(QDate(2030, 3, 1));
+    stage.Find<QDateTimeEdit>(Desktop::PanelPart::DateField)->setDate(QDate(2030, 3, 1));
     auto* start = stage.Find<QTimeEdit>(startEdit);
     start->setTime(QTime(1, 10));
     stage.Show(QStringLiteral("form with a time that is taken"), stage.IsMarked(startEdit));
     start->setTime(QTime(20, 0));
     stage.Show(QStringLiteral("form without problem"), !stage.IsMarked(startEdit));
     stage.ShowBox(QStringLiteral("question about an unsaved task"), QMessageBox::Yes,
-                  [&] { stage.Click("scheduledCaptureSettingsBackButton"); });
+                  [&] { stage.Click(Desktop::PanelPart::BackButton); });
     stage.Show(QStringLiteral("long title"), stage.App().Titles().endsWith(LongTitle()));
 }
 
@@ -328,13 +329,13 @@ void ShowRecordingStart(const Stage& stage)
 
 void ShowSchedule(const Stage& stage)
 {
-    stage.Show(QStringLiteral("schedule"), stage.App().Find("infoRecordFrame")->isVisible());
+    stage.Show(QStringLiteral("schedule"), stage.App().Find(Desktop::PanelPart::Row)->isVisible());
     ShowRefusedTasks(stage);
     ShowRecordingStart(stage);
     stage.ShowBox(QStringLiteral("question about leaving the schedule"), QMessageBox::Cancel,
                   [&] { stage.Click(nothingButton); });
     stage.ShowBox(QStringLiteral("question about deleting"), QMessageBox::Ok,
-                  [&] { stage.Click("deleteToolButton"); });
+                  [&] { stage.Click(Desktop::PanelPart::RowDeleteButton); });
     stage.Show(QStringLiteral("deleted task"), !stage.App().StatusText().isEmpty());
     stage.ClickInBox(nothingButton, QMessageBox::Ok);
     stage.Show(QStringLiteral("deleted schedule"), stage.App().Titles().isEmpty());
@@ -342,7 +343,8 @@ void ShowSchedule(const Stage& stage)
 
 void ShowLongSchedule(const Stage& stage)
 {
-    stage.Show(QStringLiteral("long schedule"), stage.App().Find("infoRecordFrame")->isVisible());
+    stage.Show(QStringLiteral("long schedule"),
+               stage.App().Find(Desktop::PanelPart::Row)->isVisible());
 }
 
 } // namespace

@@ -14,6 +14,7 @@
 
 #include "Application/LookAndFeelManager.h"
 #include "MainWindow.h"
+#include "PanelParts.h"
 #include "Samples.h"
 #include "StoreIn.h"
 
@@ -58,11 +59,11 @@ public:
         return QTest::qWaitForWindowActive(window.get());
     }
 
-    template <typename T = QWidget> T* Find(const char* objectName) const
+    template <typename T = QWidget> T* Find(const QString& objectName) const
     {
-        return window->findChild<T*>(QLatin1String(objectName));
+        return window->findChild<T*>(objectName);
     }
-    QAbstractButton* Button(const char* objectName) const
+    QAbstractButton* Button(const QString& objectName) const
     {
         return Find<QAbstractButton>(objectName);
     }
@@ -80,7 +81,7 @@ public:
         }
     }
 
-    void Focus(const char* objectName) const { Find(objectName)->setFocus(Qt::TabFocusReason); }
+    void Focus(const QString& objectName) const { Find(objectName)->setFocus(Qt::TabFocusReason); }
     /// The name of what has the focus, or what it is called for screen readers when it is one of
     /// several of that name.
     QString Focused() const
@@ -89,12 +90,12 @@ public:
         if (focused == nullptr) {
             return QStringLiteral("nothing");
         }
-        return focused->objectName() == QLatin1String("deleteToolButton")
+        return focused->objectName() == Desktop::PanelPart::RowDeleteButton
             ? focused->accessibleName()
             : focused->objectName();
     }
 
-    bool IsFormOpen() const { return Find("createRecordTaskWidget")->isVisible(); }
+    bool IsFormOpen() const { return Find(Desktop::PanelPart::Form)->isVisible(); }
     QString StatusText() const { return window->findChild<QStatusBar*>()->currentMessage(); }
     QListWidget* PageList() const { return Find<QListWidget>("pageList"); }
 

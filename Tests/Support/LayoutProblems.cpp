@@ -1,4 +1,5 @@
 #include "LayoutProblems.h"
+#include "PanelParts.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
@@ -80,7 +81,7 @@ QSize NeededBy(const QLabel& label, int width)
 /// Whether \a label may shorten its text, which is the user's, and tells the whole in its tip.
 bool IsShortenedWithTip(const QLabel& label)
 {
-    const QStringList shortened{QStringLiteral("titleLabel"), QStringLiteral("saveProblemLabel")};
+    const QStringList shortened{Desktop::PanelPart::RowTitle, QStringLiteral("saveProblemLabel")};
     return shortened.contains(label.objectName()) && label.inherits("Zentor::ZLabel")
         && !label.toolTip().isEmpty();
 }

@@ -10,6 +10,7 @@
 #include <QTimeEdit>
 
 #include "CreateRecordTaskWidget.h"
+#include "PanelParts.h"
 #include "RecordSchedulerWidget.h"
 #include "Samples.h"
 #include "ScheduleRecordTableWidget.h"
@@ -33,26 +34,29 @@ struct Panel {
         widget->SetSettingsWatcher(watcher);
     }
 
-    template <typename Widget> Widget* Find(const char* name) const
+    template <typename Widget> Widget* Find(const QString& name) const
     {
-        return widget->findChild<Widget*>(QString::fromLatin1(name));
+        return widget->findChild<Widget*>(name);
     }
 
-    QRadioButton* None() const { return Find<QRadioButton>("disableScheduledCaptureRadioButton"); }
+    QRadioButton* None() const { return Find<QRadioButton>(Desktop::PanelPart::OffModeButton); }
     QRadioButton* Limited() const
     {
-        return Find<QRadioButton>("limitedCaptureDurationRadioButton");
+        return Find<QRadioButton>(Desktop::PanelPart::LimitedModeButton);
     }
-    QRadioButton* Scheduled() const { return Find<QRadioButton>("scheduledCaptureRadioButton"); }
-    QWidget* LimitedValues() const { return Find<QWidget>("limitedCaptureDurationSettingsFrame"); }
-    QStackedWidget* Stack() const { return Find<QStackedWidget>("scheduledCaptureStackedWidget"); }
+    QRadioButton* Scheduled() const
+    {
+        return Find<QRadioButton>(Desktop::PanelPart::ScheduledModeButton);
+    }
+    QWidget* LimitedValues() const { return Find<QWidget>(Desktop::PanelPart::LimitedSettings); }
+    QStackedWidget* Stack() const { return Find<QStackedWidget>(Desktop::PanelPart::Stack); }
     QTimeEdit* Duration() const
     {
-        return Find<QTimeEdit>("limitedCaptureDurationSettingsCaptureDuration");
+        return Find<QTimeEdit>(Desktop::PanelPart::LimitedDurationField);
     }
     QComboBox* FinishAction() const
     {
-        return Find<QComboBox>("limitedCaptureDurationSettingsActionOnFinishBox");
+        return Find<QComboBox>(Desktop::PanelPart::LimitedActionBox);
     }
     ScheduleRecordTableWidget* Table() const
     {
@@ -61,22 +65,16 @@ struct Panel {
 
     CreateRecordTaskWidget* Form() const
     {
-        return Find<CreateRecordTaskWidget>("createRecordTaskWidget");
+        return Find<CreateRecordTaskWidget>(Desktop::PanelPart::Form);
     }
     bool IsFormOpen() const { return Stack()->currentWidget() == Form(); }
-    QPushButton* Add() const
-    {
-        return Find<QPushButton>("scheduledCaptureSettingsAddRecordButton");
-    }
-    QPushButton* Create() const
-    {
-        return Find<QPushButton>("scheduledCaptureSettingsCreateButton");
-    }
-    QPushButton* Back() const { return Find<QPushButton>("scheduledCaptureSettingsBackButton"); }
-    QLineEdit* Name() const { return Find<QLineEdit>("scheduledCaptureSettingsNameLineEdit"); }
-    QDateTimeEdit* Date() const { return Find<QDateTimeEdit>("scheduledCaptureSettingsDate"); }
-    QTimeEdit* StartTime() const { return Find<QTimeEdit>("scheduledCaptureSettingsStartTime"); }
-    QTimeEdit* FormDuration() const { return Find<QTimeEdit>("scheduledCaptureSettingsDuration"); }
+    QPushButton* Add() const { return Find<QPushButton>(Desktop::PanelPart::AddButton); }
+    QPushButton* Create() const { return Find<QPushButton>(Desktop::PanelPart::CreateButton); }
+    QPushButton* Back() const { return Find<QPushButton>(Desktop::PanelPart::BackButton); }
+    QLineEdit* Name() const { return Find<QLineEdit>(Desktop::PanelPart::NameField); }
+    QDateTimeEdit* Date() const { return Find<QDateTimeEdit>(Desktop::PanelPart::DateField); }
+    QTimeEdit* StartTime() const { return Find<QTimeEdit>(Desktop::PanelPart::StartField); }
+    QTimeEdit* FormDuration() const { return Find<QTimeEdit>(Desktop::PanelPart::DurationField); }
 
     /// Opens the form and fills it with a task on 1 March 2030 that starts at \a start.
     void FillForm(const QString& name, const QTime& start,
@@ -118,7 +116,7 @@ struct Panel {
     /// The styles of the limited and the scheduled row, as in "Active/Inactive"; "-" for none.
     QString Styles() const
     {
-        const auto style = [&](const char* name) {
+        const auto style = [&](const QString& name) {
             const auto value = Find<QWidget>(name)->property("SubStyle");
             return value.isValid() ? value.toString() : QStringLiteral("-");
         };

@@ -11,6 +11,7 @@
 #include <QtTest>
 
 #include "CreateRecordTaskWidget.h"
+#include "PanelParts.h"
 #include "StandIns.h"
 
 namespace Zentor::Tests {
@@ -35,40 +36,31 @@ struct TaskForm {
         return QTest::qWaitForWindowActive(window.get());
     }
 
-    template <typename Child = QWidget> Child* Find(const char* name) const
+    template <typename Child = QWidget> Child* Find(const QString& name) const
     {
-        return widget->findChild<Child*>(QString::fromLatin1(name));
+        return widget->findChild<Child*>(name);
     }
 
-    QLineEdit* Name() const { return Find<QLineEdit>("scheduledCaptureSettingsNameLineEdit"); }
-    QDateTimeEdit* Date() const { return Find<QDateTimeEdit>("scheduledCaptureSettingsDate"); }
-    QTimeEdit* Start() const { return Find<QTimeEdit>("scheduledCaptureSettingsStartTime"); }
-    QTimeEdit* Duration() const { return Find<QTimeEdit>("scheduledCaptureSettingsDuration"); }
+    QLineEdit* Name() const { return Find<QLineEdit>(Desktop::PanelPart::NameField); }
+    QDateTimeEdit* Date() const { return Find<QDateTimeEdit>(Desktop::PanelPart::DateField); }
+    QTimeEdit* Start() const { return Find<QTimeEdit>(Desktop::PanelPart::StartField); }
+    QTimeEdit* Duration() const { return Find<QTimeEdit>(Desktop::PanelPart::DurationField); }
     QRadioButton* SelectedArea() const
     {
-        return Find<QRadioButton>("scheduledCaptureSettingsSelectedAreaButton");
+        return Find<QRadioButton>(Desktop::PanelPart::SelectedAreaButton);
     }
     QPushButton* Info() const
     {
-        return Find<QPushButton>("scheduledCaptureSettingsSelectedAreaInfoButton");
+        return Find<QPushButton>(Desktop::PanelPart::SelectedAreaInfoButton);
     }
     QRadioButton* FullScreen() const
     {
-        return Find<QRadioButton>("scheduledCaptureSettingsFullScreenAreaButton");
+        return Find<QRadioButton>(Desktop::PanelPart::FullScreenButton);
     }
-    QComboBox* Screens() const
-    {
-        return Find<QComboBox>("scheduledCaptureSettingsScreenSelectBox");
-    }
-    QComboBox* FinishAction() const
-    {
-        return Find<QComboBox>("scheduledCaptureSettingsActionOnFinishBox");
-    }
-    QPushButton* Create() const
-    {
-        return Find<QPushButton>("scheduledCaptureSettingsCreateButton");
-    }
-    QPushButton* Back() const { return Find<QPushButton>("scheduledCaptureSettingsBackButton"); }
+    QComboBox* Screens() const { return Find<QComboBox>(Desktop::PanelPart::ScreenBox); }
+    QComboBox* FinishAction() const { return Find<QComboBox>(Desktop::PanelPart::ActionBox); }
+    QPushButton* Create() const { return Find<QPushButton>(Desktop::PanelPart::CreateButton); }
+    QPushButton* Back() const { return Find<QPushButton>(Desktop::PanelPart::BackButton); }
     QTimer* Timer() const
     {
         return widget->findChild<QTimer*>(QString(), Qt::FindDirectChildrenOnly);

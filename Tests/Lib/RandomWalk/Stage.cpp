@@ -1,4 +1,5 @@
 #include "Stage.h"
+#include "PanelParts.h"
 
 #include <QLabel>
 #include <QLayout>
@@ -14,15 +15,14 @@ using PX::Scheduler::UI::CreateRecordTaskWidget;
 using PX::Scheduler::UI::RecordSchedulerWidget;
 using PX::Scheduler::UI::ScheduleRecordTableWidget;
 
-template <typename Part> Part* Find(const QWidget& panel, const char* name)
+template <typename Part> Part* Find(const QWidget& panel, const QString& name)
 {
-    return panel.findChild<Part*>(QString::fromLatin1(name));
+    return panel.findChild<Part*>(name);
 }
 
-template <typename Part> Part* FindEntry(const QWidget& panel, const char* name)
+template <typename Part> Part* FindEntry(const QWidget& panel, const QString& name)
 {
-    return panel.findChild<Part*>(QLatin1String("scheduledCaptureSettings")
-                                  + QString::fromLatin1(name));
+    return panel.findChild<Part*>(QLatin1String("scheduledCaptureSettings") + name);
 }
 
 QLatin1String YesNo(bool value)
@@ -65,18 +65,18 @@ QString Storage::Text() const
 }
 
 Parts::Parts(const QWidget& panel)
-    : modes{Find<QRadioButton>(panel, "disableScheduledCaptureRadioButton"),
-            Find<QRadioButton>(panel, "limitedCaptureDurationRadioButton"),
-            Find<QRadioButton>(panel, "scheduledCaptureRadioButton")}
+    : modes{Find<QRadioButton>(panel, Desktop::PanelPart::OffModeButton),
+            Find<QRadioButton>(panel, Desktop::PanelPart::LimitedModeButton),
+            Find<QRadioButton>(panel, Desktop::PanelPart::ScheduledModeButton)}
     , captions{Find<QWidget>(panel, "disableScheduledCaptureLabel"),
                Find<QWidget>(panel, "limitedCaptureDurationLabel"),
                Find<QWidget>(panel, "scheduledCaptureLabel")}
     , limitedFrame(Find<QWidget>(panel, "limitedCaptureDurationRadioButtonFrame"))
     , scheduledFrame(Find<QWidget>(panel, "scheduledCaptureRadioButtonFrame"))
-    , limitedValues(Find<QWidget>(panel, "limitedCaptureDurationSettingsFrame"))
-    , limitedDuration(Find<QTimeEdit>(panel, "limitedCaptureDurationSettingsCaptureDuration"))
-    , limitedAction(Find<QComboBox>(panel, "limitedCaptureDurationSettingsActionOnFinishBox"))
-    , stack(Find<QStackedWidget>(panel, "scheduledCaptureStackedWidget"))
+    , limitedValues(Find<QWidget>(panel, Desktop::PanelPart::LimitedSettings))
+    , limitedDuration(Find<QTimeEdit>(panel, Desktop::PanelPart::LimitedDurationField))
+    , limitedAction(Find<QComboBox>(panel, Desktop::PanelPart::LimitedActionBox))
+    , stack(Find<QStackedWidget>(panel, Desktop::PanelPart::Stack))
     , table(panel.findChild<ScheduleRecordTableWidget*>())
     , tableFrame(table->findChild<QScrollArea*>()->widget())
     , add(FindEntry<QPushButton>(panel, "AddRecordButton"))
@@ -192,12 +192,13 @@ QString Stage::Rows() const
         if (row == nullptr || row->isHidden()) {
             continue;
         }
-        if (row->objectName() == QLatin1String("stubInfoRecordFrame")) {
+        if (row->objectName() == Desktop::PanelPart::PlaceholderRow) {
             rows << QStringLiteral("placeholder");
             continue;
         }
         QStringList texts;
-        for (const char* name : {"titleLabel", "dateLabel", "timeLabel", "durationLabel"}) {
+        for (const QString& name : {Desktop::PanelPart::RowTitle, Desktop::PanelPart::RowDate,
+                                    Desktop::PanelPart::RowTime, Desktop::PanelPart::RowDuration}) {
             texts << Find<ZLabel>(*row, name)->originalText();
         }
         rows << texts.join('|');
