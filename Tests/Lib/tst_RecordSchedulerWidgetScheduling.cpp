@@ -7,7 +7,6 @@
 #include <glog/logging.h>
 
 #include "Boxes.h"
-#include "CpuTimer.h"
 #include "Panel.h"
 #include "PanelParts.h"
 #include "WidgetTest.h"
@@ -541,33 +540,6 @@ private Q_SLOTS:
         QVERIFY(box.Came());
         QTEST(TheDisk().queriedPaths.size(), "queryCount");
         QCOMPARE(panel.IsFormOpen(), answer != QMessageBox::Yes);
-    }
-
-    void validatesQuicklyAmongAThousandTasks()
-    {
-        Panel panel;
-        QStringList titles;
-        for (int i = 0; i < 1000; ++i) {
-            titles << QStringLiteral("Lecture %1").arg(i);
-        }
-        panel.RestoreScheduled(titles);
-        panel.window->show();
-        panel.Add()->click();
-        constexpr int roundCount = 20;
-        constexpr int keyCount = 10;
-        // What else the machine does takes the caches away from a round; the fastest one counts.
-        double perKey = std::numeric_limits<double>::max();
-        for (int round = 0; round < roundCount; ++round) {
-            const CpuTimer timer;
-            for (int i = 0; i < keyCount; ++i) {
-                QTest::keyClick(panel.Name(), i % 2 == 0 ? Qt::Key_X : Qt::Key_Backspace);
-            }
-            perKey = std::min(perKey, timer.Milliseconds() / keyCount);
-        }
-        qInfo("%.3f ms a key", perKey);
-#ifdef NDEBUG
-        QVERIFY(perKey < 1);
-#endif
     }
 };
 
