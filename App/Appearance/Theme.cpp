@@ -124,6 +124,8 @@ void ApplyTheme(Theme theme)
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     }
     QApplication::setPalette(PaletteOf(theme));
+    // Qt applies a sheet that replaces another to each widget once for each of its ancestors.
+    qApp->setStyleSheet(QString());
     qApp->setStyleSheet(StyleSheetOf(theme));
     QApplication::setWindowIcon(ThemedIcon(QStringLiteral("px-scheduler")));
 }

@@ -35,8 +35,6 @@ SchedulePage::SchedulePage(std::shared_ptr<PX::SettingsStore> store,
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSizeConstraint(QLayout::SetMinAndMaxSize);
     CreatePanel();
-    AssistPanel();
-    RetranslatePanel();
 }
 
 SchedulePage::~SchedulePage()
@@ -70,12 +68,18 @@ void SchedulePage::CreatePanel()
         std::make_shared<PX::StoredCaptureFinishActionSettings>(m_store));
     m_panel->SetPathSettings(std::make_shared<PX::StoredPathsSettings>(m_store));
     m_panel->SetSettingsWatcher(std::make_shared<PX::StoringSettingsWatcher>(m_store));
-    m_panel->RestoreSettings();
     StyleComboBoxLists(*m_panel);
     connect(m_panel, &RecordSchedulerWidget::OpenFilesSettingsRequested, this,
             &SchedulePage::FilesRequested);
     m_parts = std::make_unique<PanelParts>(*m_panel);
     layout()->addWidget(m_panel);
+}
+
+void SchedulePage::Restore()
+{
+    m_panel->RestoreSettings();
+    AssistPanel();
+    RetranslatePanel();
 }
 
 void SchedulePage::AssistPanel()
@@ -94,28 +98,36 @@ void SchedulePage::RebuildPanel()
 {
     // While a panel is restored it stores the schedule anew, task by task. That is no news.
     delete m_announcer;
-    const std::unique_ptr<QWidget> before(m_panel);
+    delete m_panel;
     CreatePanel();
     // Now: the layout would show it only later.
     m_panel->show();
-    AssistPanel();
-    RetranslatePanel();
+    Restore();
     OrderTabs();
 }
 
 void SchedulePage::OrderTabs()
 {
-    QList<QWidget*> stops;
-    for (QWidget* widget = m_panel->nextInFocusChain(); m_panel->isAncestorOf(widget);
+    const auto isStop = [](const QWidget* widget) {
+        return widget->focusPolicy() != Qt::NoFocus && widget->focusProxy() == nullptr;
+    };
+    // A new panel is the last in the chain, its stops in order. The few that belong behind it are
+    // moved, not the many of its tasks.
+    QList<QWidget*> followers;
+    QWidget* widget = m_tabPredecessor->nextInFocusChain();
+    for (; !m_panel->isAncestorOf(widget) && widget != m_tabPredecessor;
          widget = widget->nextInFocusChain()) {
-        if (widget->focusPolicy() != Qt::NoFocus && widget->focusProxy() == nullptr) {
-            stops << widget;
+        if (isStop(widget)) {
+            followers << widget;
         }
     }
-    QWidget* previous = m_tabPredecessor;
-    for (QWidget* stop : qAsConst(stops)) {
-        setTabOrder(previous, stop);
-        previous = stop;
+    QWidget* last = nullptr;
+    for (; m_panel->isAncestorOf(widget); widget = widget->nextInFocusChain()) {
+        last = isStop(widget) ? widget : last;
+    }
+    for (QWidget* follower : qAsConst(followers)) {
+        setTabOrder(last, follower);
+        last = follower;
     }
 }
 

@@ -39,6 +39,10 @@ public:
     /// The Id() of this page.
     static QString PageId();
 
+    /// Fills the panel from the settings. Call it once, when the page has its place in a window: a
+    /// row that is moved to another parent is polished anew.
+    void Restore();
+
     QString Title() const override;
     QString Description() const override;
 
@@ -47,7 +51,7 @@ public:
     bool FinishInput() override;
     void FocusInput() override;
 
-    /// Places a new panel behind \a widget in the tab order.
+    /// Places a new panel behind \a widget, which must outlive the page, in the tab order.
     void SetTabPredecessor(QWidget* widget) { m_tabPredecessor = widget; }
 
     /// Whether a recording may start. The panel asks the user where it has to; the page may be
@@ -78,7 +82,7 @@ private:
     PX::Scheduler::UI::RecordSchedulerWidget* m_panel = nullptr;
     std::unique_ptr<PanelParts> m_parts;
     QPointer<PanelAnnouncer> m_announcer;
-    QPointer<QWidget> m_tabPredecessor;
+    QWidget* m_tabPredecessor = nullptr;
 };
 
 } // namespace Zentor::Desktop

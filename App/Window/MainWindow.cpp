@@ -45,6 +45,7 @@ MainWindow::MainWindow(std::shared_ptr<PX::SettingsStore> store,
 {
     setObjectName(QStringLiteral("mainWindow"));
     BuildWidgets(lookAndFeel);
+    m_schedulePage->Restore();
     Connect();
     ConnectPages();
     Retranslate();
