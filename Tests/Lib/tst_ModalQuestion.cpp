@@ -100,8 +100,9 @@ private Q_SLOTS:
         auto again = QMessageBox::NoButton;
         bool wasOpen = false;
         const ExpectedBox box([&](QMessageBox& open) {
+            const ExpectedBox second(QMessageBox::No);
             again = scene.asker->Ask(scene.asker->question);
-            // The second box has never been on screen, and the first one still is.
+            QVERIFY(!second.Came());
             QVERIFY(scene.asker->box.isNull());
             QCOMPARE(QApplication::activeModalWidget(), &open);
             wasOpen = scene.asker->question.IsOpen();
@@ -156,6 +157,7 @@ private Q_SLOTS:
         QFETCH(bool, isAccepted);
         Scene scene;
         QPointer<QMessageBox> asked;
+        bool wasClosed = false;
         const ExpectedBox box([&](QMessageBox& open) {
             asked = &open;
             if (isAccepted) {
@@ -166,9 +168,11 @@ private Q_SLOTS:
             } else {
                 scene.window.reset();
             }
+            wasClosed = asked.isNull() || asked->isHidden();
         });
         QCOMPARE(scene.asker->Ask(scene.asker->question), QMessageBox::Cancel);
         QVERIFY(box.Came());
+        QVERIFY(wasClosed);
         QVERIFY(scene.asker.isNull());
         QVERIFY(asked.isNull());
         QVERIFY(!IsBoxOpen());

@@ -52,7 +52,10 @@ void ExpectedBox::Look()
     m_came = true;
     // A box that an action left open would stop the tests for good.
     constexpr std::chrono::seconds patience(30);
-    QTimer::singleShot(patience, box, &QDialog::reject);
+    QTimer::singleShot(patience, box, [box] {
+        box->reject();
+        QFAIL("nobody has answered the box");
+    });
     m_action(*box);
 }
 
