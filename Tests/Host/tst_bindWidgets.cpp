@@ -111,6 +111,8 @@ private Q_SLOTS:
         delete window.button;
         QTest::mouseClick(window.label, Qt::LeftButton);
         window.label->setOriginalText(QStringLiteral("alone"));
+        QCOMPARE(window.label->text(), QStringLiteral("alone"));
+        QVERIFY(!window.other->isChecked());
     }
 
     void allMayGoInsideTheClick()

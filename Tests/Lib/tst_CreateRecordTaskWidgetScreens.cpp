@@ -230,7 +230,11 @@ private Q_SLOTS:
     {
         TaskForm form;
         form.window.reset();
-        Unplug(Plug("DP-1"));
+        const QStringList before = ScreensOfTheApplication();
+        FakeScreen* second = Plug("DP-1");
+        QCOMPARE(ScreensOfTheApplication(), before + QStringList("DP-1"));
+        Unplug(second);
+        QCOMPARE(ScreensOfTheApplication(), before);
     }
 };
 

@@ -164,8 +164,6 @@ private Q_SLOTS:
 
     void keepsAScheduleFromDayToDay()
     {
-        // Qt asks for the place of a window whose frame the window manager has just taken away.
-        AllowWarning(QStringLiteral("XCB error: 3 \\(BadWindow\\).*\\(TranslateCoords\\)"));
         const FakeClock clock(QDateTime(QDate(2030, 3, 1), QTime(9, 0)));
         const QTemporaryDir folder;
         const QString file = folder.filePath(QStringLiteral("settings.json"));

@@ -22,13 +22,13 @@ Warnings& CurrentWarnings()
     return warnings;
 }
 
-/// Whether it is what the platform says of itself: that it is offscreen, or that a window was gone
-/// when the X server answered.
+/// Whether it is what the platform says of itself: what it lacks offscreen, or that it asked for
+/// the place of a window whose frame the window manager had just taken away.
 bool IsOfPlatform(const QString& message)
 {
     static const QRegularExpression ofPlatform(
         QStringLiteral("^This plugin does not support (propagateSizeHints|raise)\\(\\)"
-                       "|^QXcbConnection: XCB error: 3 \\(BadWindow\\)"));
+                       "|^QXcbConnection: XCB error: 3 \\(BadWindow\\).*\\(TranslateCoords\\)"));
     return ofPlatform.match(message).hasMatch();
 }
 
