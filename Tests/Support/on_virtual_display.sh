@@ -16,10 +16,11 @@ for command in xvfb-run xauth openbox xdotool; do
     fi
 done
 
+# Of the usual resolution, which is also that of the screens that tests add.
 # The program begins when the window manager answers.
 # shellcheck disable=SC2016
 QT_QPA_PLATFORM=xcb SCHEDULER_TEST_PLATFORM=xcb \
-    exec xvfb-run --auto-servernum --server-args="-screen 0 1280x1024x24" \
+    exec xvfb-run --auto-servernum --server-args="-screen 0 1280x1024x24 -dpi 96" \
     bash -c '
         openbox 2>/dev/null &
         for ((attempt = 0; attempt < 100; ++attempt)); do
