@@ -26,6 +26,9 @@ public:
     /// What the page is for, in a sentence.
     virtual QString Description() const = 0;
 
+    /// Sets the height in pixels that the page can take without being scrolled.
+    virtual void SetRoom(int /*height*/) { }
+
     /// Stores what has been entered and is stored only later otherwise.
     virtual void Apply() { }
 

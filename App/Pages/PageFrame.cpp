@@ -115,6 +115,7 @@ void PageFrame::Retranslate()
     m_description->setText(m_page->Description());
     setAccessibleName(m_page->Title());
     setAccessibleDescription(m_page->Description());
+    FitPage();
 }
 
 void PageFrame::resizeEvent(QResizeEvent* event)
@@ -124,6 +125,13 @@ void PageFrame::resizeEvent(QResizeEvent* event)
     // wider or longer than the view does not move what is above it.
     const int barWidth = verticalScrollBar()->sizeHint().width();
     m_head->setMaximumWidth(qMax(0, maximumViewportSize().width() - barWidth - 2 * Margin));
+    FitPage();
+}
+
+void PageFrame::FitPage()
+{
+    const int headHeight = m_head->heightForWidth(m_head->maximumWidth());
+    m_page->SetRoom(maximumViewportSize().height() - headHeight - Gap - 2 * Margin);
 }
 
 } // namespace Zentor::Desktop

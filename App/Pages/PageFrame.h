@@ -28,6 +28,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void FitPage();
+
     Page* m_page;
     QWidget* m_head = nullptr;
     QLabel* m_title = nullptr;

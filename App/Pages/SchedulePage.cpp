@@ -14,6 +14,7 @@
 #include "Controls.h"
 #include "PanelAnnouncer.h"
 #include "PanelFormKeys.h"
+#include "PanelListHeight.h"
 #include "PanelListKeys.h"
 #include "PanelMouse.h"
 #include "PXUserSettings/StoredSettings.h"
@@ -72,6 +73,8 @@ void SchedulePage::CreatePanel()
     connect(m_panel, &RecordSchedulerWidget::OpenFilesSettingsRequested, this,
             &SchedulePage::FilesRequested);
     m_parts = std::make_unique<PanelParts>(*m_panel);
+    m_listHeight = new PanelListHeight(m_panel);
+    m_listHeight->SetPanelHeight(m_room);
     layout()->addWidget(m_panel);
 }
 
@@ -150,6 +153,12 @@ void SchedulePage::ColorCalendar()
         calendar->setWeekdayTextFormat(
             weekday, workdays.contains(weekday) ? QTextCharFormat() : weekendFormat);
     }
+}
+
+void SchedulePage::SetRoom(int height)
+{
+    m_room = height;
+    m_listHeight->SetPanelHeight(height);
 }
 
 bool SchedulePage::ValidateSettings()

@@ -22,6 +22,8 @@ class RecordSchedulerWidget;
 
 namespace Zentor::Desktop {
 
+class PanelListHeight;
+
 /// The page "Schedule": the scheduler panel on the settings of the application, with what it lacks
 /// for the keyboard, the mouse and screen readers.
 ///
@@ -45,6 +47,9 @@ public:
 
     QString Title() const override;
     QString Description() const override;
+
+    /// Gives the list the height that is left.
+    void SetRoom(int height) override;
 
     /// Whether the task form is on screen.
     bool HasUnfinishedInput() const override;
@@ -82,6 +87,8 @@ private:
     PX::Scheduler::UI::RecordSchedulerWidget* m_panel = nullptr;
     std::unique_ptr<PanelParts> m_parts;
     QPointer<PanelAnnouncer> m_announcer;
+    PanelListHeight* m_listHeight = nullptr;
+    int m_room = 0;
     QWidget* m_tabPredecessor = nullptr;
 };
 

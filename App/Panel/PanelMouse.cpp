@@ -1,8 +1,11 @@
 #include "PanelMouse.h"
 
+#include <QCoreApplication>
 #include <QDateTimeEdit>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include "CalendarArrow.h"
 
@@ -14,6 +17,8 @@ PanelMouse::PanelMouse(QWidget* panel)
 {
     m_parts.dateField->installEventFilter(this);
     m_parts.addButton->installEventFilter(this);
+    // Before the panel's own filter: the last one installed comes first.
+    m_parts.list->viewport()->installEventFilter(this);
 }
 
 PanelMouse::~PanelMouse() = default;
@@ -24,6 +29,13 @@ bool PanelMouse::eventFilter(QObject* watched, QEvent* event)
     if (watched == m_parts.addButton) {
         return isSecondPress;
     }
+    if (watched != m_parts.dateField) {
+        const bool isWheel = event->type() == QEvent::Wheel;
+        if (isWheel) {
+            Scroll(event);
+        }
+        return isWheel;
+    }
     if (event->type() != QEvent::MouseButtonPress && !isSecondPress) {
         return false;
     }
@@ -33,6 +45,19 @@ bool PanelMouse::eventFilter(QObject* watched, QEvent* event)
     }
     m_parts.dateField->setFocus(Qt::MouseFocusReason);
     return true;
+}
+
+void PanelMouse::Scroll(QEvent* wheel) const
+{
+    QWidget* widget = m_parts.list;
+    for (; widget != nullptr; widget = widget->parentWidget()) {
+        const auto* area = qobject_cast<QAbstractScrollArea*>(widget);
+        QScrollBar* bar = area != nullptr ? area->verticalScrollBar() : nullptr;
+        if (bar != nullptr && bar->minimum() < bar->maximum()) {
+            QCoreApplication::sendEvent(bar, wheel);
+            return;
+        }
+    }
 }
 
 } // namespace Zentor::Desktop

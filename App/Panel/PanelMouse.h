@@ -10,7 +10,8 @@ namespace Zentor::Desktop {
 ///
 /// A click on the frame of the date field gives it the focus and does not change the date. The
 /// second click of a double click on "Create", which hits the button that adds a task and has come
-/// up below the mouse, does not open the form anew.
+/// up below the mouse, does not open the form anew. The wheel scrolls the list, or what the panel
+/// is in where the list has nothing to scroll; the panel by itself drops it.
 class PanelMouse : public QObject {
     Q_OBJECT
 
@@ -22,6 +23,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Scroll(QEvent* wheel) const;
+
     const PanelParts m_parts;
 };
 

@@ -93,8 +93,10 @@ private Q_SLOTS:
     void initTestCase()
     {
         Desktop::RegisterResources();
-        constexpr int few = 20;
-        constexpr int many = 60;
+        // Both more than fit into the window, also while no sheet makes the rows as high as they
+        // are.
+        constexpr int few = 60;
+        constexpr int many = 160;
         const Polishes ofFew = Count(few);
         const Polishes ofMany = Count(many);
         const auto perTask = [](int less, int more) {

@@ -1,5 +1,8 @@
 #include <QDateTimeEdit>
 #include <QMouseEvent>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QWheelEvent>
 
 #include "AppWindow.h"
 #include "PanelParts.h"
@@ -74,6 +77,39 @@ private Q_SLOTS:
         QCOMPARE(app.store->Settings().schedule.size(), 2U);
         QTest::mouseClick(add, Qt::LeftButton);
         QVERIFY(app.IsFormOpen());
+    }
+
+    void scrollsTheListByTheWheel()
+    {
+        const AppWindow app(20);
+        QVERIFY(app.Show());
+        auto* list = app.Find<QScrollArea>(Desktop::PanelPart::List);
+        QTRY_VERIFY(list->verticalScrollBar()->maximum() > 0);
+        Wheel(list->viewport(), -120);
+        QVERIFY(list->verticalScrollBar()->value() > 0);
+        Wheel(list->viewport(), 120);
+        QCOMPARE(list->verticalScrollBar()->value(), 0);
+    }
+
+    void scrollsThePageWhereTheListHasNothingToScroll()
+    {
+        const AppWindow app(1);
+        QVERIFY(app.Show());
+        app.window->resize(640, 320);
+        const auto* page = app.SchedulePageArea();
+        QTRY_VERIFY(page->verticalScrollBar()->maximum() > 0);
+        Wheel(app.Find<QScrollArea>(Desktop::PanelPart::List)->viewport(), -120);
+        QVERIFY(page->verticalScrollBar()->value() > 0);
+    }
+
+private:
+    /// Turns the wheel over \a widget by \a delta eighths of a degree.
+    static void Wheel(QWidget* widget, int delta)
+    {
+        const QPoint center = widget->rect().center();
+        QWheelEvent event(center, widget->mapToGlobal(center), {}, {0, delta}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(widget, &event);
     }
 };
 

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QListWidget>
 #include <QLocale>
+#include <QScrollArea>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QtTest>
@@ -97,6 +98,15 @@ public:
 
     bool IsFormOpen() const { return Find(Desktop::PanelPart::Form)->isVisible(); }
     QString StatusText() const { return window->findChild<QStatusBar*>()->currentMessage(); }
+    /// What scrolls the page with the panel.
+    QScrollArea* SchedulePageArea() const
+    {
+        QWidget* widget = Find("recordSchedulerWidget");
+        while (qobject_cast<QScrollArea*>(widget) == nullptr) {
+            widget = widget->parentWidget();
+        }
+        return static_cast<QScrollArea*>(widget);
+    }
     QListWidget* PageList() const { return Find<QListWidget>("pageList"); }
 
     /// The titles of the stored tasks, as in "Task 1,Task 2".
