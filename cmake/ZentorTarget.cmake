@@ -8,6 +8,7 @@
 
 function(zentor_target_defaults target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "ALLOW_ASCII" "" "")
+    set_property(GLOBAL APPEND PROPERTY ZENTOR_TARGETS ${target})
     set_target_properties(${target} PROPERTIES
         AUTOMOC OFF
         AUTOUIC OFF

@@ -16,7 +16,7 @@ packages_to_run=(
 # nobody sees, with what works a window on it; the accessibility bus; what checks the files that the
 # application installs.
 packages_to_test=(
-    clang-format-14 clang-tidy-14 git
+    clang-format-14 clang-tidy-14 git python3
     qtbase5-private-dev
     xvfb xauth xdotool openbox
     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils
