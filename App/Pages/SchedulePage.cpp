@@ -13,6 +13,7 @@
 #include "Application/SettingsManager.h"
 #include "Controls.h"
 #include "PanelAnnouncer.h"
+#include "PanelFormAssistant.h"
 #include "PanelFormKeys.h"
 #include "PanelListHeight.h"
 #include "PanelListKeys.h"
@@ -88,6 +89,7 @@ void SchedulePage::Restore()
 void SchedulePage::AssistPanel()
 {
     new PanelListKeys(m_panel);
+    new PanelFormAssistant(m_panel, m_store);
     new PanelFormKeys(m_panel);
     new RadioGroupTabStop(m_parts->modeGroup);
     new RadioGroupTabStop(m_parts->areaGroup);
