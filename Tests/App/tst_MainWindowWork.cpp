@@ -110,14 +110,14 @@ private Q_SLOTS:
 
     void opensAtThePriceOfThePanel()
     {
-        QCOMPARE(m_panelAlone, double(WidgetsPerTask));
-        QCOMPARE(m_open, double(WidgetsPerTask));
+        QCOMPARE(qRound(m_panelAlone), WidgetsPerTask);
+        QCOMPARE(qRound(m_open), WidgetsPerTask);
     }
 
     /// Once when the sheet before is cleared, once for the new one.
-    void changesTheThemeInTwoPasses() { QCOMPARE(m_theme, 2.0 * WidgetsPerTask); }
+    void changesTheThemeInTwoPasses() { QCOMPARE(qRound(m_theme), 2 * WidgetsPerTask); }
 
-    void changesTheLanguageInOnePass() { QCOMPARE(m_language, double(WidgetsPerTask)); }
+    void changesTheLanguageInOnePass() { QCOMPARE(qRound(m_language), WidgetsPerTask); }
 
 private:
     double m_panelAlone = 0;
