@@ -8,6 +8,8 @@
 
 #include <glog/logging.h>
 
+#include "PrivateFile.h"
+
 namespace Zentor::PX {
 namespace {
 
@@ -139,18 +141,18 @@ QString SettingsStore::Lock()
 /// Reads the file. Returns the reason of a failure, or nothing.
 QString SettingsStore::Load()
 {
-    QFile file(m_filePath);
-    if (!file.exists()) {
+    Util::FileVersion found;
+    QString failure = Util::ReadFile(m_filePath, found);
+    if (!failure.isEmpty()) {
+        return Text(QT_TRANSLATE_NOOP("SettingsStore", "The settings file %1 cannot be read: %2"),
+                    m_filePath, failure);
+    }
+    if (!found.exists) {
         return {};
     }
-    if (!file.open(QIODevice::ReadOnly)) {
-        return Text(QT_TRANSLATE_NOOP("SettingsStore", "The settings file %1 cannot be read: %2"),
-                    m_filePath, file.errorString());
-    }
-    const QByteArray content = file.readAll();
-    const SettingsDocument document = ParseSettings(content, m_sections);
+    const SettingsDocument document = ParseSettings(found.content, m_sections);
     if (!document.problems.isEmpty()) {
-        QString failure = KeepDamaged(content, document.problems);
+        failure = KeepDamaged(found.content, document.problems);
         if (!failure.isEmpty()) {
             return failure;
         }

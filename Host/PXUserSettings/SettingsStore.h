@@ -44,7 +44,8 @@ public:
     /// one line.
     ///
     /// Returns false, with the reason for the user in \a error, when the file can be neither read
-    /// nor created, when another store has it open, and when a damaged one cannot be kept.
+    /// nor created, when another store has it open, and when a damaged one cannot be kept. A file
+    /// that is there but cannot be read, or not to its end, is left as it is.
     bool Open(QString* error);
 
     const QString& FilePath() const { return m_filePath; }

@@ -10,6 +10,7 @@
 
 #include <glog/logging.h>
 
+#include "FaultyDisk.h"
 #include "PXUserSettings/SettingsFormat.h"
 #include "PXUserSettings/SettingsStore.h"
 #include "Samples.h"
@@ -99,6 +100,13 @@ public:
     QStringList DamagedFiles() const
     {
         return QDir(m_folder.path()).entryList({QStringLiteral("settings.json.damaged-*")});
+    }
+
+    /// The names of all that is in the folder.
+    QStringList Names() const
+    {
+        return QDir(m_folder.path())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     }
 
     /// Gives the folder and the file these permissions.
@@ -241,6 +249,8 @@ private:
 };
 
 } // namespace
+
+Q_DECLARE_METATYPE(Zentor::Tests::FaultyDisk::Fault)
 
 class tst_SettingsStore : public WidgetTest {
     Q_OBJECT
@@ -397,6 +407,40 @@ private Q_SLOTS:
         QVERIFY(user.IsOrdinary());
         const QString error = OpenError(place.Path());
         QVERIFY2(error.contains(place.Path()), qPrintable(error));
+    }
+
+    void failingDiskIsNoDamage_data()
+    {
+        QTest::addColumn<FaultyDisk::Fault>("fault");
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("error") << FaultyDisk::Fault::Read << QByteArray("{\"version\": 1}");
+        QTest::newRow("error in an empty file") << FaultyDisk::Fault::Read << QByteArray();
+        QTest::newRow("early end")
+            << FaultyDisk::Fault::ShortRead << QByteArray("{\"version\": 1}");
+    }
+
+    void failingDiskIsNoDamage()
+    {
+        QFETCH(FaultyDisk::Fault, fault);
+        QFETCH(QByteArray, content);
+        const Place place;
+        QVERIFY(place.Write(content));
+        {
+            const FaultyDisk disk(fault, "settings.json");
+            SettingsStore store(place.Path());
+            QString error;
+            QVERIFY(!store.Open(&error));
+            QVERIFY(disk.Failures() > 0);
+            QVERIFY2(error.contains(place.Path()), qPrintable(error));
+            const bool isError = fault == FaultyDisk::Fault::Read;
+            QCOMPARE(error.contains(QStringLiteral("Input/output error")), isError);
+            SetPage(store, QStringLiteral("x"));
+            QVERIFY(!store.Flush());
+            // The lock is free for others.
+            QCOMPARE(place.Names(), QStringList(QStringLiteral("settings.json")));
+        }
+        QCOMPARE(place.Read(), content);
+        QCOMPARE(place.Names(), QStringList(QStringLiteral("settings.json")));
     }
 
     void folderThatCannotBeWrittenTo()
