@@ -1,6 +1,7 @@
 #include "PrivateFile.h"
 
 #include <cerrno>
+#include <filesystem>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -49,6 +50,23 @@ bool ReadAll(int descriptor, QByteArray& content)
 }
 
 } // namespace
+
+QString RealPath(const QString& path)
+{
+    namespace fs = std::filesystem;
+    constexpr int MostLinks = 40; // as many as the kernel follows
+    std::error_code error;
+    // What is missing is taken by its name, so that a link to it is still a link.
+    fs::path real = fs::weakly_canonical(QFile::encodeName(path).toStdString(), error);
+    for (int links = 0; !error && fs::is_symlink(real); ++links) {
+        const fs::path target = fs::read_symlink(real, error);
+        if (error || links == MostLinks) {
+            return path;
+        }
+        real = fs::weakly_canonical(real.parent_path() / target, error);
+    }
+    return error ? path : QFile::decodeName(real.c_str());
+}
 
 QString ReadFile(const QString& path, FileVersion& found)
 {

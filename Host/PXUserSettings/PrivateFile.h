@@ -14,6 +14,10 @@ struct FileVersion {
     QByteArray content;
 };
 
+/// Where \a path leads, symbolic links of it and of its folders followed, whether or not there is
+/// anything; \a path where that cannot be told.
+QString RealPath(const QString& path);
+
 /// Reads \a path into \a found. That there is no such file is no failure.
 QString ReadFile(const QString& path, FileVersion& found);
 

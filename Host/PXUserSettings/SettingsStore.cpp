@@ -71,7 +71,6 @@ std::string Summary(const QStringList& problems)
 SettingsStore::SettingsStore(const QString& filePath, QObject* parent)
     : QObject(parent)
     , m_filePath(QFileInfo(filePath).absoluteFilePath())
-    , m_lock(m_filePath + QLatin1String(".lock"))
 {
     m_saveTimer.setSingleShot(true);
     m_retryTimer.setSingleShot(true);
@@ -99,7 +98,7 @@ bool SettingsStore::Open(QString* error)
     }
     m_isOpen = reason.isEmpty();
     if (!m_isOpen) {
-        m_lock.unlock();
+        m_lock.reset();
         *error = reason;
     }
     return m_isOpen;
@@ -108,8 +107,10 @@ bool SettingsStore::Open(QString* error)
 /// Takes the file for this store. Returns the reason of a failure, or nothing.
 QString SettingsStore::Lock()
 {
-    const QFileInfo file(m_filePath);
-    if (file.fileName().isEmpty() || (file.exists() && !file.isFile())) {
+    m_realPath = Util::RealPath(m_filePath);
+    m_lock = std::make_unique<QLockFile>(m_realPath + QLatin1String(".lock"));
+    const QFileInfo file(m_realPath);
+    if (QFileInfo(m_filePath).fileName().isEmpty() || (file.exists() && !file.isFile())) {
         return Text(QT_TRANSLATE_NOOP("SettingsStore", "The settings file %1 is not a file."),
                     m_filePath);
     }
@@ -119,10 +120,10 @@ QString SettingsStore::Lock()
                                       "missing and cannot be created either."),
                     m_filePath);
     }
-    if (m_lock.tryLock(0)) {
+    if (TryLock()) {
         return {};
     }
-    if (m_lock.error() == QLockFile::LockFailedError) {
+    if (m_lock->error() == QLockFile::LockFailedError) {
         return Text(QT_TRANSLATE_NOOP("SettingsStore",
                                       "The settings file %1 is in use by another process."),
                     m_filePath);
@@ -138,11 +139,16 @@ QString SettingsStore::Lock()
                 m_filePath);
 }
 
+bool SettingsStore::TryLock()
+{
+    return m_lock->tryLock(0);
+}
+
 /// Reads the file. Returns the reason of a failure, or nothing.
 QString SettingsStore::Load()
 {
     Util::FileVersion found;
-    QString failure = Util::ReadFile(m_filePath, found);
+    QString failure = Util::ReadFile(m_realPath, found);
     if (!failure.isEmpty()) {
         return Text(QT_TRANSLATE_NOOP("SettingsStore", "The settings file %1 cannot be read: %2"),
                     m_filePath, failure);
@@ -167,7 +173,7 @@ QString SettingsStore::Load()
 /// Writes what was found in a damaged file beside it. Returns the reason of a failure, or nothing.
 QString SettingsStore::KeepDamaged(const QByteArray& content, const QStringList& problems) const
 {
-    const QString keptPath = FreeDamagedPath(m_filePath);
+    const QString keptPath = FreeDamagedPath(m_realPath);
     const QString failure = ReplaceFile(keptPath, content);
     if (!failure.isEmpty()) {
         return Text(
@@ -224,10 +230,10 @@ bool SettingsStore::Flush()
 /// Replaces the file. Returns the reason of a failure, or nothing.
 QString SettingsStore::Write()
 {
-    if (!m_lock.isLocked() && !m_lock.tryLock(0)) {
+    if (!m_lock->isLocked() && !TryLock()) {
         return QCoreApplication::translate("SettingsStore", "its folder cannot be written to");
     }
-    return ReplaceFile(m_filePath, FormatSettings(m_settings, m_fields));
+    return ReplaceFile(m_realPath, FormatSettings(m_settings, m_fields));
 }
 
 } // namespace Zentor::PX

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include <QJsonObject>
@@ -20,7 +21,9 @@ namespace Zentor::PX {
 /// be saved stays in memory and is tried again with the next change, every few seconds, and at the
 /// end of the application.
 ///
-/// A second store, also one of another process, cannot open the file meanwhile.
+/// A second store, also one of another process, cannot open the file meanwhile. Symbolic links are
+/// followed: what counts is the file that they lead to, beside which its lock lies, and they stay
+/// links.
 class ZENTOR_HOST_API SettingsStore final : public QObject {
     Q_OBJECT
 
@@ -48,6 +51,7 @@ public:
     /// that is there but cannot be read, or not to its end, is left as it is.
     bool Open(QString* error);
 
+    /// The file as it was named, also where that is a link.
     const QString& FilePath() const { return m_filePath; }
 
     /// The settings as they are now, whether or not they have been saved.
@@ -74,12 +78,15 @@ Q_SIGNALS:
 
 private:
     QString Lock();
+    bool TryLock();
     QString Load();
     QString KeepDamaged(const QByteArray& content, const QStringList& problems) const;
     QString Write();
 
     const QString m_filePath;
-    QLockFile m_lock;
+    /// Where it leads.
+    QString m_realPath;
+    std::unique_ptr<QLockFile> m_lock;
     std::vector<SettingsSection> m_sections;
     UserSettings m_settings;
     /// What the file holds beside the settings that are known.

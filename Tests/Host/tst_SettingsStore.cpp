@@ -660,6 +660,94 @@ private Q_SLOTS:
         QCOMPARE(other.ReadLine(), QByteArray("refused"));
     }
 
+    void secondWriterByALinkIsRefused_data()
+    {
+        QTest::addColumn<QString>("target");
+        QTest::addColumn<QString>("link");
+        QTest::addColumn<QString>("second");
+        QTest::newRow("of the file") << "settings.json"
+                                     << "link.json"
+                                     << "link.json";
+        QTest::newRow("of the folder") << "."
+                                       << "link"
+                                       << "link/settings.json";
+        QTest::newRow("of no file yet") << "other/settings.json"
+                                        << "link.json"
+                                        << "link.json";
+    }
+
+    void secondWriterByALinkIsRefused()
+    {
+        QFETCH(QString, target);
+        QFETCH(QString, link);
+        QFETCH(QString, second);
+        const QTemporaryDir folder;
+        QVERIFY(QFile::link(target, folder.filePath(link)));
+        const bool isOther = target.startsWith(QLatin1String("other"));
+        const QString path = folder.filePath(isOther ? target : QStringLiteral("settings.json"));
+        for (const QString& first : {path, folder.filePath(second)}) {
+            SettingsStore store(first);
+            QVERIFY(Open(store));
+            QCOMPARE(store.FilePath(), first);
+            QVERIFY(QFile::exists(path + QStringLiteral(".lock")));
+            for (const QString& other : {path, folder.filePath(second)}) {
+                const QString error = OpenError(other);
+                QVERIFY2(error.contains(other), qPrintable(error));
+            }
+        }
+    }
+
+    void linkStaysALink_data()
+    {
+        QTest::addColumn<QString>("target");
+        QTest::addColumn<bool>("isThere");
+        QTest::newRow("to a file") << "real.json" << true;
+        QTest::newRow("to a file elsewhere") << "folder/real.json" << true;
+        QTest::newRow("to no file") << "real.json" << false;
+        QTest::newRow("into no folder") << "not/there/real.json" << false;
+        QTest::newRow("to a link") << "second.json" << false;
+        QTest::newRow("beside a folder's link") << "far/../real.json" << false;
+    }
+
+    void linkStaysALink()
+    {
+        QFETCH(QString, target);
+        QFETCH(bool, isThere);
+        const QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("folder/inner")));
+        QVERIFY(
+            QFile::link(QStringLiteral("folder/inner"), folder.filePath(QStringLiteral("far"))));
+        QVERIFY(QFile::link(QStringLiteral("third.json"),
+                            folder.filePath(QStringLiteral("second.json"))));
+        const QByteArray link = QFile::encodeName(folder.filePath(QStringLiteral("settings.json")));
+        QCOMPARE(symlink(qPrintable(target), link.constData()), 0);
+        QFile real(folder.filePath(target));
+        QVERIFY(!isThere || (real.open(QIODevice::WriteOnly) && real.write("{\"version\": 1}")));
+        real.close();
+
+        for (const char* page : {"first", "second"}) {
+            SettingsStore store(QFile::decodeName(link));
+            QVERIFY(Open(store));
+            SetPage(store, QLatin1String(page));
+            QVERIFY(store.Flush());
+            QVERIFY(QFileInfo(QFile::decodeName(link)).isSymLink());
+            QVERIFY(real.open(QIODevice::ReadOnly));
+            QVERIFY(real.readAll().contains(page));
+            real.close();
+        }
+        QVERIFY(QFileInfo(folder.filePath(QStringLiteral("second.json"))).isSymLink());
+    }
+
+    void linkInACircleIsRefused()
+    {
+        const Place place;
+        QVERIFY(QFile::link(place.Path(), place.Path() + QStringLiteral(".other")));
+        QVERIFY(QFile::link(place.Path() + QStringLiteral(".other"), place.Path()));
+        const QString error = OpenError(place.Path());
+        QVERIFY2(error.contains(place.Path()), qPrintable(error));
+        QCOMPARE(place.Names().size(), 2);
+    }
+
     void fileOfAnotherProcessIsRefused()
     {
         const Place place;
