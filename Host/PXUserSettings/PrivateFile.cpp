@@ -49,6 +49,38 @@ bool ReadAll(int descriptor, QByteArray& content)
     return size == 0;
 }
 
+bool WriteAll(int descriptor, const QByteArray& content)
+{
+    for (int done = 0; done < content.size();) {
+        const ssize_t size = ::write(descriptor, content.constData() + done,
+                                     static_cast<std::size_t>(content.size() - done));
+        if (size < 0 && errno != EINTR) {
+            return false;
+        }
+        done += static_cast<int>(qMax(size, ssize_t(0)));
+    }
+    return true;
+}
+
+std::array<std::int64_t, 5> StampOf(const struct stat& status)
+{
+    return {static_cast<std::int64_t>(status.st_dev), static_cast<std::int64_t>(status.st_ino),
+            status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+}
+
+/// Writes \a content to the disk itself, not only towards it. False, with errno set, when that
+/// fails.
+bool WriteToDisk(const Descriptor& file, const QByteArray& content, FileVersion& written)
+{
+    struct stat status { };
+    if (!file.IsOpen() || !WriteAll(file.Number(), content) || ::fdatasync(file.Number()) != 0
+        || ::fstat(file.Number(), &status) != 0) {
+        return false;
+    }
+    written = {true, content, StampOf(status)};
+    return true;
+}
+
 } // namespace
 
 QString RealPath(const QString& path)
@@ -85,6 +117,35 @@ QString ReadFile(const QString& path, FileVersion& found)
         return QCoreApplication::translate("SettingsStore", "only a part of it could be read");
     }
     found.exists = true;
+    found.stamp = StampOf(status);
+    return {};
+}
+
+bool IsUntouched(const QString& path, const FileVersion& known)
+{
+    struct stat status { };
+    const bool exists = ::stat(QFile::encodeName(path).constData(), &status) == 0;
+    return exists == known.exists && (!exists || StampOf(status) == known.stamp);
+}
+
+QString ReplaceFile(const QString& path, const QByteArray& content, FileVersion& written)
+{
+    const QByteArray name = QFile::encodeName(path);
+    if (::faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS) != 0 && errno != ENOENT) {
+        return qt_error_string(errno);
+    }
+    QByteArray unfinished = name + ".saving-XXXXXX";
+    const Descriptor file(::mkostemp(unfinished.data(), O_CLOEXEC));
+    FileVersion version;
+    if (!WriteToDisk(file, content, version)
+        || ::rename(unfinished.constData(), name.constData()) != 0) {
+        const int error = errno;
+        if (file.IsOpen()) {
+            ::unlink(unfinished.constData());
+        }
+        return qt_error_string(error);
+    }
+    written = version;
     return {};
 }
 

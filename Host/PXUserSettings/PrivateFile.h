@@ -3,15 +3,20 @@
 /// user, such as "No space left on device", or as nothing when there was none.
 #pragma once
 
+#include <array>
+#include <cstdint>
+
 #include <QByteArray>
 #include <QString>
 
 namespace Zentor::Util {
 
-/// A file as it was at one moment.
+/// A file as it was when it was last read or replaced.
 struct FileVersion {
     bool exists = false;
     QByteArray content;
+    /// What tells it from another version without reading that.
+    std::array<std::int64_t, 5> stamp{};
 };
 
 /// Where \a path leads, symbolic links of it and of its folders followed, whether or not there is
@@ -20,5 +25,12 @@ QString RealPath(const QString& path);
 
 /// Reads \a path into \a found. That there is no such file is no failure.
 QString ReadFile(const QString& path, FileVersion& found);
+
+/// Whether \a path is \a known still, as far as can be told without reading it.
+bool IsUntouched(const QString& path, const FileVersion& known);
+
+/// Replaces \a path as a whole by \a content, which \a written is then, also where a failure has
+/// left open whether it would survive a loss of power.
+QString ReplaceFile(const QString& path, const QByteArray& content, FileVersion& written);
 
 } // namespace Zentor::Util

@@ -4,11 +4,8 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <glog/logging.h>
-
-#include "PrivateFile.h"
 
 namespace Zentor::PX {
 namespace {
@@ -21,33 +18,11 @@ QString Text(const char* text, const QString& path, const QString& reason = {})
     return reason.isEmpty() ? translated.arg(path) : translated.arg(path, reason);
 }
 
-bool WriteAll(QIODevice& device, QByteArray content)
+/// A name beside \a path, with \a suffix and the time, that no file has.
+QString FreePath(const QString& path, const QString& suffix)
 {
-    while (!content.isEmpty()) {
-        const qint64 written = device.write(content);
-        if (written <= 0) {
-            return false;
-        }
-        content.remove(0, static_cast<int>(written));
-    }
-    return true;
-}
-
-/// Replaces the file as a whole. Returns the reason of a failure, or nothing.
-QString ReplaceFile(const QString& path, const QByteArray& content)
-{
-    QSaveFile file(path);
-    // Unbuffered: commit() would write what is left in a buffer and not notice when that fails.
-    const bool isSaved = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
-        && WriteAll(file, content) && file.commit();
-    return isSaved ? QString() : file.errorString();
-}
-
-/// A name beside \a path that no file has.
-QString FreeDamagedPath(const QString& path)
-{
-    const QString stem = path + QLatin1String(".damaged-")
-        + QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-hhmmss"));
+    const QString stem =
+        path + suffix + QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-hhmmss"));
     QString candidate = stem;
     for (int number = 2; QFileInfo::exists(candidate); ++number) {
         candidate = QStringLiteral("%1-%2").arg(stem).arg(number);
@@ -147,18 +122,17 @@ bool SettingsStore::TryLock()
 /// Reads the file. Returns the reason of a failure, or nothing.
 QString SettingsStore::Load()
 {
-    Util::FileVersion found;
-    QString failure = Util::ReadFile(m_realPath, found);
+    QString failure = Util::ReadFile(m_realPath, m_known);
     if (!failure.isEmpty()) {
         return Text(QT_TRANSLATE_NOOP("SettingsStore", "The settings file %1 cannot be read: %2"),
                     m_filePath, failure);
     }
-    if (!found.exists) {
+    if (!m_known.exists) {
         return {};
     }
-    const SettingsDocument document = ParseSettings(found.content, m_sections);
+    const SettingsDocument document = ParseSettings(m_known.content, m_sections);
     if (!document.problems.isEmpty()) {
-        failure = KeepDamaged(found.content, document.problems);
+        failure = KeepDamaged(document.problems);
         if (!failure.isEmpty()) {
             return failure;
         }
@@ -171,10 +145,11 @@ QString SettingsStore::Load()
 }
 
 /// Writes what was found in a damaged file beside it. Returns the reason of a failure, or nothing.
-QString SettingsStore::KeepDamaged(const QByteArray& content, const QStringList& problems) const
+QString SettingsStore::KeepDamaged(const QStringList& problems)
 {
-    const QString keptPath = FreeDamagedPath(m_realPath);
-    const QString failure = ReplaceFile(keptPath, content);
+    const QString keptPath = FreePath(m_realPath, QStringLiteral(".damaged-"));
+    Util::FileVersion kept;
+    const QString failure = Util::ReplaceFile(keptPath, m_known.content, kept);
     if (!failure.isEmpty()) {
         return Text(
             QT_TRANSLATE_NOOP("SettingsStore",
@@ -185,6 +160,31 @@ QString SettingsStore::KeepDamaged(const QByteArray& content, const QStringList&
     LOG(WARNING) << "Zentor::PX::SettingsStore::Open: damaged=" << m_filePath.toStdString()
                  << "; kept=" << keptPath.toStdString() << "; problems=" << Summary(problems);
     return {};
+}
+
+/// Writes what another program has made of the file beside it. Returns the reason of a failure, or
+/// nothing.
+QString SettingsStore::KeepChanged()
+{
+    if (Util::IsUntouched(m_realPath, m_known)) {
+        return {};
+    }
+    Util::FileVersion found;
+    QString failure = Util::ReadFile(m_realPath, found);
+    const bool isChanged = found.exists && (!m_known.exists || found.content != m_known.content);
+    if (!failure.isEmpty() || !isChanged) {
+        return failure;
+    }
+    const QString keptPath = FreePath(m_realPath, QStringLiteral(".changed-"));
+    Util::FileVersion kept;
+    failure = Util::ReplaceFile(keptPath, found.content, kept);
+    if (failure.isEmpty()) {
+        // Once is enough, also when saving fails now.
+        m_known = found;
+        LOG(WARNING) << "Zentor::PX::SettingsStore::Flush: changed=" << m_filePath.toStdString()
+                     << "; kept=" << keptPath.toStdString();
+    }
+    return failure;
 }
 
 void SettingsStore::Change(const std::function<void(UserSettings&)>& change)
@@ -231,9 +231,14 @@ bool SettingsStore::Flush()
 QString SettingsStore::Write()
 {
     if (!m_lock->isLocked() && !TryLock()) {
-        return QCoreApplication::translate("SettingsStore", "its folder cannot be written to");
+        return m_lock->error() == QLockFile::LockFailedError
+            ? QCoreApplication::translate("SettingsStore", "it is in use by another process")
+            : QCoreApplication::translate("SettingsStore", "its folder cannot be written to");
     }
-    return ReplaceFile(m_realPath, FormatSettings(m_settings, m_fields));
+    const QString failure = KeepChanged();
+    return failure.isEmpty()
+        ? Util::ReplaceFile(m_realPath, FormatSettings(m_settings, m_fields), m_known)
+        : failure;
 }
 
 } // namespace Zentor::PX

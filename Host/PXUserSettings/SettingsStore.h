@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include "PrivateFile.h"
 #include "SettingsFormat.h"
 #include "UserSettings.h"
 
@@ -20,6 +21,10 @@ namespace Zentor::PX {
 /// new ones. Changes are gathered: those of one pass of the event loop are one write. What cannot
 /// be saved stays in memory and is tried again with the next change, every few seconds, and at the
 /// end of the application.
+///
+/// What another program has put in the file's place meanwhile (a restore, a synchronization, an
+/// editor) is not read; it is kept under another name beside it (its own with ".changed-", date and
+/// time added) before the settings are saved. A file that was deleted is written again.
 ///
 /// A second store, also one of another process, cannot open the file meanwhile. Symbolic links are
 /// followed: what counts is the file that they lead to, beside which its lock lies, and they stay
@@ -80,7 +85,8 @@ private:
     QString Lock();
     bool TryLock();
     QString Load();
-    QString KeepDamaged(const QByteArray& content, const QStringList& problems) const;
+    QString KeepDamaged(const QStringList& problems);
+    QString KeepChanged();
     QString Write();
 
     const QString m_filePath;
@@ -89,6 +95,8 @@ private:
     std::unique_ptr<QLockFile> m_lock;
     std::vector<SettingsSection> m_sections;
     UserSettings m_settings;
+    /// The file as it was read or written last.
+    Util::FileVersion m_known;
     /// What the file holds beside the settings that are known.
     QJsonObject m_fields;
     /// Fires in the next pass of the event loop after a change.

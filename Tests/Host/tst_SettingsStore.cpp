@@ -1,4 +1,5 @@
 #include <csignal>
+#include <optional>
 #include <sys/resource.h>
 #include <thread>
 #include <unistd.h>
@@ -101,6 +102,10 @@ public:
     {
         return QDir(m_folder.path()).entryList({QStringLiteral("settings.json.damaged-*")});
     }
+    QStringList ChangedFiles() const
+    {
+        return QDir(m_folder.path()).entryList({QStringLiteral("settings.json.changed-*")});
+    }
 
     /// The names of all that is in the folder.
     QStringList Names() const
@@ -114,6 +119,14 @@ public:
     {
         return QFile::setPermissions(Path(), file)
             && QFile::setPermissions(m_folder.path(), folder);
+    }
+
+    /// Whoever owns the folder.
+    bool Unprotect() const
+    {
+        const uid_t user = geteuid();
+        const bool isOwner = seteuid(getuid()) == 0;
+        return QFile::setPermissions(m_folder.path(), everything) && isOwner && seteuid(user) == 0;
     }
 
     ~Place() { QFile::setPermissions(m_folder.path(), everything); }
@@ -757,6 +770,188 @@ private Q_SLOTS:
         QVERIFY2(error.contains(place.Path()), qPrintable(error));
         QVERIFY(other.Kill());
         QCOMPARE(OpenError(place.Path()), QString());
+    }
+
+    void readOnlyFileIsNotReplaced()
+    {
+        const Place place;
+        QVERIFY(place.Write("{\"version\": 1}"));
+        QVERIFY(place.Protect(Place::everything, Place::reading));
+        const OrdinaryUser user;
+        QVERIFY(user.IsOrdinary());
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        SetPage(store, QStringLiteral("x"));
+        QVERIFY(!store.Flush());
+        QCOMPARE(place.Read(), QByteArray("{\"version\": 1}"));
+    }
+
+    void keepsWhatOthersWrite_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("others");
+        QTest::addColumn<int>("kept");
+        const QByteArray some = "{\"version\": 1, \"appearance\": {\"page\": \"a\"}}";
+        const QByteArray other = "{\"version\": 1, \"appearance\": {\"page\": \"b\"}}";
+        QTest::newRow("another content") << some << other << 1;
+        QTest::newRow("nonsense") << some << QByteArray("b") << 1;
+        QTest::newRow("nothing") << some << QByteArray() << 1;
+        QTest::newRow("the same again") << some << some << 0;
+        QTest::newRow("where there was none") << QByteArray() << other << 1;
+    }
+
+    void keepsWhatOthersWrite()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, others);
+        QFETCH(int, kept);
+        const Place place;
+        QVERIFY(before.isEmpty() || place.Write(before));
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        const Log log;
+        for (int round = 1; round <= 2; ++round) {
+            // Another program has it in another file, as a rule.
+            QVERIFY(round == 1 || QFile::remove(place.Path()));
+            QVERIFY(place.Write(round == 1 ? others : others + ' '));
+            const QByteArray found = place.Read();
+            SetPage(store, QString::number(round));
+            QVERIFY(store.Flush());
+            QCOMPARE(place.ChangedFiles().size(), kept + round - 1);
+            if (!place.ChangedFiles().isEmpty()) {
+                QCOMPARE(place.Read(place.ChangedFiles().last()), found);
+                QVERIFY(log.lines.last().contains(QStringLiteral("Flush: changed=")));
+                QVERIFY(log.lines.last().contains(place.ChangedFiles().last()));
+            }
+            QCOMPARE(log.lines.size(), place.ChangedFiles().size());
+            QCOMPARE(PageOf(PX::ParseSettings(place.Read(), {AppearanceSection()}).settings),
+                     QString::number(round));
+        }
+        // Its own is no other's.
+        SetPage(store, QStringLiteral("more"));
+        QVERIFY(store.Flush());
+        QCOMPARE(place.ChangedFiles().size(), kept + 1);
+    }
+
+    void writesADeletedFileAgain()
+    {
+        const Place place;
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        SetPage(store, QStringLiteral("a"));
+        QVERIFY(store.Flush());
+        QVERIFY(QFile::remove(place.Path()));
+        SetPage(store, QStringLiteral("b"));
+        QVERIFY(store.Flush());
+        QVERIFY(place.Read().contains("\"b\""));
+        QVERIFY(place.ChangedFiles().isEmpty());
+    }
+
+    void keepsWhatOthersWriteOnceOnly()
+    {
+        const Place place;
+        QVERIFY(place.Write("{\"version\": 1}"));
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        QVERIFY(place.Write("{\"version\": 1 }"));
+        {
+            const FullDisk disk(20);
+            SetPage(store, QStringLiteral("a"));
+            QVERIFY(!store.Flush());
+            QVERIFY(!store.Flush());
+            QCOMPARE(place.Read(), QByteArray("{\"version\": 1 }"));
+        }
+        QVERIFY(store.Flush());
+        QCOMPARE(place.ChangedFiles().size(), 1);
+    }
+
+    void replacesNothingThatCannotBeKept_data()
+    {
+        QTest::addColumn<bool>("isReadError");
+        QTest::newRow("disk is full") << false;
+        QTest::newRow("cannot be read") << true;
+    }
+
+    void replacesNothingThatCannotBeKept()
+    {
+        QFETCH(bool, isReadError);
+        const Place place;
+        QVERIFY(place.Write("{\"version\": 1}"));
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        const QByteArray others = "{\"version\": 1, \"more\": \"" + QByteArray(1000, 'x') + "\"}";
+        QVERIFY(place.Write(others));
+        {
+            std::optional<FullDisk> fullDisk;
+            std::optional<FaultyDisk> faultyDisk;
+            if (isReadError) {
+                faultyDisk.emplace(FaultyDisk::Fault::Read, "settings.json");
+            } else {
+                fullDisk.emplace(900);
+            }
+            SetPage(store, QStringLiteral("a"));
+            QVERIFY(!store.Flush());
+            QVERIFY(!store.SaveProblem().isEmpty());
+        }
+        QCOMPARE(place.Read(), others);
+        QVERIFY(place.ChangedFiles().isEmpty());
+        QVERIFY(store.Flush());
+        QCOMPARE(place.ChangedFiles().size(), 1);
+    }
+
+    void readsAgainWhatItReadWithoutALock_data()
+    {
+        QTest::addColumn<bool>("isChanged");
+        QTest::newRow("changed meanwhile") << true;
+        QTest::newRow("as it was") << false;
+    }
+
+    void readsAgainWhatItReadWithoutALock()
+    {
+        QFETCH(bool, isChanged);
+        const Place place;
+        QVERIFY(place.Write("{\"version\": 1}"));
+        QVERIFY(place.Protect(Place::reading, Place::everything));
+        const OrdinaryUser user;
+        QVERIFY(user.IsOrdinary());
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        QVERIFY(!isChanged || place.Write("{\"version\": 1, \"more\": 1}"));
+        SetPage(store, QStringLiteral("a"));
+        QVERIFY(!store.Flush());
+
+        QVERIFY(place.Unprotect());
+        QVERIFY(store.Flush());
+        QCOMPARE(place.ChangedFiles().size(), isChanged ? 1 : 0);
+        QVERIFY(!OpenError(place.Path()).isEmpty());
+    }
+
+    void waitsForAnotherWriter()
+    {
+        const Place place;
+        QVERIFY(place.Write("{\"version\": 1}"));
+        QVERIFY(place.Protect(Place::reading, Place::everything));
+        std::optional<SettingsStore> store;
+        {
+            const OrdinaryUser user;
+            QVERIFY(user.IsOrdinary());
+            store.emplace(place.Path());
+            QVERIFY(Open(*store));
+        }
+        QVERIFY(place.Unprotect());
+        {
+            SettingsStore other(place.Path());
+            QVERIFY(Open(other));
+            SetPage(other, QStringLiteral("other"));
+            QVERIFY(other.Flush());
+            SetPage(*store, QStringLiteral("mine"));
+            QVERIFY(!store->Flush());
+            QVERIFY(store->SaveProblem().contains(QStringLiteral("another process")));
+            QVERIFY(place.Read().contains("\"other\""));
+        }
+        QVERIFY(store->Flush());
+        QVERIFY(place.Read().contains("\"mine\""));
+        QVERIFY(place.Read(place.ChangedFiles().value(0)).contains("\"other\""));
     }
 
     void killedWhileSaving()
