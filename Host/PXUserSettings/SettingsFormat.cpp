@@ -206,6 +206,9 @@ SettingsDocument ParseSettings(const QByteArray& json, const std::vector<Setting
         document.isUnderstood = true;
         document.fields = fields;
         document.settings = ParseSections(fields, sections, document.problems);
+        const QJsonArray tasks =
+            fields.value(Key::ScheduledCapture).toObject().value(Key::Tasks).toArray();
+        document.droppedTasks = tasks.size() - static_cast<int>(document.settings.schedule.size());
     }
     return document;
 }

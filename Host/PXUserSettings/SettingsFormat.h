@@ -51,6 +51,8 @@ struct SettingsDocument {
     /// For each value that could not be used, where it stands and why, for the log; otherwise
     /// empty. Such a value has its default; such a task is left out.
     QStringList problems;
+    /// How many tasks are left out.
+    int droppedTasks = 0;
     UserSettings settings;
     /// All of the file, fields that are not known included.
     QJsonObject fields;

@@ -132,7 +132,7 @@ QString SettingsStore::Load()
     }
     const SettingsDocument document = ParseSettings(m_known.content, m_sections);
     if (!document.problems.isEmpty()) {
-        failure = KeepDamaged(document.problems);
+        failure = KeepDamaged(document);
         if (!failure.isEmpty()) {
             return failure;
         }
@@ -145,7 +145,7 @@ QString SettingsStore::Load()
 }
 
 /// Writes what was found in a damaged file beside it. Returns the reason of a failure, or nothing.
-QString SettingsStore::KeepDamaged(const QStringList& problems)
+QString SettingsStore::KeepDamaged(const SettingsDocument& document)
 {
     const QString keptPath = FreePath(m_realPath, QStringLiteral(".damaged-"));
     Util::FileVersion kept;
@@ -158,7 +158,11 @@ QString SettingsStore::KeepDamaged(const QStringList& problems)
             m_filePath, failure);
     }
     LOG(WARNING) << "Zentor::PX::SettingsStore::Open: damaged=" << m_filePath.toStdString()
-                 << "; kept=" << keptPath.toStdString() << "; problems=" << Summary(problems);
+                 << "; kept=" << keptPath.toStdString()
+                 << "; problems=" << Summary(document.problems);
+    m_notices.push_back({document.isUnderstood ? SettingsNotice::Cause::PartlyUnusable
+                                               : SettingsNotice::Cause::NotUnderstood,
+                         keptPath, document.droppedTasks});
     return {};
 }
 
@@ -183,6 +187,8 @@ QString SettingsStore::KeepChanged()
         m_known = found;
         LOG(WARNING) << "Zentor::PX::SettingsStore::Flush: changed=" << m_filePath.toStdString()
                      << "; kept=" << keptPath.toStdString();
+        m_notices.push_back({SettingsNotice::Cause::ChangedOutside, keptPath});
+        Q_EMIT NoticeAdded();
     }
     return failure;
 }

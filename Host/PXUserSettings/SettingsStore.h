@@ -11,6 +11,7 @@
 
 #include "PrivateFile.h"
 #include "SettingsFormat.h"
+#include "SettingsNotice.h"
 #include "UserSettings.h"
 
 namespace Zentor::PX {
@@ -24,7 +25,8 @@ namespace Zentor::PX {
 ///
 /// What another program has put in the file's place meanwhile (a restore, a synchronization, an
 /// editor) is not read; it is kept under another name beside it (its own with ".changed-", date and
-/// time added) before the settings are saved. A file that was deleted is written again.
+/// time added) before the settings are saved; the log says so in one line. A file that was deleted
+/// is written again.
 ///
 /// A second store, also one of another process, cannot open the file meanwhile. Symbolic links are
 /// followed: what counts is the file that they lead to, beside which its lock lies, and they stay
@@ -49,7 +51,7 @@ public:
     ///
     /// A file that cannot be understood, or of which some values are unusable, is first kept under
     /// another name beside it (its own with ".damaged-", date and time added); the log says so in
-    /// one line.
+    /// one line, and Notices() to the user.
     ///
     /// Returns false, with the reason for the user in \a error, when the file can be neither read
     /// nor created, when another store has it open, and when a damaged one cannot be kept. A file
@@ -69,6 +71,10 @@ public:
     /// Why the settings could not be saved last, in the language in use; empty when they could.
     QString SaveProblem() const;
 
+    /// What the user should be told of, oldest first: what Open() could not use, and what another
+    /// program did to the file since.
+    const std::vector<SettingsNotice>& Notices() const { return m_notices; }
+
     /// Saves now what has not been saved yet. Whether everything is saved.
     bool Flush();
 
@@ -80,12 +86,14 @@ Q_SIGNALS:
     /// The settings cannot be saved for \a reason, SaveProblem(), which names the file. Not sent
     /// again when trying once more fails for the same reason.
     void SaveFailed(const QString& reason);
+    /// There is one more at the end of Notices(). Not sent by Open().
+    void NoticeAdded();
 
 private:
     QString Lock();
     bool TryLock();
     QString Load();
-    QString KeepDamaged(const QStringList& problems);
+    QString KeepDamaged(const SettingsDocument& document);
     QString KeepChanged();
     QString Write();
 
@@ -107,6 +115,7 @@ private:
     bool m_isDirty = false;
     /// Why saving failed last; empty after a success.
     QString m_failure;
+    std::vector<SettingsNotice> m_notices;
 };
 
 } // namespace Zentor::PX

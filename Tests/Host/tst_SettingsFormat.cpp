@@ -104,6 +104,7 @@ private Q_SLOTS:
         const auto document = Parse(PX::FormatSettings(Sample(), {}));
         QVERIFY(document.isUnderstood);
         QCOMPARE(document.problems, QStringList());
+        QCOMPARE(document.droppedTasks, 0);
         Compare(document.settings, Sample());
     }
 
@@ -304,6 +305,7 @@ private Q_SLOTS:
         const auto document = Parse(WithTasks(tasks));
         QVERIFY(document.isUnderstood);
         QCOMPARE(document.problems, QStringList(problem));
+        QCOMPARE(document.droppedTasks, 1);
         const auto& schedule = document.settings.schedule;
         QCOMPARE(schedule.size(), std::size_t(2));
         QCOMPARE(schedule[0].title, QStringLiteral("A"));

@@ -20,6 +20,7 @@
 using namespace Zentor;
 using namespace Zentor::Tests;
 using namespace std::chrono_literals;
+using PX::SettingsNotice;
 using PX::SettingsStore;
 using PX::UserSettings;
 
@@ -264,6 +265,7 @@ private:
 } // namespace
 
 Q_DECLARE_METATYPE(Zentor::Tests::FaultyDisk::Fault)
+Q_DECLARE_METATYPE(Zentor::PX::SettingsNotice::Cause)
 
 class tst_SettingsStore : public WidgetTest {
     Q_OBJECT
@@ -831,6 +833,82 @@ private Q_SLOTS:
         SetPage(store, QStringLiteral("more"));
         QVERIFY(store.Flush());
         QCOMPARE(place.ChangedFiles().size(), kept + 1);
+    }
+
+    void tellsTheUser_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<SettingsNotice::Cause>("cause");
+        QTest::addColumn<int>("droppedTasks");
+        const QByteArray task = R"({"title": "A", "start": 1, "duration": 1})";
+        const auto tasks = [](const QByteArray& list) {
+            return "{\"version\": 1, \"scheduledCapture\": {\"tasks\": [" + list + "]}}";
+        };
+        QTest::newRow("empty") << QByteArray() << SettingsNotice::Cause::NotUnderstood << 0;
+        QTest::newRow("cut off") << tasks(task).chopped(2) << SettingsNotice::Cause::NotUnderstood
+                                 << 0;
+        QTest::newRow("newer") << QByteArray("{\"version\": 2}")
+                               << SettingsNotice::Cause::NotUnderstood << 0;
+        QTest::newRow("a value") << QByteArray("{\"version\": 1, \"paths\": 5}")
+                                 << SettingsNotice::Cause::PartlyUnusable << 0;
+        QTest::newRow("two of three tasks")
+            << tasks(task + ',' + task + ", 5") << SettingsNotice::Cause::PartlyUnusable << 2;
+    }
+
+    void tellsTheUser()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(SettingsNotice::Cause, cause);
+        QFETCH(int, droppedTasks);
+        const Place place;
+        QVERIFY(place.Write(content));
+        SettingsStore store(place.Path());
+        const QSignalSpy added(&store, &SettingsStore::NoticeAdded);
+        QVERIFY(Open(store));
+        QCOMPARE(added.count(), 0);
+        QCOMPARE(store.Notices().size(), std::size_t(1));
+        const SettingsNotice& notice = store.Notices().front();
+        QCOMPARE(notice.cause, cause);
+        QCOMPARE(notice.droppedTasks, droppedTasks);
+        QCOMPARE(QFileInfo(notice.keptPath).path(), QFileInfo(place.Path()).path());
+        QCOMPARE(place.Read(QFileInfo(notice.keptPath).fileName()), content);
+        QVERIFY(notice.Text().contains(notice.keptPath));
+        const QString tasks = QStringLiteral(": %1. ").arg(droppedTasks);
+        QCOMPARE(notice.Text().contains(tasks), droppedTasks > 0);
+        QVERIFY(!notice.Text().contains(QLatin1Char('%')));
+    }
+
+    void tellsTheUserNothingWithoutNeed()
+    {
+        const Place place;
+        for (const char* page : {"a", "b"}) {
+            SettingsStore store(place.Path());
+            QVERIFY(Open(store));
+            SetPage(store, QLatin1String(page));
+            QVERIFY(store.Flush());
+            QVERIFY(store.Notices().empty());
+        }
+    }
+
+    void tellsTheUserOfOtherPrograms()
+    {
+        const Place place;
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        const QSignalSpy added(&store, &SettingsStore::NoticeAdded);
+        connect(&store, &SettingsStore::NoticeAdded, &store,
+                [&] { QVERIFY(!store.Notices().empty()); });
+        for (int round = 1; round <= 2; ++round) {
+            QVERIFY(place.Write("others " + QByteArray::number(round)));
+            SetPage(store, QString::number(round));
+            QVERIFY(store.Flush());
+            QCOMPARE(added.count(), round);
+            QCOMPARE(store.Notices().size(), std::size_t(round));
+            const SettingsNotice& notice = store.Notices().back();
+            QCOMPARE(notice.cause, SettingsNotice::Cause::ChangedOutside);
+            QCOMPARE(QFileInfo(notice.keptPath).fileName(), place.ChangedFiles().last());
+            QVERIFY(notice.Text().contains(notice.keptPath));
+        }
     }
 
     void writesADeletedFileAgain()
