@@ -4,9 +4,11 @@
 #include <limits>
 #include <optional>
 
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include "DuplicateKeys.h"
 #include "SectionReader.h"
 
 namespace Zentor::PX {
@@ -155,17 +157,43 @@ UserSettings ParseSections(const QJsonObject& fields, const std::vector<Settings
     return settings;
 }
 
-QJsonArray FormatTasks(const std::vector<RecordTime>& schedule)
+/// \a values in \a fields; the other values there stay.
+QJsonObject Merged(QJsonObject fields, const QJsonObject& values)
 {
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        fields.insert(it.key(), it.value());
+    }
+    return fields;
+}
+
+/// The tasks of \a previousTasks by title, the only thing that stays the same of a task. Of two
+/// that have the same the first is the one in use.
+QHash<QString, QJsonObject> ByTitle(const QJsonArray& previousTasks)
+{
+    QHash<QString, QJsonObject> tasks;
+    for (const QJsonValue& value : previousTasks) {
+        const QJsonObject task = value.toObject();
+        const QString title = task.value(Key::Title).toString();
+        if (!tasks.contains(title)) {
+            tasks.insert(title, task);
+        }
+    }
+    return tasks;
+}
+
+QJsonArray FormatTasks(const std::vector<RecordTime>& schedule, const QJsonArray& previousTasks)
+{
+    const QHash<QString, QJsonObject> previous = ByTitle(previousTasks);
     QJsonArray tasks;
     for (const RecordTime& task : schedule) {
-        tasks.append(QJsonObject{
-            {Key::Title, task.title},
-            {Key::Start, FromInteger(task.start.time_since_epoch().count())},
-            {Key::Duration, FromInteger(task.duration.count())},
-            {Key::ScreenIndex, task.screenIndex},
-            {Key::FinishAction, FromAction(task.finishAction)},
-        });
+        tasks.append(Merged(previous.value(task.title),
+                            {
+                                {Key::Title, task.title},
+                                {Key::Start, FromInteger(task.start.time_since_epoch().count())},
+                                {Key::Duration, FromInteger(task.duration.count())},
+                                {Key::ScreenIndex, task.screenIndex},
+                                {Key::FinishAction, FromAction(task.finishAction)},
+                            }));
     }
     return tasks;
 }
@@ -173,11 +201,12 @@ QJsonArray FormatTasks(const std::vector<RecordTime>& schedule)
 /// Sets \a values in the section \a key of \a fields; the other values there stay.
 void SetSection(QJsonObject& fields, const QString& key, const QJsonObject& values)
 {
-    QJsonObject section = fields.value(key).toObject();
-    for (auto it = values.begin(); it != values.end(); ++it) {
-        section.insert(it.key(), it.value());
-    }
-    fields.insert(key, section);
+    fields.insert(key, Merged(fields.value(key).toObject(), values));
+}
+
+QJsonArray TasksIn(const QJsonObject& fields)
+{
+    return fields.value(Key::ScheduledCapture).toObject().value(Key::Tasks).toArray();
 }
 
 } // namespace
@@ -206,14 +235,17 @@ SettingsDocument ParseSettings(const QByteArray& json, const std::vector<Setting
         document.isUnderstood = true;
         document.fields = fields;
         document.settings = ParseSections(fields, sections, document.problems);
-        const QJsonArray tasks =
-            fields.value(Key::ScheduledCapture).toObject().value(Key::Tasks).toArray();
-        document.droppedTasks = tasks.size() - static_cast<int>(document.settings.schedule.size());
+        document.droppedTasks =
+            TasksIn(fields).size() - static_cast<int>(document.settings.schedule.size());
+        const QStringList duplicates = DuplicateKeys(json);
+        for (const QString& key : duplicates) {
+            document.problems << key + QLatin1String(": given more than once");
+        }
     }
     return document;
 }
 
-QByteArray FormatSettings(const UserSettings& settings, const QJsonObject& previousFields)
+QJsonObject FieldsOf(const UserSettings& settings, const QJsonObject& previousFields)
 {
     QJsonObject fields = previousFields;
     fields.insert(Key::Version, CurrentVersion);
@@ -223,7 +255,7 @@ QByteArray FormatSettings(const UserSettings& settings, const QJsonObject& previ
                 {Key::Duration, FromInteger(settings.limitedCaptureDuration.count())}});
     SetSection(fields, Key::ScheduledCapture,
                {{Key::Enabled, settings.scheduledCaptureEnabled},
-                {Key::Tasks, FormatTasks(settings.schedule)}});
+                {Key::Tasks, FormatTasks(settings.schedule, TasksIn(previousFields))}});
     SetSection(fields, Key::Paths, {{Key::ResultsFolder, settings.resultsFolderPath}});
     for (auto it = settings.sections.begin(); it != settings.sections.end(); ++it) {
         SetSection(fields, it.key(), it.value());
@@ -234,7 +266,12 @@ QByteArray FormatSettings(const UserSettings& settings, const QJsonObject& previ
         confirmations.insert(it.key(), it.value());
     }
     fields.insert(Key::Confirmations, confirmations);
-    return QJsonDocument(fields).toJson();
+    return fields;
+}
+
+QByteArray FormatSettings(const UserSettings& settings, const QJsonObject& previousFields)
+{
+    return QJsonDocument(FieldsOf(settings, previousFields)).toJson();
 }
 
 } // namespace Zentor::PX

@@ -19,7 +19,8 @@
 /// Times are whole microseconds, starts are counted from the Unix epoch. An integer that JSON
 /// programs cannot be trusted with (beyond 2^53) is written as a text of digits. The finish actions
 /// are "doNothing", "quitApplication", "sleep", "hibernate", "restart" and "shutDown". A field that
-/// is missing has its default; of a task, the title, the start and the duration are required.
+/// is missing has its default; of a task, the title, the start and the duration are required. A
+/// field that an object has more than once has its last value, and that is noted as a problem.
 ///
 /// Other parts of the program may keep a section of their own there (SettingsSection).
 #pragma once
@@ -65,8 +66,12 @@ ZENTOR_HOST_API UserSettings DefaultSettings(const std::vector<SettingsSection>&
 ZENTOR_HOST_API SettingsDocument ParseSettings(const QByteArray& json,
                                                const std::vector<SettingsSection>& sections = {});
 
-/// Writes \a settings as JSON. Fields of \a previousFields and of its sections that are not known
-/// are kept.
+/// All fields of a file with \a settings. Fields that are not known are kept: of \a previousFields,
+/// of its sections, and of its tasks that are there still (of the same title).
+ZENTOR_HOST_API QJsonObject FieldsOf(const UserSettings& settings,
+                                     const QJsonObject& previousFields);
+
+/// Writes FieldsOf() \a settings as JSON.
 ZENTOR_HOST_API QByteArray FormatSettings(const UserSettings& settings,
                                           const QJsonObject& previousFields);
 

@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonDocument>
 
 #include <glog/logging.h>
 
@@ -241,10 +242,14 @@ QString SettingsStore::Write()
             ? QCoreApplication::translate("SettingsStore", "it is in use by another process")
             : QCoreApplication::translate("SettingsStore", "its folder cannot be written to");
     }
-    const QString failure = KeepChanged();
-    return failure.isEmpty()
-        ? Util::ReplaceFile(m_realPath, FormatSettings(m_settings, m_fields), m_known)
-        : failure;
+    QString failure = KeepChanged();
+    if (failure.isEmpty()) {
+        const QJsonObject fields = FieldsOf(m_settings, m_fields);
+        failure = Util::ReplaceFile(m_realPath, QJsonDocument(fields).toJson(), m_known);
+        // A task that is gone takes its unknown fields along.
+        m_fields = failure.isEmpty() ? fields : m_fields;
+    }
+    return failure;
 }
 
 } // namespace Zentor::PX

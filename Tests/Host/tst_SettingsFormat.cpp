@@ -336,6 +336,86 @@ private Q_SLOTS:
         QVERIFY(section("scheduledCapture").value(QLatin1String("note")).isNull());
     }
 
+    void unknownFieldsOfTasksAreKept()
+    {
+        const auto document = Parse(WithTasks(
+            R"({"title": "A", "start": 1, "duration": 1, "color": "green", "finishAction": "sleep"},
+               {"title": "B", "start": 5, "duration": 1, "color": {"r": [1]}},
+               {"title": "C", "start": 9, "duration": 1, "color": "blue"})"));
+        QCOMPARE(document.problems, QStringList());
+        PX::UserSettings settings = document.settings;
+        auto& schedule = settings.schedule;
+        // One is gone, one is new, and one has other values.
+        schedule.erase(schedule.begin());
+        schedule.push_back(Record("New", "00:00"));
+        schedule[0].finishAction = PX::Restart;
+
+        const auto again = Parse(PX::FormatSettings(settings, document.fields));
+        QCOMPARE(again.problems, QStringList());
+        Compare(again.settings, settings);
+        const auto tasks = [](const QJsonObject& fields) {
+            return fields.value(QLatin1String("scheduledCapture"))
+                .toObject()
+                .value(QLatin1String("tasks"))
+                .toArray();
+        };
+        QCOMPARE(tasks(again.fields).size(), 3);
+        for (const QJsonValue& task : tasks(again.fields)) {
+            const QJsonValue before = task[u"title"] == QLatin1String("B")
+                ? tasks(document.fields).at(1)[u"color"]
+                : task[u"title"] == QLatin1String("C") ? QJsonValue(QLatin1String("blue"))
+                                                       : QJsonValue(QJsonValue::Undefined);
+            QCOMPARE(task[u"color"], before);
+        }
+    }
+
+    void unknownFieldsAreThoseOfTheTaskInUse()
+    {
+        const auto document =
+            Parse(WithTasks(R"({"title": "A", "start": 1, "duration": 1, "color": "green"},
+                         {"title": "A", "start": 5, "duration": 1, "color": "blue"})"));
+        QCOMPARE(document.droppedTasks, 1);
+        const QByteArray again = PX::FormatSettings(document.settings, document.fields);
+        QVERIFY(again.contains("green"));
+        QVERIFY(!again.contains("blue"));
+    }
+
+    void duplicateKeysAreNoted_data()
+    {
+        QTest::addColumn<QByteArray>("fields");
+        QTest::addColumn<QStringList>("keys");
+        // With ' for ".
+        const auto row = [](const char* name, const char* fields, const QStringList& keys) {
+            QTest::newRow(name) << QByteArray(fields).replace('\'', '"') << keys;
+        };
+        row("none", "'a': {'b': 1}, 'c': {'b': 1}, 'b': [{'b': 1}, {'b': 'b'}]", {});
+        row("texts", "'a': 'b: {', 'b': '\\'a\\': \\\\', 'c': ['a', 'a', 'a']", {});
+        row("at the top", "'a': 1, 'b': 2, 'a': 1", {"a"});
+        row("three times", "'a': 1, 'a' : 2, 'a'\n: 1", {"a", "a"});
+        row("in a section", "'paths': {'x': '}', 'x': 2}", {"paths.x"});
+        row("of a section", "'paths': {'x': 1}, 'paths': {'x': 2}", {"paths"});
+        row("in a task",
+            "'scheduledCapture': {'tasks': [{'title': 'A', 'start': 1, 'duration': 1, 'start': "
+            "1}]}",
+            {"scheduledCapture.tasks.start"});
+        row("behind an object", "'a': {'b': {}, 'b': []}", {"a.b"});
+        row("written in another way", "'\\u0061\\'': 1, 'a\\u0022': 2", {"a\""});
+        row("beyond ASCII", "'\u00e4': 1, '\\u00e4': 2", {QString(QChar(0xe4))});
+    }
+
+    void duplicateKeysAreNoted()
+    {
+        QFETCH(QByteArray, fields);
+        QFETCH(QStringList, keys);
+        const auto document = Parse(Version1With(fields));
+        QVERIFY(document.isUnderstood);
+        QCOMPARE(document.droppedTasks, 0);
+        for (QString& key : keys) {
+            key += QStringLiteral(": given more than once");
+        }
+        QCOMPARE(document.problems, keys);
+    }
+
     void forgottenConfirmationsAreGone()
     {
         const auto document = Parse(Version1With("\"confirmations\": {\"a\": true}"));

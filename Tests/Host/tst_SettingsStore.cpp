@@ -390,6 +390,28 @@ private Q_SLOTS:
                  QJsonValue(QStringLiteral("m")));
     }
 
+    void unknownFieldsGoWithTheirTask()
+    {
+        const Place place;
+        QVERIFY(place.Write(R"({"version": 1, "scheduledCapture": {"tasks":
+            [{"title": "A", "start": 1, "duration": 1, "color": "green"}]}})"));
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        const std::vector<PX::RecordTime> schedule = store.Settings().schedule;
+        const auto setSchedule = [&](const std::vector<PX::RecordTime>& tasks) {
+            store.Change([&](UserSettings& settings) { settings.schedule = tasks; });
+            return store.Flush();
+        };
+        QVERIFY(setSchedule(schedule));
+        QVERIFY(place.Read().contains("green"));
+        QVERIFY(setSchedule({}));
+        QVERIFY(!place.Read().contains("green"));
+        // Another task of that name.
+        QVERIFY(setSchedule(schedule));
+        QVERIFY(place.Read().contains("\"A\""));
+        QVERIFY(!place.Read().contains("green"));
+    }
+
     void cannotBeOpened_data()
     {
         QTest::addColumn<QString>("path");
@@ -550,6 +572,9 @@ private Q_SLOTS:
         QTest::newRow("wrong type") << QByteArray(
             R"({"version": 1, "paths": 5, "appearance": {"page": "p", "language": 5}})")
                                     << QStringLiteral("p");
+        QTest::newRow("value and another value")
+            << QByteArray(R"({"version": 1, "appearance": {"page": "o", "page": "p"}})")
+            << QStringLiteral("p");
         QTest::newRow("bad task") << QByteArray(
             R"({"version": 1, "scheduledCapture": {"tasks": [{}]}, "appearance": {"page": "p"}})")
                                   << QStringLiteral("p");
