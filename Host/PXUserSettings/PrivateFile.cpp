@@ -8,7 +8,10 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
 
 namespace Zentor::Util {
 namespace {
@@ -68,17 +71,45 @@ std::array<std::int64_t, 5> StampOf(const struct stat& status)
             status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
 }
 
-/// Writes \a content to the disk itself, not only towards it. False, with errno set, when that
+/// Writes \a written to the disk itself, not only towards it. False, with errno set, when that
 /// fails.
-bool WriteToDisk(const Descriptor& file, const QByteArray& content, FileVersion& written)
+bool WriteToDisk(const Descriptor& file, FileVersion& written)
 {
     struct stat status { };
-    if (!file.IsOpen() || !WriteAll(file.Number(), content) || ::fdatasync(file.Number()) != 0
+    if (!file.IsOpen() || ::fchmod(file.Number(), written.permissions) != 0
+        || !WriteAll(file.Number(), written.content) || ::fdatasync(file.Number()) != 0
         || ::fstat(file.Number(), &status) != 0) {
         return false;
     }
-    written = {true, content, StampOf(status)};
+    written.exists = true;
+    written.stamp = StampOf(status);
     return true;
+}
+
+/// Has the disk keep the names in the folder of \a path. False, with errno set, when that fails.
+bool SyncFolderOf(const QString& path)
+{
+    const QByteArray name = QFile::encodeName(QFileInfo(path).path());
+    const Descriptor folder(::open(name.constData(), O_RDONLY | O_CLOEXEC | O_DIRECTORY));
+    // Some file systems cannot be asked for that, and some folders may not be opened.
+    return !folder.IsOpen() || ::fsync(folder.Number()) == 0 || errno == EINVAL;
+}
+
+/// Writes \a version into \a path.
+QString Write(const QString& path, FileVersion version, FileVersion& written)
+{
+    const QByteArray name = QFile::encodeName(path);
+    QByteArray unfinished = name + ".saving-XXXXXX";
+    const Descriptor file(::mkostemp(unfinished.data(), O_CLOEXEC));
+    if (!WriteToDisk(file, version) || ::rename(unfinished.constData(), name.constData()) != 0) {
+        const int error = errno;
+        if (file.IsOpen()) {
+            ::unlink(unfinished.constData());
+        }
+        return qt_error_string(error);
+    }
+    written = version;
+    return SyncFolderOf(path) ? QString() : qt_error_string(errno);
 }
 
 } // namespace
@@ -117,6 +148,7 @@ QString ReadFile(const QString& path, FileVersion& found)
         return QCoreApplication::translate("SettingsStore", "only a part of it could be read");
     }
     found.exists = true;
+    found.permissions = status.st_mode & (S_IRUSR | S_IWUSR);
     found.stamp = StampOf(status);
     return {};
 }
@@ -131,22 +163,35 @@ bool IsUntouched(const QString& path, const FileVersion& known)
 QString ReplaceFile(const QString& path, const QByteArray& content, FileVersion& written)
 {
     const QByteArray name = QFile::encodeName(path);
+    // A file that its user has protected can be renamed away, too.
     if (::faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS) != 0 && errno != ENOENT) {
         return qt_error_string(errno);
     }
-    QByteArray unfinished = name + ".saving-XXXXXX";
-    const Descriptor file(::mkostemp(unfinished.data(), O_CLOEXEC));
     FileVersion version;
-    if (!WriteToDisk(file, content, version)
-        || ::rename(unfinished.constData(), name.constData()) != 0) {
-        const int error = errno;
-        if (file.IsOpen()) {
-            ::unlink(unfinished.constData());
+    version.content = content;
+    version.permissions = S_IRUSR | S_IWUSR;
+    return Write(path, version, written);
+}
+
+QString KeepFile(const QString& path, const FileVersion& version)
+{
+    FileVersion written;
+    return Write(path, version, written);
+}
+
+void RemoveUnfinishedFiles(const QString& path)
+{
+    const QFileInfo info(path);
+    QDir folder(info.path());
+    const QRegularExpression unfinished(QRegularExpression::anchoredPattern(
+        QRegularExpression::escape(info.fileName())
+        + QStringLiteral("(\\.(damaged|changed)-[0-9-]+)?\\.saving-[0-9A-Za-z]{6}")));
+    const QStringList names = folder.entryList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QString& name : names) {
+        if (unfinished.match(name).hasMatch()) {
+            folder.remove(name);
         }
-        return qt_error_string(error);
     }
-    written = version;
-    return {};
 }
 
 } // namespace Zentor::Util

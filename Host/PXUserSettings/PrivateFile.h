@@ -15,6 +15,8 @@ namespace Zentor::Util {
 struct FileVersion {
     bool exists = false;
     QByteArray content;
+    /// Of its owner alone, as in chmod().
+    unsigned permissions = 0;
     /// What tells it from another version without reading that.
     std::array<std::int64_t, 5> stamp{};
 };
@@ -29,8 +31,15 @@ QString ReadFile(const QString& path, FileVersion& found);
 /// Whether \a path is \a known still, as far as can be told without reading it.
 bool IsUntouched(const QString& path, const FileVersion& known);
 
-/// Replaces \a path as a whole by \a content, which \a written is then, also where a failure has
-/// left open whether it would survive a loss of power.
+/// Replaces \a path, as a whole and for the user alone, by \a content, which \a written is then. A
+/// failure when the new file may not survive a loss of power, too.
 QString ReplaceFile(const QString& path, const QByteArray& content, FileVersion& written);
+
+/// Writes \a version into the new file \a path, with no more rights than it had, as ReplaceFile()
+/// does.
+QString KeepFile(const QString& path, const FileVersion& version);
+
+/// Removes what ReplaceFile() and KeepFile() left beside \a path when the process was killed.
+void RemoveUnfinishedFiles(const QString& path);
 
 } // namespace Zentor::Util

@@ -8,10 +8,13 @@
 
 #include <glog/logging.h>
 
+#include "../CoreInt/MakePrivateFolder.h"
+
 namespace Zentor::PX {
 namespace {
 
 constexpr std::chrono::seconds RetryInterval(5);
+const QLatin1String LockSuffix(".lock");
 
 QString Text(const char* text, const QString& path, const QString& reason = {})
 {
@@ -73,6 +76,9 @@ bool SettingsStore::Open(QString* error)
         reason = Load();
     }
     m_isOpen = reason.isEmpty();
+    if (m_isOpen && m_lock->isLocked()) {
+        Util::RemoveUnfinishedFiles(m_realPath);
+    }
     if (!m_isOpen) {
         m_lock.reset();
         *error = reason;
@@ -84,13 +90,13 @@ bool SettingsStore::Open(QString* error)
 QString SettingsStore::Lock()
 {
     m_realPath = Util::RealPath(m_filePath);
-    m_lock = std::make_unique<QLockFile>(m_realPath + QLatin1String(".lock"));
+    m_lock = std::make_unique<QLockFile>(m_realPath + LockSuffix);
     const QFileInfo file(m_realPath);
     if (QFileInfo(m_filePath).fileName().isEmpty() || (file.exists() && !file.isFile())) {
         return Text(QT_TRANSLATE_NOOP("SettingsStore", "The settings file %1 is not a file."),
                     m_filePath);
     }
-    if (!QDir().mkpath(file.path())) {
+    if (!Util::MakePrivateFolder(file.path())) {
         return Text(QT_TRANSLATE_NOOP("SettingsStore",
                                       "The settings file %1 cannot be created: its folder is "
                                       "missing and cannot be created either."),
@@ -117,7 +123,11 @@ QString SettingsStore::Lock()
 
 bool SettingsStore::TryLock()
 {
-    return m_lock->tryLock(0);
+    const bool isLocked = m_lock->tryLock(0);
+    if (isLocked) {
+        QFile::setPermissions(m_realPath + LockSuffix, QFile::ReadOwner | QFile::WriteOwner);
+    }
+    return isLocked;
 }
 
 /// Reads the file. Returns the reason of a failure, or nothing.
@@ -149,8 +159,7 @@ QString SettingsStore::Load()
 QString SettingsStore::KeepDamaged(const SettingsDocument& document)
 {
     const QString keptPath = FreePath(m_realPath, QStringLiteral(".damaged-"));
-    Util::FileVersion kept;
-    const QString failure = Util::ReplaceFile(keptPath, m_known.content, kept);
+    const QString failure = Util::KeepFile(keptPath, m_known);
     if (!failure.isEmpty()) {
         return Text(
             QT_TRANSLATE_NOOP("SettingsStore",
@@ -181,8 +190,7 @@ QString SettingsStore::KeepChanged()
         return failure;
     }
     const QString keptPath = FreePath(m_realPath, QStringLiteral(".changed-"));
-    Util::FileVersion kept;
-    failure = Util::ReplaceFile(keptPath, found.content, kept);
+    failure = Util::KeepFile(keptPath, found);
     if (failure.isEmpty()) {
         // Once is enough, also when saving fails now.
         m_known = found;

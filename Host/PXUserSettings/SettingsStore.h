@@ -21,12 +21,17 @@ namespace Zentor::PX {
 /// The file is replaced as a whole, so that at any moment it holds either the old settings or the
 /// new ones. Changes are gathered: those of one pass of the event loop are one write. What cannot
 /// be saved stays in memory and is tried again with the next change, every few seconds, and at the
-/// end of the application.
+/// end of the application; a disk that does not confirm that it has the new file counts as a
+/// failure. What a killed process left half-written is removed by the next Open().
 ///
 /// What another program has put in the file's place meanwhile (a restore, a synchronization, an
 /// editor) is not read; it is kept under another name beside it (its own with ".changed-", date and
 /// time added) before the settings are saved; the log says so in one line. A file that was deleted
 /// is written again.
+///
+/// The file, its lock and what is kept of it are the user's alone (0600), and so are folders that
+/// the store creates (0700). A file that others could read is the user's alone from the next save
+/// on; folders that are there keep their rights.
 ///
 /// A second store, also one of another process, cannot open the file meanwhile. Symbolic links are
 /// followed: what counts is the file that they lead to, beside which its lock lies, and they stay

@@ -1,6 +1,7 @@
 #include <csignal>
 #include <optional>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
 #include <utime.h>
@@ -1057,6 +1058,146 @@ private Q_SLOTS:
         QVERIFY(place.Read(place.ChangedFiles().value(0)).contains("\"other\""));
     }
 
+    void diskThatCannotSync_data()
+    {
+        QTest::addColumn<bool>("isFolder");
+        QTest::newRow("the file") << false;
+        QTest::newRow("its folder") << true;
+    }
+
+    void diskThatCannotSync()
+    {
+        QFETCH(bool, isFolder);
+        const Place place;
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        SetPage(store, QStringLiteral("before"));
+        QVERIFY(store.Flush());
+        const QSignalSpy saved(&store, &SettingsStore::Saved);
+        const QSignalSpy failed(&store, &SettingsStore::SaveFailed);
+        const QStringList names = place.Names();
+        {
+            const QString folder = QFileInfo(QFileInfo(place.Path()).path()).fileName();
+            const FaultyDisk disk(FaultyDisk::Fault::Sync,
+                                  isFolder ? QFile::encodeName(folder) : "settings.json");
+            SetPage(store, QStringLiteral("during"));
+            QVERIFY(!store.Flush());
+            QVERIFY(!store.Flush());
+            QCOMPARE(disk.Failures(), 2);
+        }
+        QCOMPARE(failed.count(), 1);
+        QVERIFY(store.SaveProblem().contains(QStringLiteral("Input/output error")));
+        QCOMPARE(saved.count(), 0);
+        QCOMPARE(place.Names(), names);
+        QCOMPARE(place.Read().contains("\"before\""), !isFolder);
+        QVERIFY(store.Flush());
+        QCOMPARE(saved.count(), 1);
+        QVERIFY(place.Read().contains("\"during\""));
+        // What reached the file in spite of a failure is no other program's.
+        QVERIFY(place.ChangedFiles().isEmpty());
+    }
+
+    void damagedFileOnADiskThatCannotSync()
+    {
+        const Place place;
+        QVERIFY(place.Write("damage"));
+        const FaultyDisk disk(FaultyDisk::Fault::Sync, "settings.json");
+        QVERIFY(OpenError(place.Path()).contains(QStringLiteral("Input/output error")));
+        QCOMPARE(place.Names(), QStringList(QStringLiteral("settings.json")));
+    }
+
+    void sweepsUpAfterAKilledSave()
+    {
+        const Place place;
+        QVERIFY(place.Write("{\"version\": 1}"));
+        const QStringList unfinished{
+            QStringLiteral("settings.json.saving-aB3dEf"),
+            QStringLiteral("settings.json.damaged-20301231-235959.saving-aaaaaa"),
+            QStringLiteral("settings.json.changed-20301231-235959-2.saving-ZZZ999")};
+        const QStringList others{QStringLiteral("settings.json.backup"),
+                                 QStringLiteral("settings.json.saving-aaaaa"),
+                                 QStringLiteral("settings.json.saving-aaaaaaa"),
+                                 QStringLiteral("settings.json.saving-aaaa.a"),
+                                 QStringLiteral("settings.json.other.saving-aaaaaa"),
+                                 QStringLiteral("settingsXjson.saving-aaaaaa"),
+                                 QStringLiteral("xsettings.json.saving-aaaaaa")};
+        const QDir folder(QFileInfo(place.Path()).path());
+        for (const QString& name : unfinished + others) {
+            QVERIFY(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
+        }
+        const QStringList never{QStringLiteral("settings.json.saving-Folder"),
+                                QStringLiteral("settings.json.saving-Linked")};
+        QVERIFY(folder.mkdir(never.first()));
+        QVERIFY(QFile::link(place.Path(), folder.filePath(never.last())));
+        {
+            SettingsStore store(place.Path());
+            QVERIFY(Open(store));
+        }
+        QStringList names = others + never + QStringList(QStringLiteral("settings.json"));
+        names.sort();
+        QStringList found = place.Names();
+        found.sort();
+        QCOMPARE(found, names);
+    }
+
+    void isTheUsersAlone_data()
+    {
+        QTest::addColumn<int>("before");
+        QTest::addColumn<int>("kept");
+        QTest::newRow("for all") << 0666 << 0600;
+        QTest::newRow("to read for all") << 0644 << 0600;
+        QTest::newRow("for the user") << 0600 << 0600;
+        QTest::newRow("to read for the user") << 0400 << 0400;
+    }
+
+    void isTheUsersAlone()
+    {
+        QFETCH(int, before);
+        QFETCH(int, kept);
+        const auto permissions = [](const QString& path) {
+            struct stat status { };
+            return stat(qPrintable(path), &status) == 0 ? int(status.st_mode & 07777) : -1;
+        };
+        const mode_t mask = umask(0);
+        const QTemporaryDir folder;
+        const QString inner = folder.filePath(QStringLiteral("new/inner"));
+        const QString path = inner + QStringLiteral("/settings.json");
+        chmod(qPrintable(folder.path()), 0755);
+        {
+            SettingsStore store(path);
+            QVERIFY(Open(store));
+            QCOMPARE(permissions(path + QStringLiteral(".lock")), 0600);
+            SetPage(store, QStringLiteral("x"));
+        }
+        QCOMPARE(permissions(path), 0600);
+        QCOMPARE(permissions(inner), 0700);
+        QCOMPARE(permissions(folder.filePath(QStringLiteral("new"))), 0700);
+        QCOMPARE(permissions(folder.path()), 0755);
+
+        // A damaged one, and one that is changed later.
+        chmod(qPrintable(inner), 0755);
+        for (const bool isDamaged : {true, false}) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            file.write(isDamaged ? "damage" : "{\"version\": 1}");
+            file.close();
+            chmod(qPrintable(path), mode_t(before));
+            SettingsStore store(path);
+            QVERIFY(Open(store));
+            QVERIFY(isDamaged || (file.open(QIODevice::WriteOnly) && file.write("changed") > 0));
+            file.close();
+            SetPage(store, QStringLiteral("y"));
+            // An administrator may write to it nevertheless.
+            chmod(qPrintable(path), mode_t(before | 0200));
+            chmod(qPrintable(path), mode_t(before));
+            QCOMPARE(store.Flush(), geteuid() == 0 || (before & 0200) != 0);
+            QCOMPARE(store.Notices().empty(), false);
+            QCOMPARE(permissions(store.Notices().back().keptPath), kept);
+        }
+        QCOMPARE(permissions(inner), 0755);
+        umask(mask);
+    }
+
     void killedWhileSaving()
     {
         const Place place;
@@ -1074,6 +1215,7 @@ private Q_SLOTS:
             SettingsStore store(place.Path());
             QVERIFY(Open(store));
             QVERIFY(place.DamagedFiles().isEmpty());
+            QCOMPARE(place.Names().size(), 2);
             const UserSettings& settings = store.Settings();
             QVERIFY(PageOf(settings).toInt() >= number);
             QCOMPARE(Field(settings, "language"), PageOf(settings));
