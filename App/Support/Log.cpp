@@ -6,18 +6,24 @@
 
 #include <glog/logging.h>
 
+#include "CoreInt/MakePrivateFolder.h"
+#include "CoreInt/Printable.h"
+
 namespace Zentor::Desktop {
 namespace {
 
 constexpr unsigned DaysToKeep = 14;
+constexpr int ForTheUserAlone = 0600;
 
 /// What takes Qt's messages besides the log.
 QtMessageHandler otherHandler = nullptr;
 
 void LogMessageOfQt(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    LOG(INFO) << "Qt: " << message.toStdString();
-    otherHandler(type, context, message);
+    // A message may quote a path or what a file holds, and goes to the terminal, too.
+    const std::string printable = Util::Printable(message);
+    LOG(INFO) << "Qt: " << printable;
+    otherHandler(type, context, QString::fromStdString(printable));
 }
 
 } // namespace
@@ -31,12 +37,13 @@ QString LogFolder()
 void KeepLog()
 {
     const QDir folder(LogFolder());
-    if (!folder.mkpath(QStringLiteral("."))) {
+    if (!Util::MakePrivateFolder(folder.path())) {
         LOG(WARNING) << "Zentor::Desktop::KeepLog: error=cannot create; folder="
-                     << folder.path().toStdString();
+                     << Util::Printable(folder.path());
         return;
     }
     FLAGS_logtostderr = false;
+    FLAGS_logfile_mode = ForTheUserAlone;
     google::SetStderrLogging(google::GLOG_WARNING);
     // Of the files for each severity, the one for INFO has the lines of all.
     for (const auto severity : {google::GLOG_WARNING, google::GLOG_ERROR, google::GLOG_FATAL}) {

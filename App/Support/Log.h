@@ -8,8 +8,11 @@ namespace Zentor::Desktop {
 QString LogFolder();
 
 /// Writes everything that is logged from now on, by Qt also, into a file of this run in
-/// LogFolder(), beside what goes to standard error. The folder is created when it is missing; files
-/// of earlier runs are deleted when they are two weeks old. Call it after
+/// LogFolder(), beside what goes to standard error. The folder is created when it is missing; it
+/// and the file are the user's alone. Files of earlier runs are deleted when they are two weeks
+/// old. Of Qt's messages, characters that control a terminal are escaped.
+///
+/// Call it after
 /// google::InitGoogleLogging().
 void KeepLog();
 

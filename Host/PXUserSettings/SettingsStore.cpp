@@ -9,6 +9,7 @@
 #include <glog/logging.h>
 
 #include "../CoreInt/MakePrivateFolder.h"
+#include "../CoreInt/Printable.h"
 
 namespace Zentor::PX {
 namespace {
@@ -42,7 +43,7 @@ std::string Summary(const QStringList& problems)
     if (problems.size() > inWords) {
         summary += QStringLiteral(" and %1 more").arg(problems.size() - inWords);
     }
-    return summary.toStdString();
+    return Util::Printable(summary);
 }
 
 } // namespace
@@ -167,8 +168,8 @@ QString SettingsStore::KeepDamaged(const SettingsDocument& document)
                               "another name: %2"),
             m_filePath, failure);
     }
-    LOG(WARNING) << "Zentor::PX::SettingsStore::Open: damaged=" << m_filePath.toStdString()
-                 << "; kept=" << keptPath.toStdString()
+    LOG(WARNING) << "Zentor::PX::SettingsStore::Open: damaged=" << Util::Printable(m_filePath)
+                 << "; kept=" << Util::Printable(keptPath)
                  << "; problems=" << Summary(document.problems);
     m_notices.push_back({document.isUnderstood ? SettingsNotice::Cause::PartlyUnusable
                                                : SettingsNotice::Cause::NotUnderstood,
@@ -194,8 +195,8 @@ QString SettingsStore::KeepChanged()
     if (failure.isEmpty()) {
         // Once is enough, also when saving fails now.
         m_known = found;
-        LOG(WARNING) << "Zentor::PX::SettingsStore::Flush: changed=" << m_filePath.toStdString()
-                     << "; kept=" << keptPath.toStdString();
+        LOG(WARNING) << "Zentor::PX::SettingsStore::Flush: changed=" << Util::Printable(m_filePath)
+                     << "; kept=" << Util::Printable(keptPath);
         m_notices.push_back({SettingsNotice::Cause::ChangedOutside, keptPath});
         Q_EMIT NoticeAdded();
     }
@@ -235,8 +236,8 @@ bool SettingsStore::Flush()
     m_retryTimer.start(RetryInterval);
     if (failure != m_failure) {
         m_failure = failure;
-        LOG(ERROR) << "Zentor::PX::SettingsStore::Flush: error=" << failure.toStdString()
-                   << "; file=" << m_filePath.toStdString();
+        LOG(ERROR) << "Zentor::PX::SettingsStore::Flush: error=" << Util::Printable(failure)
+                   << "; file=" << Util::Printable(m_filePath);
         Q_EMIT SaveFailed(SaveProblem());
     }
     return false;

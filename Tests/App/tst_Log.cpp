@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -60,6 +62,36 @@ private Q_SLOTS:
         qWarning("fourth");
         QCOMPARE(Desktop::LogFile(), path);
         QVERIFY(file.readAll().contains("fourth"));
+    }
+
+    void isTheUsersAlone()
+    {
+        const mode_t mask = umask(0);
+        Desktop::KeepLog();
+        LOG(INFO) << "something";
+        const QString path = Desktop::LogFile();
+        umask(mask);
+        const auto userOnly =
+            QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+        QCOMPARE(QFile::permissions(path), userOnly);
+        QCOMPARE(QFile::permissions(Desktop::LogFolder()),
+                 userOnly | QFile::ExeOwner | QFile::ExeUser);
+        QCOMPARE(QFile::permissions(QFileInfo(Desktop::LogFolder()).path()),
+                 userOnly | QFile::ExeOwner | QFile::ExeUser);
+    }
+
+    void escapesWhatControlsATerminal()
+    {
+        static QString shown;
+        const auto before = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext&, const QString& message) { shown = message; });
+        Desktop::KeepLog();
+        qWarning("cannot open \x1b[2Jfile\n");
+        qInstallMessageHandler(before);
+        QCOMPARE(shown, QStringLiteral("cannot open \\x1b[2Jfile\\x0a"));
+        QFile file(Desktop::LogFile());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(file.readAll().contains("Qt: cannot open \\x1b[2Jfile\\x0a\n"));
     }
 
     void isNoneOnceItIsDeleted()

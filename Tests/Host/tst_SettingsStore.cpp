@@ -613,6 +613,32 @@ private Q_SLOTS:
         }
     }
 
+    void logLinesHoldNoControlCharacters()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("\x1b[2J\nsettings.json"));
+        const auto write = [&](const char* content) {
+            QFile file(path);
+            return file.open(QIODevice::WriteOnly) && file.write(content) > 0;
+        };
+        QVERIFY(write("{\"version\": 1, \"confirmations\": {\"\\u001b[31m\\n\": 5}}"));
+        const Log log;
+        SettingsStore store(path);
+        QVERIFY(Open(store));
+        QVERIFY(write("changed"));
+        QVERIFY(store.Flush());
+        SetPage(store, QStringLiteral("x"));
+        const FullDisk disk(10);
+        QVERIFY(!store.Flush());
+        QCOMPARE(log.lines.size(), 3);
+        QVERIFY(log.lines.first().contains(QStringLiteral("confirmations.\\x1b[31m\\x0a: ")));
+        for (const QString& line : log.lines) {
+            QVERIFY(line.contains(QStringLiteral("/\\x1b[2J\\x0asettings.json")));
+            QVERIFY(!line.contains(QLatin1Char('\x1b')));
+            QVERIFY(!line.trimmed().contains(QLatin1Char('\n')));
+        }
+    }
+
     void manyProblemsAreOneLine()
     {
         const Place place;
