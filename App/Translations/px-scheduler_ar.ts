@@ -289,6 +289,30 @@
         <source>its folder cannot be written to</source>
         <translation>لا يمكن الكتابة في مجلده</translation>
     </message>
+    <message>
+        <source>only a part of it could be read</source>
+        <translation>أمكنت قراءة جزء منه فقط</translation>
+    </message>
+    <message>
+        <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
+        <translation>تعذّر فهم ملف الإعدادات، لذلك تُستخدم القيم الافتراضية. محتوى الملف محفوظ في %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
+        <translation>تعذّر استخدام بعض الإعدادات. المهام المتروكة: %2. محتوى الملف محفوظ في %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. What the file held is kept in %1.</source>
+        <translation>تعذّر استخدام بعض الإعدادات. محتوى الملف محفوظ في %1.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
+        <translation>غيّر برنامج آخر ملف الإعدادات. نسخته محفوظة في %1؛ وتبقى الإعدادات المعروضة هنا مستخدمة.</translation>
+    </message>
+    <message>
+        <source>it is in use by another process</source>
+        <translation>قيد الاستخدام من عملية أخرى</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::FilesPage</name>

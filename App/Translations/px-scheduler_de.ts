@@ -289,6 +289,30 @@
         <source>its folder cannot be written to</source>
         <translation>In den Ordner kann nicht geschrieben werden</translation>
     </message>
+    <message>
+        <source>only a part of it could be read</source>
+        <translation>nur ein Teil davon konnte gelesen werden</translation>
+    </message>
+    <message>
+        <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
+        <translation>Die Einstellungsdatei war nicht zu verstehen, deshalb gelten die Voreinstellungen. Ihr Inhalt wird in %1 aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
+        <translation>Ein Teil der Einstellungen war nicht zu verwenden. Weggelassene Aufgaben: %2. Der Inhalt der Datei wird in %1 aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. What the file held is kept in %1.</source>
+        <translation>Ein Teil der Einstellungen war nicht zu verwenden. Der Inhalt der Datei wird in %1 aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
+        <translation>Ein anderes Programm hat die Einstellungsdatei geändert. Dessen Fassung wird in %1 aufbewahrt; die hier gezeigten Einstellungen gelten weiter.</translation>
+    </message>
+    <message>
+        <source>it is in use by another process</source>
+        <translation>die Datei wird von einem anderen Prozess verwendet</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::FilesPage</name>

@@ -289,6 +289,30 @@
         <source>its folder cannot be written to</source>
         <translation>its folder cannot be written to</translation>
     </message>
+    <message>
+        <source>only a part of it could be read</source>
+        <translation>only a part of it could be read</translation>
+    </message>
+    <message>
+        <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
+        <translation>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
+        <translation>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. What the file held is kept in %1.</source>
+        <translation>Some of the settings could not be used. What the file held is kept in %1.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
+        <translation>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</translation>
+    </message>
+    <message>
+        <source>it is in use by another process</source>
+        <translation>it is in use by another process</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::FilesPage</name>

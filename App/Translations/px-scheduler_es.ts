@@ -289,6 +289,30 @@
         <source>its folder cannot be written to</source>
         <translation>no se puede escribir en su carpeta</translation>
     </message>
+    <message>
+        <source>only a part of it could be read</source>
+        <translation>solo se pudo leer una parte</translation>
+    </message>
+    <message>
+        <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
+        <translation>No se pudo interpretar el archivo de configuración, por lo que se usan los valores predeterminados. Su contenido se conserva en %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
+        <translation>No se pudo usar parte de la configuración. Tareas omitidas: %2. El contenido del archivo se conserva en %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. What the file held is kept in %1.</source>
+        <translation>No se pudo usar parte de la configuración. El contenido del archivo se conserva en %1.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
+        <translation>Otro programa ha modificado el archivo de configuración. Su versión se conserva en %1; la configuración que se muestra aquí sigue en uso.</translation>
+    </message>
+    <message>
+        <source>it is in use by another process</source>
+        <translation>otro proceso lo está usando</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::FilesPage</name>

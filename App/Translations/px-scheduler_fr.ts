@@ -289,6 +289,30 @@
         <source>its folder cannot be written to</source>
         <translation>son dossier n’est pas accessible en écriture</translation>
     </message>
+    <message>
+        <source>only a part of it could be read</source>
+        <translation>seule une partie a pu être lue</translation>
+    </message>
+    <message>
+        <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
+        <translation>Le fichier de paramètres n’a pas pu être interprété ; les valeurs par défaut sont donc utilisées. Son contenu est conservé dans %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
+        <translation>Certains paramètres n’ont pas pu être utilisés. Tâches omises : %2. Le contenu du fichier est conservé dans %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. What the file held is kept in %1.</source>
+        <translation>Certains paramètres n’ont pas pu être utilisés. Le contenu du fichier est conservé dans %1.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
+        <translation>Un autre programme a modifié le fichier de paramètres. Sa version est conservée dans %1 ; les paramètres affichés ici restent en vigueur.</translation>
+    </message>
+    <message>
+        <source>it is in use by another process</source>
+        <translation>il est utilisé par un autre processus</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::FilesPage</name>

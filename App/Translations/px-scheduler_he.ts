@@ -289,6 +289,30 @@
         <source>its folder cannot be written to</source>
         <translation>אין אפשרות לכתוב בתיקייה שלו</translation>
     </message>
+    <message>
+        <source>only a part of it could be read</source>
+        <translation>ניתן היה לקרוא רק חלק ממנו</translation>
+    </message>
+    <message>
+        <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
+        <translation>לא ניתן היה להבין את קובץ ההגדרות, ולכן נעשה שימוש בברירות המחדל. תוכנו נשמר ב-%1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
+        <translation>לא ניתן היה להשתמש בחלק מההגדרות. משימות שהושמטו: %2. תוכן הקובץ נשמר ב-%1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. What the file held is kept in %1.</source>
+        <translation>לא ניתן היה להשתמש בחלק מההגדרות. תוכן הקובץ נשמר ב-%1.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
+        <translation>תוכנית אחרת שינתה את קובץ ההגדרות. הגרסה שלה נשמרה ב-%1; ההגדרות המוצגות כאן נשארות בתוקף.</translation>
+    </message>
+    <message>
+        <source>it is in use by another process</source>
+        <translation>הוא בשימוש של תהליך אחר</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::FilesPage</name>

@@ -289,6 +289,30 @@
         <source>its folder cannot be written to</source>
         <translation>la sua cartella non è scrivibile</translation>
     </message>
+    <message>
+        <source>only a part of it could be read</source>
+        <translation>è stato possibile leggerne solo una parte</translation>
+    </message>
+    <message>
+        <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
+        <translation>Il file delle impostazioni non è comprensibile, perciò si usano i valori predefiniti. Il suo contenuto è conservato in %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
+        <translation>Alcune impostazioni non sono utilizzabili. Attività tralasciate: %2. Il contenuto del file è conservato in %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. What the file held is kept in %1.</source>
+        <translation>Alcune impostazioni non sono utilizzabili. Il contenuto del file è conservato in %1.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
+        <translation>Un altro programma ha modificato il file delle impostazioni. La sua versione è conservata in %1; le impostazioni mostrate qui restano in uso.</translation>
+    </message>
+    <message>
+        <source>it is in use by another process</source>
+        <translation>è usato da un altro processo</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::FilesPage</name>

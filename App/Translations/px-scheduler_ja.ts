@@ -289,6 +289,30 @@
         <source>its folder cannot be written to</source>
         <translation>フォルダーに書き込めません</translation>
     </message>
+    <message>
+        <source>only a part of it could be read</source>
+        <translation>一部しか読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
+        <translation>設定ファイルを解釈できなかったため、既定値を使用しています。元の内容は %1 に保管されています。</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
+        <translation>一部の設定を使用できませんでした。除外されたタスク：%2。ファイルの元の内容は %1 に保管されています。</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. What the file held is kept in %1.</source>
+        <translation>一部の設定を使用できませんでした。ファイルの元の内容は %1 に保管されています。</translation>
+    </message>
+    <message>
+        <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
+        <translation>別のプログラムが設定ファイルを変更しました。変更された内容は %1 に保管され、ここに表示されている設定が引き続き使われます。</translation>
+    </message>
+    <message>
+        <source>it is in use by another process</source>
+        <translation>別のプロセスが使用中です</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::FilesPage</name>

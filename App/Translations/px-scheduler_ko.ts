@@ -289,6 +289,30 @@
         <source>its folder cannot be written to</source>
         <translation>폴더에 쓸 수 없습니다</translation>
     </message>
+    <message>
+        <source>only a part of it could be read</source>
+        <translation>일부만 읽을 수 있었습니다</translation>
+    </message>
+    <message>
+        <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
+        <translation>설정 파일을 해석할 수 없어 기본값을 사용합니다. 파일의 내용은 %1에 보관되어 있습니다.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
+        <translation>일부 설정을 사용할 수 없었습니다. 제외된 작업: %2. 파일의 내용은 %1에 보관되어 있습니다.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. What the file held is kept in %1.</source>
+        <translation>일부 설정을 사용할 수 없었습니다. 파일의 내용은 %1에 보관되어 있습니다.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
+        <translation>다른 프로그램이 설정 파일을 변경했습니다. 변경된 내용은 %1에 보관되어 있으며, 여기에 표시된 설정이 계속 사용됩니다.</translation>
+    </message>
+    <message>
+        <source>it is in use by another process</source>
+        <translation>다른 프로세스에서 사용 중입니다</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::FilesPage</name>

@@ -289,6 +289,30 @@
         <source>its folder cannot be written to</source>
         <translation>w jego folderze nie można zapisywać</translation>
     </message>
+    <message>
+        <source>only a part of it could be read</source>
+        <translation>udało się odczytać tylko część</translation>
+    </message>
+    <message>
+        <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
+        <translation>Nie udało się zinterpretować pliku ustawień, dlatego używane są wartości domyślne. Jego zawartość zachowano w %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
+        <translation>Nie można było użyć części ustawień. Pominięte zadania: %2. Zawartość pliku zachowano w %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. What the file held is kept in %1.</source>
+        <translation>Nie można było użyć części ustawień. Zawartość pliku zachowano w %1.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
+        <translation>Inny program zmienił plik ustawień. Jego wersję zachowano w %1; ustawienia widoczne tutaj nadal obowiązują.</translation>
+    </message>
+    <message>
+        <source>it is in use by another process</source>
+        <translation>jest używany przez inny proces</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::FilesPage</name>

@@ -289,6 +289,30 @@
         <source>its folder cannot be written to</source>
         <translation>não é possível gravar na pasta</translation>
     </message>
+    <message>
+        <source>only a part of it could be read</source>
+        <translation>só foi possível ler uma parte</translation>
+    </message>
+    <message>
+        <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
+        <translation>Não foi possível interpretar o arquivo de configurações; por isso, os valores padrão estão em uso. O conteúdo dele foi mantido em %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
+        <translation>Não foi possível usar algumas das configurações. Tarefas omitidas: %2. O conteúdo do arquivo foi mantido em %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. What the file held is kept in %1.</source>
+        <translation>Não foi possível usar algumas das configurações. O conteúdo do arquivo foi mantido em %1.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
+        <translation>Outro programa alterou o arquivo de configurações. A versão dele foi mantida em %1; as configurações mostradas aqui continuam em uso.</translation>
+    </message>
+    <message>
+        <source>it is in use by another process</source>
+        <translation>está sendo usado por outro processo</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::FilesPage</name>

@@ -289,6 +289,30 @@
         <source>its folder cannot be written to</source>
         <translation>нет доступа на запись в его папку</translation>
     </message>
+    <message>
+        <source>only a part of it could be read</source>
+        <translation>удалось прочитать только часть</translation>
+    </message>
+    <message>
+        <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
+        <translation>Не удалось разобрать файл настроек, поэтому используются значения по умолчанию. Его содержимое сохранено в %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
+        <translation>Часть настроек не удалось использовать. Пропущено задач: %2. Содержимое файла сохранено в %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. What the file held is kept in %1.</source>
+        <translation>Часть настроек не удалось использовать. Содержимое файла сохранено в %1.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
+        <translation>Другая программа изменила файл настроек. Её версия сохранена в %1; показанные здесь настройки продолжают действовать.</translation>
+    </message>
+    <message>
+        <source>it is in use by another process</source>
+        <translation>он используется другим процессом</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::FilesPage</name>

@@ -289,6 +289,30 @@
         <source>its folder cannot be written to</source>
         <translation>klasörüne yazılamıyor</translation>
     </message>
+    <message>
+        <source>only a part of it could be read</source>
+        <translation>yalnızca bir bölümü okunabildi</translation>
+    </message>
+    <message>
+        <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
+        <translation>Ayar dosyası anlaşılamadı, bu yüzden varsayılanlar kullanılıyor. Dosyanın içeriği şurada saklanıyor: %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
+        <translation>Ayarların bir bölümü kullanılamadı. Atlanan görevler: %2. Dosyanın içeriği şurada saklanıyor: %1.</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. What the file held is kept in %1.</source>
+        <translation>Ayarların bir bölümü kullanılamadı. Dosyanın içeriği şurada saklanıyor: %1.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
+        <translation>Başka bir program ayar dosyasını değiştirdi. Onun sürümü şurada saklanıyor: %1. Burada gösterilen ayarlar kullanılmaya devam ediyor.</translation>
+    </message>
+    <message>
+        <source>it is in use by another process</source>
+        <translation>başka bir işlem tarafından kullanılıyor</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::FilesPage</name>

@@ -289,6 +289,30 @@
         <source>its folder cannot be written to</source>
         <translation>其所在文件夹不可写</translation>
     </message>
+    <message>
+        <source>only a part of it could be read</source>
+        <translation>只能读取其中一部分</translation>
+    </message>
+    <message>
+        <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
+        <translation>无法识别设置文件，因此使用默认设置。原有内容保留在 %1 中。</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
+        <translation>部分设置无法使用。略去的任务数：%2。文件的原有内容保留在 %1 中。</translation>
+    </message>
+    <message>
+        <source>Some of the settings could not be used. What the file held is kept in %1.</source>
+        <translation>部分设置无法使用。文件的原有内容保留在 %1 中。</translation>
+    </message>
+    <message>
+        <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
+        <translation>其他程序更改了设置文件。其版本保留在 %1 中；此处显示的设置继续生效。</translation>
+    </message>
+    <message>
+        <source>it is in use by another process</source>
+        <translation>正被其他进程使用</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::FilesPage</name>
