@@ -15,6 +15,7 @@
 #include "PanelAnnouncer.h"
 #include "PanelFormAssistant.h"
 #include "PanelFormKeys.h"
+#include "PanelFormMemory.h"
 #include "PanelListHeight.h"
 #include "PanelListKeys.h"
 #include "PanelMouse.h"
@@ -91,6 +92,7 @@ void SchedulePage::AssistPanel()
     new PanelListKeys(m_panel);
     new PanelFormAssistant(m_panel, m_store);
     new PanelFormKeys(m_panel);
+    m_formMemory = new PanelFormMemory(m_panel, m_store);
     new RadioGroupTabStop(m_parts->modeGroup);
     new RadioGroupTabStop(m_parts->areaGroup);
     new PanelMouse(m_panel);
@@ -183,6 +185,11 @@ bool SchedulePage::FinishInput()
     const QPointer<SchedulePage> self(this);
     m_parts->backButton->click();
     return !self.isNull() && !HasUnfinishedInput();
+}
+
+void SchedulePage::RememberInput()
+{
+    m_formMemory->Remember();
 }
 
 void SchedulePage::FocusInput()

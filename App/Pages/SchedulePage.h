@@ -22,6 +22,7 @@ class RecordSchedulerWidget;
 
 namespace Zentor::Desktop {
 
+class PanelFormMemory;
 class PanelListHeight;
 
 /// The page "Schedule": the scheduler panel on the settings of the application, with what it lacks
@@ -55,6 +56,8 @@ public:
     bool HasUnfinishedInput() const override;
     bool FinishInput() override;
     void FocusInput() override;
+    /// Stores an unfinished task, with which the form opens at the next start.
+    void RememberInput();
 
     /// Places a new panel behind \a widget, which must outlive the page, in the tab order.
     void SetTabPredecessor(QWidget* widget) { m_tabPredecessor = widget; }
@@ -87,6 +90,7 @@ private:
     PX::Scheduler::UI::RecordSchedulerWidget* m_panel = nullptr;
     std::unique_ptr<PanelParts> m_parts;
     QPointer<PanelAnnouncer> m_announcer;
+    PanelFormMemory* m_formMemory = nullptr;
     PanelListHeight* m_listHeight = nullptr;
     int m_room = 0;
     QWidget* m_tabPredecessor = nullptr;

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSessionManager>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -21,7 +22,9 @@
 #include "MainWindow.h"
 #include "Resources.h"
 #include "ScreenshotTour.h"
+#include "TerminationSignals.h"
 #include "TourScript.h"
+#include "UnfinishedTask.h"
 
 namespace Zentor::Desktop {
 namespace {
@@ -87,9 +90,38 @@ QString Open(PX::SettingsStore& store, const CommandLine& line)
     Translations translations;
     translations.Use(LanguageFor(line.language));
     store.AddSection(ApplicationSettingsSection());
+    store.AddSection(UnfinishedTaskSection());
     QString reason;
     store.Open(&reason);
     return reason;
+}
+
+/// Lets the end of the desktop's session save \a window, and not ask.
+void FollowSession(MainWindow& window)
+{
+    // Qt's own way is to close the windows, which may ask.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
+    QObject::connect(
+        qGuiApp, &QGuiApplication::commitDataRequest, &window, [&] { window.SaveUnattended(); },
+        Qt::DirectConnection);
+    QObject::connect(
+        qGuiApp, &QGuiApplication::saveStateRequest, &window,
+        [](QSessionManager& manager) {
+            // Qt's own would add the name of the session, which is no option of ours.
+            manager.setRestartCommand(QCoreApplication::arguments());
+        },
+        Qt::DirectConnection);
+}
+
+int RunWindow(MainWindow& window)
+{
+    const TerminationSignals signalsToEnd;
+    // Also out of the loop of an open box, whose question stays unanswered.
+    QObject::connect(&signalsToEnd, &TerminationSignals::Received, &window,
+                     [&] { QCoreApplication::exit(window.SaveUnattended() ? 0 : ExitFailed); });
+    FollowSession(window);
+    window.show();
+    return QApplication::exec();
 }
 
 /// Runs the window on the settings in \a file, whatever they are.
@@ -108,8 +140,7 @@ int RunOn(const QString& file, const CommandLine& line)
     if (!line.screenshotsFolder.isEmpty()) {
         return RunTour(window, line.screenshotsFolder);
     }
-    window.show();
-    return QApplication::exec();
+    return RunWindow(window);
 }
 
 /// Runs the tour on a copy: it deletes tasks, which it must not do to the user's own.

@@ -255,6 +255,14 @@ void MainWindow::RememberPlace()
     });
 }
 
+bool MainWindow::SaveUnattended()
+{
+    m_schedulePage->RememberInput();
+    ApplyPages();
+    RememberPlace();
+    return m_store->Flush();
+}
+
 void MainWindow::Retranslate()
 {
     const QString name = tr("Recording Scheduler");

@@ -46,6 +46,10 @@ public:
     /// there is no such page.
     void ShowPage(const QString& id);
 
+    /// Saves everything without a question: the program is about to be ended. A task form that is
+    /// open is remembered as it is. Whether everything is saved.
+    bool SaveUnattended();
+
 protected:
     void changeEvent(QEvent* event) override;
     /// Asks before closing when input is unfinished and when the settings could not be saved.

@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "ApplicationSettings.h"
+#include "UnfinishedTask.h"
 
 namespace Zentor::Tests {
 
@@ -15,6 +16,7 @@ inline std::shared_ptr<PX::SettingsStore> OpenStoreIn(const QTemporaryDir& folde
     auto store =
         std::make_shared<PX::SettingsStore>(folder.filePath(QStringLiteral("settings.json")));
     store->AddSection(Desktop::ApplicationSettingsSection());
+    store->AddSection(Desktop::UnfinishedTaskSection());
     QString error;
     if (!store->Open(&error)) {
         qFatal("%s", qPrintable(error));
