@@ -17,6 +17,7 @@
 #include "Application/LookAndFeelManager.h"
 #include "ApplicationSettings.h"
 #include "CommandLine.h"
+#include "Instance.h"
 #include "Languages.h"
 #include "Log.h"
 #include "MainWindow.h"
@@ -113,8 +114,20 @@ void FollowSession(MainWindow& window)
         Qt::DirectConnection);
 }
 
-int RunWindow(MainWindow& window)
+void Raise(MainWindow& window, const QVariantMap& platformData)
 {
+    const QString token = platformData.value(QStringLiteral("activation-token")).toString();
+    if (!token.isEmpty()) {
+        // Where Qt's Wayland platform looks for it.
+        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+    }
+    window.Raise();
+}
+
+int RunWindow(MainWindow& window, const Instance& instance)
+{
+    QObject::connect(&instance, &Instance::Activated, &window,
+                     [&](const QVariantMap& platformData) { Raise(window, platformData); });
     const TerminationSignals signalsToEnd;
     // Also out of the loop of an open box, whose question stays unanswered.
     QObject::connect(&signalsToEnd, &TerminationSignals::Received, &window,
@@ -124,8 +137,8 @@ int RunWindow(MainWindow& window)
     return QApplication::exec();
 }
 
-/// Runs the window on the settings in \a file, whatever they are.
-int RunOn(const QString& file, const CommandLine& line)
+/// Runs the tour or, as \a instance, the window on the settings in \a file, whatever they are.
+int RunOn(const QString& file, const CommandLine& line, const Instance* instance)
 {
     LOG(INFO) << "Zentor::Desktop::RunOn: version=" << PX_VERSION
               << "; settings=" << file.toStdString();
@@ -137,10 +150,8 @@ int RunOn(const QString& file, const CommandLine& line)
     const auto lookAndFeel = std::make_shared<App::LookAndFeelManager>();
     const Appearance appearance(store, lookAndFeel, {line.language, line.theme});
     MainWindow window(store, lookAndFeel);
-    if (!line.screenshotsFolder.isEmpty()) {
-        return RunTour(window, line.screenshotsFolder);
-    }
-    return RunWindow(window);
+    return instance == nullptr ? RunTour(window, line.screenshotsFolder)
+                               : RunWindow(window, *instance);
 }
 
 /// Runs the tour on a copy: it deletes tasks, which it must not do to the user's own.
@@ -156,7 +167,15 @@ int RunOnCopy(const CommandLine& line)
                           .arg(original, source.errorString()));
     }
     QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
-    return RunOn(copy, line);
+    return RunOn(copy, line, nullptr);
+}
+
+/// Runs the window, unless there is one on these settings: then that one is raised.
+int RunOnce(const CommandLine& line, const QVariantMap& platformData)
+{
+    const QString file = line.settingsFile.isEmpty() ? DefaultSettingsFile() : line.settingsFile;
+    Instance instance(file, DefaultSettingsFile());
+    return instance.IsFirst(platformData) ? RunOn(file, line, &instance) : 0;
 }
 
 } // namespace
@@ -179,13 +198,11 @@ int RunApplication(int argc, char** argv)
     KeepLog();
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QVariantMap platformData = PlatformDataOfStart();
     const QApplication application(argc, argv);
     // So that the desktop finds name and icon of the window in the installed desktop entry.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.zentor.PxScheduler"));
-    if (!line.screenshotsFolder.isEmpty()) {
-        return RunOnCopy(line);
-    }
-    return RunOn(line.settingsFile.isEmpty() ? DefaultSettingsFile() : line.settingsFile, line);
+    return line.screenshotsFolder.isEmpty() ? RunOnce(line, platformData) : RunOnCopy(line);
 }
 
 } // namespace Zentor::Desktop

@@ -255,6 +255,19 @@ void MainWindow::RememberPlace()
     });
 }
 
+void MainWindow::Raise()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    QWidget* box = QApplication::activeModalWidget();
+    for (QWidget* window : {static_cast<QWidget*>(this), box}) {
+        if (window != nullptr) {
+            window->raise();
+            window->activateWindow();
+        }
+    }
+}
+
 bool MainWindow::SaveUnattended()
 {
     m_schedulePage->RememberInput();

@@ -46,6 +46,9 @@ public:
     /// there is no such page.
     void ShowPage(const QString& id);
 
+    /// Brings the window to the front, and with it the box that it waits for.
+    void Raise();
+
     /// Saves everything without a question: the program is about to be ended. A task form that is
     /// open is remembered as it is. Whether everything is saved.
     bool SaveUnattended();
