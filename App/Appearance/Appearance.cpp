@@ -15,9 +15,9 @@ Look LookIn(const PX::SettingsStore& store)
     return {settings.language, settings.theme};
 }
 
-QString FirstOf(const QString& wanted, const QString& otherwise)
+QString FirstOf(const QString& ofRun, const QString& stored)
 {
-    return wanted.isEmpty() ? otherwise : wanted;
+    return ofRun.isEmpty() ? stored : ofRun;
 }
 
 } // namespace
@@ -27,7 +27,7 @@ Appearance::Appearance(std::shared_ptr<PX::SettingsStore> store,
     : m_store(std::move(store))
     , m_lookAndFeel(std::move(lookAndFeel))
     , m_stored(LookIn(*m_store))
-    , m_wanted{FirstOf(wanted.language, m_stored.language), FirstOf(wanted.theme, m_stored.theme)}
+    , m_ofRun(wanted)
 {
     UseLanguage();
     UseTheme();
@@ -41,26 +41,42 @@ void Appearance::TakeOverChanges()
 {
     const Look before = std::exchange(m_stored, LookIn(*m_store));
     if (m_stored.language != before.language) {
-        m_wanted.language = m_stored.language;
+        m_ofRun.language.clear();
         UseLanguage();
     }
     if (m_stored.theme != before.theme) {
-        m_wanted.theme = m_stored.theme;
+        m_ofRun.theme.clear();
     }
+    UseTheme();
+}
+
+void Appearance::UseStoredLanguage()
+{
+    if (!m_ofRun.language.isEmpty()) {
+        m_ofRun.language.clear();
+        UseLanguage();
+        UseTheme();
+    }
+}
+
+void Appearance::UseStoredTheme()
+{
+    m_ofRun.theme.clear();
     UseTheme();
 }
 
 void Appearance::UseLanguage()
 {
-    const QString code = LanguageFor(m_wanted.language);
+    const QString code = LanguageFor(FirstOf(m_ofRun.language, m_stored.language));
     m_lookAndFeel->SetLanguage(LocaleOf(code).name().toStdString());
     m_translations.Use(code);
 }
 
 void Appearance::UseTheme()
 {
-    const std::pair wanted(ThemeFromName(m_wanted.theme, m_desktop.Current()),
-                           QGuiApplication::layoutDirection());
+    const std::pair wanted(
+        ThemeFromName(FirstOf(m_ofRun.theme, m_stored.theme), m_desktop.Current()),
+        QGuiApplication::layoutDirection());
     if (m_applied != wanted) {
         m_applied = wanted;
         ApplyTheme(wanted.first);

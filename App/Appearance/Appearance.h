@@ -45,6 +45,13 @@ public:
                std::shared_ptr<App::LookAndFeelManager> lookAndFeel, const Look& wanted);
     ~Appearance() override;
 
+    /// What of \a wanted still takes the place of the settings.
+    const Look& LookOfRun() const { return m_ofRun; }
+
+    /// From now on the language, or the theme, in the settings counts.
+    void UseStoredLanguage();
+    void UseStoredTheme();
+
 private:
     void TakeOverChanges();
     void UseLanguage();
@@ -58,7 +65,7 @@ private:
     Translations m_translations;
     /// What the settings held last.
     Look m_stored;
-    Look m_wanted;
+    Look m_ofRun;
     /// What the style sheet was set for last.
     std::optional<std::pair<Theme, Qt::LayoutDirection>> m_applied;
 };

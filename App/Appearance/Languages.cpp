@@ -57,25 +57,33 @@ QLocale LocaleOf(const QString& code)
     return QLocale(code);
 }
 
-QString BestLanguage(const QStringList& wanted)
+QString OfferedLanguage(const QString& name)
 {
-    const QStringList codes = LanguageCodes();
-    for (QString name : wanted) {
-        name.replace(QLatin1Char('-'), QLatin1Char('_'));
-        const QLocale locale(name);
-        if (locale.language() == QLocale::C) {
-            continue;
-        }
-        // QLocale knows that "zh_Hans" is at home in China and "pt" in Brazil.
-        const QString withRegion = locale.name();
-        const QString withoutRegion = withRegion.section(QLatin1Char('_'), 0, 0);
-        for (const QString& code : {name, withRegion, withoutRegion}) {
-            if (codes.contains(code)) {
-                return code;
-            }
+    const QString underscored = QString(name).replace(QLatin1Char('-'), QLatin1Char('_'));
+    const QLocale locale(underscored);
+    if (locale.language() == QLocale::C) {
+        return {};
+    }
+    // QLocale knows that "zh_Hans" is at home in China and "pt" in Brazil.
+    const QString withRegion = locale.name();
+    const QString withoutRegion = withRegion.section(QLatin1Char('_'), 0, 0);
+    for (const QString& code : {underscored, withRegion, withoutRegion}) {
+        if (IsLanguage(code)) {
+            return code;
         }
     }
-    return codes.constFirst();
+    return {};
+}
+
+QString BestLanguage(const QStringList& wanted)
+{
+    for (const QString& name : wanted) {
+        const QString code = OfferedLanguage(name);
+        if (!code.isEmpty()) {
+            return code;
+        }
+    }
+    return LanguageCodes().constFirst();
 }
 
 QString LanguageFor(const QString& wanted)

@@ -24,8 +24,11 @@ QString LanguageName(const QString& code);
 /// 9 in every language.
 QLocale LocaleOf(const QString& code);
 
+/// The offered language that \a name (such as "de", "de-AT" or "pt_BR") stands for; empty when
+/// there is none. A region that is not offered falls back on its language: "de-AT" gives "de".
+QString OfferedLanguage(const QString& name);
+
 /// The first of \a wanted (names such as "de-AT" or "pt_BR", best first) that is offered, or "en".
-/// A region that is not offered falls back on its language: "de-AT" gives "de".
 QString BestLanguage(const QStringList& wanted);
 
 /// BestLanguage() of \a wanted, which may be empty, and after it of the system's languages.

@@ -31,6 +31,20 @@ QString PathOf(const QString& text)
     return trimmed.isEmpty() ? QString() : QDir::cleanPath(QDir::fromNativeSeparators(trimmed));
 }
 
+/// \a text for a sentence, in which it keeps the order of its own writing direction.
+QString Isolated(const QString& text)
+{
+    constexpr char16_t firstStrongIsolate = 0x2068;
+    constexpr char16_t popDirectionalIsolate = 0x2069;
+    return QChar(firstStrongIsolate) + text + QChar(popDirectionalIsolate);
+}
+
+/// In RTL layouts a number and a Latin unit would change places.
+QString SizeText(std::int64_t bytes)
+{
+    return Isolated(QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat));
+}
+
 } // namespace
 
 FilesPage::FilesPage(std::shared_ptr<PX::SettingsStore> store, QWidget* parent)
@@ -145,10 +159,8 @@ void FilesPage::ShowStored()
 void FilesPage::ShowFreeSpace()
 {
     const std::int64_t bytes = FreeSpace(m_store->Settings().resultsFolderPath);
-    m_freeSpaceLabel->setText(
-        bytes < 0 ? tr("The free space of this folder cannot be told.")
-                  : tr("Free space: %1")
-                        .arg(QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat)));
+    m_freeSpaceLabel->setText(bytes < 0 ? tr("The free space of this folder is unknown.")
+                                        : tr("Free space: %1").arg(SizeText(bytes)));
 }
 
 void FilesPage::ShowProblem(const QString& problem)

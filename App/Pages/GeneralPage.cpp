@@ -14,6 +14,7 @@
 #include <QShowEvent>
 #include <QUrl>
 
+#include "Appearance.h"
 #include "Application/SettingsManager.h"
 #include "ApplicationSettings.h"
 #include "Controls.h"
@@ -22,6 +23,17 @@
 #include "Theme.h"
 
 namespace Zentor::Desktop {
+namespace {
+
+/// The line below a choice that an option of the command line stands in for.
+QLabel* CreateOfRunLabel(const QString& objectName, QWidget* parent)
+{
+    QLabel* label = CreateLabel(objectName, parent);
+    label->hide();
+    return label;
+}
+
+} // namespace
 
 GeneralPage::GeneralPage(std::shared_ptr<PX::SettingsStore> store, QWidget* parent)
     : Page(PageId(), parent)
@@ -64,18 +76,22 @@ QFrame* GeneralPage::CreateLookCard()
     m_languageBox = CreateComboBox(QStringLiteral("languageBox"),
                                    QStringList{QString()} + LanguageCodes(), card);
     m_languageLabel->setBuddy(m_languageBox);
+    m_languageOfRunLabel = CreateOfRunLabel(QStringLiteral("languageOfRunLabel"), card);
     m_themeLabel = CreateLabel(QStringLiteral("themeLabel"), card);
     m_themeBox =
         CreateComboBox(QStringLiteral("themeBox"), QStringList{QString()} + ThemeNames(), card);
     m_themeLabel->setBuddy(m_themeBox);
+    m_themeOfRunLabel = CreateOfRunLabel(QStringLiteral("themeOfRunLabel"), card);
 
     auto* grid = new QGridLayout(card);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(ControlSpacing);
     grid->addWidget(m_languageLabel, 0, 0);
     grid->addWidget(m_languageBox, 0, 1);
-    grid->addWidget(m_themeLabel, 1, 0);
-    grid->addWidget(m_themeBox, 1, 1);
+    grid->addWidget(m_languageOfRunLabel, 1, 0, 1, 2);
+    grid->addWidget(m_themeLabel, 2, 0);
+    grid->addWidget(m_themeBox, 2, 1);
+    grid->addWidget(m_themeOfRunLabel, 3, 0, 1, 2);
     grid->setColumnStretch(0, 1);
     return card;
 }
@@ -122,10 +138,18 @@ void GeneralPage::Connect()
     connect(m_languageBox, qOverload<int>(&QComboBox::activated), this, [this](int index) {
         const QString code = m_languageBox->itemData(index).toString();
         ChangeApplicationSettings(*m_store, [&](auto& settings) { settings.language = code; });
+        if (m_appearance != nullptr) {
+            m_appearance->UseStoredLanguage();
+        }
+        ShowLookOfRun();
     });
     connect(m_themeBox, qOverload<int>(&QComboBox::activated), this, [this](int index) {
         const QString name = m_themeBox->itemData(index).toString();
         ChangeApplicationSettings(*m_store, [&](auto& settings) { settings.theme = name; });
+        if (m_appearance != nullptr) {
+            m_appearance->UseStoredTheme();
+        }
+        ShowLookOfRun();
     });
     connect(m_askAgainButton, &QPushButton::clicked, this, &GeneralPage::ForgetAnswers);
     connect(m_openFolderButton, &QPushButton::clicked, this,
@@ -159,14 +183,33 @@ void GeneralPage::Retranslate()
 void GeneralPage::ShowStored()
 {
     const ApplicationSettings settings = ApplicationSettingsIn(*m_store);
-    SelectValue(*m_languageBox, settings.language);
+    SelectValue(*m_languageBox, OfferedLanguage(settings.language));
     SelectValue(*m_themeBox, settings.theme);
+    ShowLookOfRun();
     const auto& answers = m_store->Settings().confirmations;
     const bool isSomeForgone = std::find(answers.begin(), answers.end(), true) != answers.end();
     m_askAgainButton->setEnabled(isSomeForgone);
     m_questionsLabel->setText(
         isSomeForgone ? tr("Some questions are no longer asked.")
                       : tr("Every question is asked, for example before a task is deleted."));
+}
+
+void GeneralPage::Follow(Appearance& appearance)
+{
+    m_appearance = &appearance;
+    ShowLookOfRun();
+}
+
+void GeneralPage::ShowLookOfRun()
+{
+    const Look look = m_appearance == nullptr ? Look() : m_appearance->LookOfRun();
+    const auto show = [](QLabel& label, const QComboBox& box, const QString& value) {
+        label.setText(
+            tr("In this run: %1 (chosen at the start)").arg(box.itemText(box.findData(value))));
+        label.setVisible(!value.isEmpty());
+    };
+    show(*m_languageOfRunLabel, *m_languageBox, look.language);
+    show(*m_themeOfRunLabel, *m_themeBox, look.theme);
 }
 
 void GeneralPage::ShowLog()

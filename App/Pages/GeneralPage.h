@@ -15,6 +15,8 @@ class SettingsStore;
 
 namespace Zentor::Desktop {
 
+class Appearance;
+
 /// The page "General": language and theme, the questions that are no longer asked,
 /// and where settings and log are.
 ///
@@ -25,6 +27,10 @@ class GeneralPage final : public Page {
 public:
     GeneralPage(std::shared_ptr<PX::SettingsStore> store, QWidget* parent);
     ~GeneralPage() override;
+
+    /// Shows what \a appearance, which outlives the page, was told at the start, until something is
+    /// chosen here.
+    void Follow(Appearance& appearance);
 
     /// The Id() of this page.
     static QString PageId();
@@ -43,6 +49,7 @@ private:
     void Connect();
     void Retranslate();
     void ShowStored();
+    void ShowLookOfRun();
     void ShowLog();
     void ForgetAnswers();
     void OpenLog();
@@ -51,10 +58,13 @@ private:
     void ShowProblem(const QString& problem);
 
     std::shared_ptr<PX::SettingsStore> m_store;
+    Appearance* m_appearance = nullptr;
     QLabel* m_languageLabel = nullptr;
     QComboBox* m_languageBox = nullptr;
+    QLabel* m_languageOfRunLabel = nullptr;
     QLabel* m_themeLabel = nullptr;
     QComboBox* m_themeBox = nullptr;
+    QLabel* m_themeOfRunLabel = nullptr;
     QLabel* m_questionsLabel = nullptr;
     QPushButton* m_askAgainButton = nullptr;
     QLabel* m_supportLabel = nullptr;

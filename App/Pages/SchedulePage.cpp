@@ -58,7 +58,9 @@ QString SchedulePage::Title() const
 
 QString SchedulePage::Description() const
 {
-    return tr("Choose when a recording stops or starts by itself.");
+    return tr(
+        "Choose when a recording stops or starts by itself. Your choice is kept; this version "
+        "does not record yet.");
 }
 
 void SchedulePage::CreatePanel()

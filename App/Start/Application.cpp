@@ -2,6 +2,8 @@
 
 #include <cstdio>
 #include <memory>
+#include <optional>
+#include <utility>
 
 #include <QApplication>
 #include <QDir>
@@ -38,9 +40,18 @@ void PrintLine(FILE* stream, const QString& text)
     std::fprintf(stream, "%s\n", qUtf8Printable(text));
 }
 
+class Text {
+    Q_DECLARE_TR_FUNCTIONS(Application)
+};
+
+void PrintProblem(const QString& problem)
+{
+    PrintLine(stderr, Text::tr("%1: %2").arg(QCoreApplication::applicationName(), problem));
+}
+
 int Refuse(const QString& reason)
 {
-    PrintLine(stderr, QStringLiteral("px-scheduler: %1").arg(reason));
+    PrintProblem(reason);
     return ExitRefused;
 }
 
@@ -79,17 +90,14 @@ int RunTour(MainWindow& window, const QString& folder)
     tour.Start();
     const int result = QApplication::exec();
     if (!problem.isEmpty()) {
-        PrintLine(stderr, QStringLiteral("px-scheduler: %1").arg(problem));
+        PrintProblem(problem);
     }
     return result;
 }
 
 /// Opens \a store. Returns the reason of a failure, or nothing.
-QString Open(PX::SettingsStore& store, const CommandLine& line)
+QString Open(PX::SettingsStore& store)
 {
-    // Which language the user has chosen is not known yet.
-    Translations translations;
-    translations.Use(LanguageFor(line.language));
     store.AddSection(ApplicationSettingsSection());
     store.AddSection(UnfinishedTaskSection());
     QString reason;
@@ -143,13 +151,18 @@ int RunOn(const QString& file, const CommandLine& line, const Instance* instance
     LOG(INFO) << "Zentor::Desktop::RunOn: version=" << PX_VERSION
               << "; settings=" << file.toStdString();
     const auto store = std::make_shared<PX::SettingsStore>(file);
-    const QString problem = Open(*store, line);
+    // Which language the user has chosen is not known before the settings are.
+    std::optional<Translations> translations(std::in_place);
+    translations->Use(LanguageFor(line.language));
+    const QString problem = Open(*store);
     if (!problem.isEmpty()) {
         return Refuse(problem);
     }
+    translations.reset();
     const auto lookAndFeel = std::make_shared<App::LookAndFeelManager>();
-    const Appearance appearance(store, lookAndFeel, {line.language, line.theme});
+    Appearance appearance(store, lookAndFeel, {line.language, line.theme});
     MainWindow window(store, lookAndFeel);
+    window.Follow(appearance);
     return instance == nullptr ? RunTour(window, line.screenshotsFolder)
                                : RunWindow(window, *instance);
 }
@@ -161,10 +174,14 @@ int RunOnCopy(const CommandLine& line)
         line.settingsFile.isEmpty() ? QStringLiteral(":/samples/settings.json") : line.settingsFile;
     const QTemporaryDir folder;
     const QString copy = folder.filePath(QStringLiteral("settings.json"));
-    QFile source(original);
-    if (!source.copy(copy)) {
-        return Refuse(QStringLiteral("cannot copy the settings file %1: %2")
-                          .arg(original, source.errorString()));
+    {
+        Translations translations;
+        translations.Use(LanguageFor(line.language));
+        QFile source(original);
+        if (!source.copy(copy)) {
+            return Refuse(Text::tr("cannot copy the settings file %1: %2")
+                              .arg(original, source.errorString()));
+        }
     }
     QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
     return RunOn(copy, line, nullptr);

@@ -19,7 +19,7 @@ struct Options {
         Text::tr("Keep the settings in <file> instead of the platform's configuration folder."),
         QStringLiteral("file")};
     QCommandLineOption language{QStringLiteral("language"),
-                                Text::tr("Speak <language> in this run, for example de or pt_BR."),
+                                Text::tr("Use <language> in this run, for example de or pt_BR."),
                                 QStringLiteral("language")};
     QCommandLineOption theme{QStringLiteral("theme"),
                              Text::tr("Use the theme light or dark in this run."),

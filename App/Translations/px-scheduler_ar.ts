@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar" sourcelanguage="en">
 <context>
+    <name>Application</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>cannot copy the settings file %1: %2</source>
+        <translation>تعذّر نسخ ملف الإعدادات %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CaptureControllerWrapper</name>
     <message>
         <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
@@ -19,7 +30,7 @@
         <translation>حفظ الإعدادات في &lt;file&gt; بدلًا من مجلد الإعدادات في النظام.</translation>
     </message>
     <message>
-        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <source>Use &lt;language&gt; in this run, for example de or pt_BR.</source>
         <translation>استخدام اللغة &lt;language&gt; في هذا التشغيل، مثل de أو pt_BR.</translation>
     </message>
     <message>
@@ -345,7 +356,7 @@
         <translation>ليس لديك إذن بالكتابة في هذا المجلد.</translation>
     </message>
     <message>
-        <source>The free space of this folder cannot be told.</source>
+        <source>The free space of this folder is unknown.</source>
         <translation>المساحة الحرة لهذا المجلد غير معروفة.</translation>
     </message>
     <message>
@@ -363,6 +374,10 @@
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
+    <message>
+        <source>In this run: %1 (chosen at the start)</source>
+        <translation>في هذا التشغيل: %1 (اختير عند البدء)</translation>
+    </message>
     <message>
         <source>&amp;Language:</source>
         <translation>اللغة (&amp;غ):</translation>
@@ -489,8 +504,8 @@
         <translation>الجدول</translation>
     </message>
     <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>اختر متى يتوقف التسجيل أو يبدأ تلقائيًا.</translation>
+        <source>Choose when a recording stops or starts by itself. Your choice is kept; this version does not record yet.</source>
+        <translation>اختر متى يتوقف التسجيل أو يبدأ تلقائيًا. يُحتفظ باختيارك، لكن هذا الإصدار لا يسجّل بعد.</translation>
     </message>
     <message>
         <source>Recording schedule</source>

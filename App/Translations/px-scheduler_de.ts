@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Application</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>cannot copy the settings file %1: %2</source>
+        <translation>Die Einstellungsdatei %1 kann nicht kopiert werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>CaptureControllerWrapper</name>
     <message>
         <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
@@ -19,8 +30,8 @@
         <translation>Die Einstellungen in &lt;file&gt; statt im Konfigurationsordner des Systems aufbewahren.</translation>
     </message>
     <message>
-        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
-        <translation>In diesem Lauf &lt;language&gt; sprechen, zum Beispiel de oder pt_BR.</translation>
+        <source>Use &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>In diesem Lauf die Sprache &lt;language&gt; verwenden, zum Beispiel de oder pt_BR.</translation>
     </message>
     <message>
         <source>Use the theme light or dark in this run.</source>
@@ -345,7 +356,7 @@
         <translation>Sie dürfen in diesen Ordner nicht schreiben.</translation>
     </message>
     <message>
-        <source>The free space of this folder cannot be told.</source>
+        <source>The free space of this folder is unknown.</source>
         <translation>Der freie Speicherplatz dieses Ordners ist nicht bekannt.</translation>
     </message>
     <message>
@@ -363,6 +374,10 @@
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
+    <message>
+        <source>In this run: %1 (chosen at the start)</source>
+        <translation>In diesem Lauf: %1 (beim Start gewählt)</translation>
+    </message>
     <message>
         <source>&amp;Language:</source>
         <translation>Sp&amp;rache:</translation>
@@ -489,8 +504,8 @@
         <translation>Zeitplan</translation>
     </message>
     <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Legen Sie fest, wann eine Aufnahme von selbst endet oder beginnt.</translation>
+        <source>Choose when a recording stops or starts by itself. Your choice is kept; this version does not record yet.</source>
+        <translation>Legen Sie fest, wann eine Aufnahme von selbst endet oder beginnt. Ihre Wahl wird aufbewahrt; diese Version nimmt noch nicht auf.</translation>
     </message>
     <message>
         <source>Recording schedule</source>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>Application</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>cannot copy the settings file %1: %2</source>
+        <translation>no se puede copiar el archivo de configuración %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CaptureControllerWrapper</name>
     <message>
         <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
@@ -19,7 +30,7 @@
         <translation>Guardar la configuración en &lt;file&gt; en lugar de la carpeta de configuración del sistema.</translation>
     </message>
     <message>
-        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <source>Use &lt;language&gt; in this run, for example de or pt_BR.</source>
         <translation>Usar &lt;language&gt; en esta ejecución, por ejemplo de o pt_BR.</translation>
     </message>
     <message>
@@ -345,7 +356,7 @@
         <translation>No tiene permiso para escribir en esta carpeta.</translation>
     </message>
     <message>
-        <source>The free space of this folder cannot be told.</source>
+        <source>The free space of this folder is unknown.</source>
         <translation>Se desconoce el espacio libre de esta carpeta.</translation>
     </message>
     <message>
@@ -363,6 +374,10 @@
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
+    <message>
+        <source>In this run: %1 (chosen at the start)</source>
+        <translation>En esta ejecución: %1 (elegido al iniciar)</translation>
+    </message>
     <message>
         <source>&amp;Language:</source>
         <translation>Idio&amp;ma:</translation>
@@ -489,8 +504,8 @@
         <translation>Programación</translation>
     </message>
     <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Elija cuándo se detiene o se inicia una grabación automáticamente.</translation>
+        <source>Choose when a recording stops or starts by itself. Your choice is kept; this version does not record yet.</source>
+        <translation>Elija cuándo se detiene o se inicia una grabación automáticamente. Su elección se guarda; esta versión aún no graba.</translation>
     </message>
     <message>
         <source>Recording schedule</source>

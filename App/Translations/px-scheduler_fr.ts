@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>Application</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>cannot copy the settings file %1: %2</source>
+        <translation>impossible de copier le fichier de paramètres %1 : %2</translation>
+    </message>
+</context>
+<context>
     <name>CaptureControllerWrapper</name>
     <message>
         <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
@@ -19,8 +30,8 @@
         <translation>Conserver les paramètres dans &lt;file&gt; au lieu du dossier de configuration du système.</translation>
     </message>
     <message>
-        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
-        <translation>Parler &lt;language&gt; lors de cette exécution, par exemple de ou pt_BR.</translation>
+        <source>Use &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <translation>Utiliser la langue &lt;language&gt; lors de cette exécution, par exemple de ou pt_BR.</translation>
     </message>
     <message>
         <source>Use the theme light or dark in this run.</source>
@@ -345,7 +356,7 @@
         <translation>Vous n’êtes pas autorisé à écrire dans ce dossier.</translation>
     </message>
     <message>
-        <source>The free space of this folder cannot be told.</source>
+        <source>The free space of this folder is unknown.</source>
         <translation>L’espace libre de ce dossier est inconnu.</translation>
     </message>
     <message>
@@ -363,6 +374,10 @@
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
+    <message>
+        <source>In this run: %1 (chosen at the start)</source>
+        <translation>Pour cette exécution : %1 (choisi au démarrage)</translation>
+    </message>
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Langue :</translation>
@@ -489,8 +504,8 @@
         <translation>Planning</translation>
     </message>
     <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Choisissez quand un enregistrement démarre ou s’arrête automatiquement.</translation>
+        <source>Choose when a recording stops or starts by itself. Your choice is kept; this version does not record yet.</source>
+        <translation>Choisissez quand un enregistrement démarre ou s’arrête automatiquement. Votre choix est conservé ; cette version n’enregistre pas encore.</translation>
     </message>
     <message>
         <source>Recording schedule</source>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="he" sourcelanguage="en">
 <context>
+    <name>Application</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>cannot copy the settings file %1: %2</source>
+        <translation>לא ניתן להעתיק את קובץ ההגדרות %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CaptureControllerWrapper</name>
     <message>
         <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
@@ -19,7 +30,7 @@
         <translation>לשמור את ההגדרות בקובץ &lt;file&gt; במקום בתיקיית ההגדרות של המערכת.</translation>
     </message>
     <message>
-        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <source>Use &lt;language&gt; in this run, for example de or pt_BR.</source>
         <translation>להשתמש בשפה &lt;language&gt; בהרצה זו, לדוגמה de או pt_BR.</translation>
     </message>
     <message>
@@ -345,7 +356,7 @@
         <translation>אין לך הרשאה לכתוב בתיקייה הזו.</translation>
     </message>
     <message>
-        <source>The free space of this folder cannot be told.</source>
+        <source>The free space of this folder is unknown.</source>
         <translation>המקום הפנוי בתיקייה הזו אינו ידוע.</translation>
     </message>
     <message>
@@ -363,6 +374,10 @@
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
+    <message>
+        <source>In this run: %1 (chosen at the start)</source>
+        <translation>בהרצה זו: %1 (נבחר בהפעלה)</translation>
+    </message>
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;שפה:</translation>
@@ -489,8 +504,8 @@
         <translation>לוח זמנים</translation>
     </message>
     <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>בחרו מתי הקלטה תיעצר או תתחיל מעצמה.</translation>
+        <source>Choose when a recording stops or starts by itself. Your choice is kept; this version does not record yet.</source>
+        <translation>בחרו מתי הקלטה תיעצר או תתחיל מעצמה. בחירתכם נשמרת; גרסה זו עדיין אינה מקליטה.</translation>
     </message>
     <message>
         <source>Recording schedule</source>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>Application</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>cannot copy the settings file %1: %2</source>
+        <translation>impossibile copiare il file delle impostazioni %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CaptureControllerWrapper</name>
     <message>
         <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
@@ -19,7 +30,7 @@
         <translation>Conserva le impostazioni in &lt;file&gt; anziché nella cartella di configurazione del sistema.</translation>
     </message>
     <message>
-        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <source>Use &lt;language&gt; in this run, for example de or pt_BR.</source>
         <translation>Usa &lt;language&gt; in questa esecuzione, per esempio de o pt_BR.</translation>
     </message>
     <message>
@@ -345,7 +356,7 @@
         <translation>Non hai l’autorizzazione a scrivere in questa cartella.</translation>
     </message>
     <message>
-        <source>The free space of this folder cannot be told.</source>
+        <source>The free space of this folder is unknown.</source>
         <translation>Lo spazio libero di questa cartella non è noto.</translation>
     </message>
     <message>
@@ -363,6 +374,10 @@
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
+    <message>
+        <source>In this run: %1 (chosen at the start)</source>
+        <translation>In questa esecuzione: %1 (scelto all’avvio)</translation>
+    </message>
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Lingua:</translation>
@@ -489,8 +504,8 @@
         <translation>Pianificazione</translation>
     </message>
     <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Scegli quando una registrazione inizia o termina automaticamente.</translation>
+        <source>Choose when a recording stops or starts by itself. Your choice is kept; this version does not record yet.</source>
+        <translation>Scegli quando una registrazione inizia o termina automaticamente. La scelta viene conservata; questa versione non registra ancora.</translation>
     </message>
     <message>
         <source>Recording schedule</source>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>Application</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>cannot copy the settings file %1: %2</source>
+        <translation>設定ファイル %1 をコピーできません：%2</translation>
+    </message>
+</context>
+<context>
     <name>CaptureControllerWrapper</name>
     <message>
         <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
@@ -19,7 +30,7 @@
         <translation>設定をシステムの設定フォルダーではなく &lt;file&gt; に保存します。</translation>
     </message>
     <message>
-        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <source>Use &lt;language&gt; in this run, for example de or pt_BR.</source>
         <translation>今回の実行で &lt;language&gt; を使用します。例：de、pt_BR</translation>
     </message>
     <message>
@@ -345,7 +356,7 @@
         <translation>このフォルダーに書き込む権限がありません。</translation>
     </message>
     <message>
-        <source>The free space of this folder cannot be told.</source>
+        <source>The free space of this folder is unknown.</source>
         <translation>このフォルダーの空き容量は不明です。</translation>
     </message>
     <message>
@@ -363,6 +374,10 @@
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
+    <message>
+        <source>In this run: %1 (chosen at the start)</source>
+        <translation>今回の実行：%1（起動時に指定）</translation>
+    </message>
     <message>
         <source>&amp;Language:</source>
         <translation>言語(&amp;L)：</translation>
@@ -489,8 +504,8 @@
         <translation>スケジュール</translation>
     </message>
     <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>録画を自動的に停止または開始するタイミングを選択します。</translation>
+        <source>Choose when a recording stops or starts by itself. Your choice is kept; this version does not record yet.</source>
+        <translation>録画を自動的に停止または開始するタイミングを選択します。選択は保存されますが、このバージョンではまだ録画されません。</translation>
     </message>
     <message>
         <source>Recording schedule</source>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>Application</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>cannot copy the settings file %1: %2</source>
+        <translation>설정 파일 %1을(를) 복사할 수 없습니다: %2</translation>
+    </message>
+</context>
+<context>
     <name>CaptureControllerWrapper</name>
     <message>
         <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
@@ -19,7 +30,7 @@
         <translation>설정을 시스템 구성 폴더 대신 &lt;file&gt;에 보관합니다.</translation>
     </message>
     <message>
-        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <source>Use &lt;language&gt; in this run, for example de or pt_BR.</source>
         <translation>이번 실행에서 &lt;language&gt;을(를) 사용합니다. 예: de, pt_BR.</translation>
     </message>
     <message>
@@ -345,7 +356,7 @@
         <translation>이 폴더에 쓸 권한이 없습니다.</translation>
     </message>
     <message>
-        <source>The free space of this folder cannot be told.</source>
+        <source>The free space of this folder is unknown.</source>
         <translation>이 폴더의 여유 공간을 알 수 없습니다.</translation>
     </message>
     <message>
@@ -363,6 +374,10 @@
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
+    <message>
+        <source>In this run: %1 (chosen at the start)</source>
+        <translation>이번 실행: %1 (시작할 때 선택됨)</translation>
+    </message>
     <message>
         <source>&amp;Language:</source>
         <translation>언어(&amp;L):</translation>
@@ -489,8 +504,8 @@
         <translation>일정</translation>
     </message>
     <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>녹화를 자동으로 중지하거나 시작할 때를 선택하세요.</translation>
+        <source>Choose when a recording stops or starts by itself. Your choice is kept; this version does not record yet.</source>
+        <translation>녹화를 자동으로 중지하거나 시작할 때를 선택하세요. 선택은 저장되지만 이 버전은 아직 녹화하지 않습니다.</translation>
     </message>
     <message>
         <source>Recording schedule</source>

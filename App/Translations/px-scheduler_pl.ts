@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>Application</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>cannot copy the settings file %1: %2</source>
+        <translation>nie można skopiować pliku ustawień %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CaptureControllerWrapper</name>
     <message>
         <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
@@ -19,7 +30,7 @@
         <translation>Przechowuj ustawienia w &lt;file&gt; zamiast w folderze konfiguracji systemu.</translation>
     </message>
     <message>
-        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <source>Use &lt;language&gt; in this run, for example de or pt_BR.</source>
         <translation>Użyj języka &lt;language&gt; w tym uruchomieniu, na przykład de lub pt_BR.</translation>
     </message>
     <message>
@@ -345,7 +356,7 @@
         <translation>Nie masz uprawnień do zapisu w tym folderze.</translation>
     </message>
     <message>
-        <source>The free space of this folder cannot be told.</source>
+        <source>The free space of this folder is unknown.</source>
         <translation>Nie można ustalić wolnego miejsca w tym folderze.</translation>
     </message>
     <message>
@@ -363,6 +374,10 @@
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
+    <message>
+        <source>In this run: %1 (chosen at the start)</source>
+        <translation>W tym uruchomieniu: %1 (wybrano przy starcie)</translation>
+    </message>
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Język:</translation>
@@ -489,8 +504,8 @@
         <translation>Harmonogram</translation>
     </message>
     <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Wybierz, kiedy nagrywanie ma się samo kończyć lub zaczynać.</translation>
+        <source>Choose when a recording stops or starts by itself. Your choice is kept; this version does not record yet.</source>
+        <translation>Wybierz, kiedy nagrywanie ma się samo kończyć lub zaczynać. Wybór jest zachowywany; ta wersja jeszcze nie nagrywa.</translation>
     </message>
     <message>
         <source>Recording schedule</source>

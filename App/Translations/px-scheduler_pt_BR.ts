@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en">
 <context>
+    <name>Application</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>cannot copy the settings file %1: %2</source>
+        <translation>não foi possível copiar o arquivo de configurações %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CaptureControllerWrapper</name>
     <message>
         <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
@@ -19,7 +30,7 @@
         <translation>Guardar as configurações em &lt;file&gt; em vez da pasta de configuração do sistema.</translation>
     </message>
     <message>
-        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <source>Use &lt;language&gt; in this run, for example de or pt_BR.</source>
         <translation>Usar &lt;language&gt; nesta execução, por exemplo de ou pt_BR.</translation>
     </message>
     <message>
@@ -345,7 +356,7 @@
         <translation>Você não tem permissão para gravar nesta pasta.</translation>
     </message>
     <message>
-        <source>The free space of this folder cannot be told.</source>
+        <source>The free space of this folder is unknown.</source>
         <translation>O espaço livre desta pasta é desconhecido.</translation>
     </message>
     <message>
@@ -363,6 +374,10 @@
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
+    <message>
+        <source>In this run: %1 (chosen at the start)</source>
+        <translation>Nesta execução: %1 (escolhido ao iniciar)</translation>
+    </message>
     <message>
         <source>&amp;Language:</source>
         <translation>I&amp;dioma:</translation>
@@ -489,8 +504,8 @@
         <translation>Programação</translation>
     </message>
     <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Escolha quando uma gravação para ou começa automaticamente.</translation>
+        <source>Choose when a recording stops or starts by itself. Your choice is kept; this version does not record yet.</source>
+        <translation>Escolha quando uma gravação para ou começa automaticamente. Sua escolha é guardada; esta versão ainda não grava.</translation>
     </message>
     <message>
         <source>Recording schedule</source>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>Application</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>cannot copy the settings file %1: %2</source>
+        <translation>не удаётся скопировать файл настроек %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CaptureControllerWrapper</name>
     <message>
         <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
@@ -19,7 +30,7 @@
         <translation>Хранить настройки в &lt;file&gt;, а не в системной папке конфигурации.</translation>
     </message>
     <message>
-        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <source>Use &lt;language&gt; in this run, for example de or pt_BR.</source>
         <translation>Использовать язык &lt;language&gt; в этом запуске, например de или pt_BR.</translation>
     </message>
     <message>
@@ -345,7 +356,7 @@
         <translation>У вас нет прав на запись в эту папку.</translation>
     </message>
     <message>
-        <source>The free space of this folder cannot be told.</source>
+        <source>The free space of this folder is unknown.</source>
         <translation>Не удаётся определить свободное место для этой папки.</translation>
     </message>
     <message>
@@ -363,6 +374,10 @@
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
+    <message>
+        <source>In this run: %1 (chosen at the start)</source>
+        <translation>В этом запуске: %1 (выбрано при запуске)</translation>
+    </message>
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Язык:</translation>
@@ -489,8 +504,8 @@
         <translation>Расписание</translation>
     </message>
     <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Выберите, когда запись останавливается или начинается автоматически.</translation>
+        <source>Choose when a recording stops or starts by itself. Your choice is kept; this version does not record yet.</source>
+        <translation>Выберите, когда запись останавливается или начинается автоматически. Выбор сохраняется; эта версия пока не записывает.</translation>
     </message>
     <message>
         <source>Recording schedule</source>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr" sourcelanguage="en">
 <context>
+    <name>Application</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>cannot copy the settings file %1: %2</source>
+        <translation>ayar dosyası %1 kopyalanamıyor: %2</translation>
+    </message>
+</context>
+<context>
     <name>CaptureControllerWrapper</name>
     <message>
         <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
@@ -19,7 +30,7 @@
         <translation>Ayarları sistemin yapılandırma klasörü yerine &lt;file&gt; dosyasında tut.</translation>
     </message>
     <message>
-        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <source>Use &lt;language&gt; in this run, for example de or pt_BR.</source>
         <translation>Bu çalıştırmada &lt;language&gt; dilini kullan; örneğin de veya pt_BR.</translation>
     </message>
     <message>
@@ -345,7 +356,7 @@
         <translation>Bu klasöre yazma izniniz yok.</translation>
     </message>
     <message>
-        <source>The free space of this folder cannot be told.</source>
+        <source>The free space of this folder is unknown.</source>
         <translation>Bu klasörün boş alanı bilinmiyor.</translation>
     </message>
     <message>
@@ -363,6 +374,10 @@
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
+    <message>
+        <source>In this run: %1 (chosen at the start)</source>
+        <translation>Bu çalıştırmada: %1 (başlangıçta seçildi)</translation>
+    </message>
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Dil:</translation>
@@ -489,8 +504,8 @@
         <translation>Takvim</translation>
     </message>
     <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>Bir kaydın ne zaman kendiliğinden duracağını veya başlayacağını seçin.</translation>
+        <source>Choose when a recording stops or starts by itself. Your choice is kept; this version does not record yet.</source>
+        <translation>Bir kaydın ne zaman kendiliğinden duracağını veya başlayacağını seçin. Seçiminiz saklanır; bu sürüm henüz kayıt yapmıyor.</translation>
     </message>
     <message>
         <source>Recording schedule</source>

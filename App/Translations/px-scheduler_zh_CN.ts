@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>Application</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>cannot copy the settings file %1: %2</source>
+        <translation>无法复制设置文件 %1：%2</translation>
+    </message>
+</context>
+<context>
     <name>CaptureControllerWrapper</name>
     <message>
         <source>Could not start recording because there is not enough disk space. Free more disk space and try again. Or set a different disk drive for storing output videos in %1File Preferences%2. </source>
@@ -19,7 +30,7 @@
         <translation>将设置保存在 &lt;file&gt; 中，而不是系统的配置文件夹中。</translation>
     </message>
     <message>
-        <source>Speak &lt;language&gt; in this run, for example de or pt_BR.</source>
+        <source>Use &lt;language&gt; in this run, for example de or pt_BR.</source>
         <translation>本次运行使用 &lt;language&gt;，例如 de 或 pt_BR。</translation>
     </message>
     <message>
@@ -345,7 +356,7 @@
         <translation>您没有此文件夹的写入权限。</translation>
     </message>
     <message>
-        <source>The free space of this folder cannot be told.</source>
+        <source>The free space of this folder is unknown.</source>
         <translation>无法获知此文件夹的可用空间。</translation>
     </message>
     <message>
@@ -363,6 +374,10 @@
 </context>
 <context>
     <name>Zentor::Desktop::GeneralPage</name>
+    <message>
+        <source>In this run: %1 (chosen at the start)</source>
+        <translation>本次运行：%1（启动时指定）</translation>
+    </message>
     <message>
         <source>&amp;Language:</source>
         <translation>语言(&amp;L)：</translation>
@@ -489,8 +504,8 @@
         <translation>计划</translation>
     </message>
     <message>
-        <source>Choose when a recording stops or starts by itself.</source>
-        <translation>选择录制自动停止或开始的时间。</translation>
+        <source>Choose when a recording stops or starts by itself. Your choice is kept; this version does not record yet.</source>
+        <translation>选择录制自动停止或开始的时间。您的选择会保留；此版本尚不能录制。</translation>
     </message>
     <message>
         <source>Recording schedule</source>

@@ -55,6 +55,11 @@ MainWindow::MainWindow(std::shared_ptr<PX::SettingsStore> store,
 
 MainWindow::~MainWindow() = default;
 
+void MainWindow::Follow(Appearance& appearance)
+{
+    m_generalPage->Follow(appearance);
+}
+
 void MainWindow::BuildWidgets(const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel)
 {
     auto* center = new QWidget(this);
@@ -92,7 +97,8 @@ QWidget* MainWindow::CreatePageColumn(QWidget* parent,
     m_schedulePage = new SchedulePage(m_store, lookAndFeel, m_pages);
     AddPage(m_schedulePage);
     AddPage(new FilesPage(m_store, m_pages));
-    AddPage(new GeneralPage(m_store, m_pages));
+    m_generalPage = new GeneralPage(m_store, m_pages);
+    AddPage(m_generalPage);
 
     QWidget* footer = CreateFooter(pageColumn);
     auto* layout = new QVBoxLayout(pageColumn);

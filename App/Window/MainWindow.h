@@ -22,6 +22,8 @@ class SettingsStore;
 
 namespace Zentor::Desktop {
 
+class Appearance;
+class GeneralPage;
 class Page;
 class PageFrame;
 class SchedulePage;
@@ -38,6 +40,9 @@ public:
     MainWindow(std::shared_ptr<PX::SettingsStore> store,
                std::shared_ptr<App::ILookAndFeelManager> lookAndFeel, QWidget* parent = nullptr);
     ~MainWindow() override;
+
+    /// Shows what was chosen for this run only; \a appearance outlives the window.
+    void Follow(Appearance& appearance);
 
     /// The size at first, where the screen has room for it.
     static QSize FirstSize() { return {1040, 800}; }
@@ -89,6 +94,7 @@ private:
     /// In the order of the list.
     QList<PageFrame*> m_frames;
     SchedulePage* m_schedulePage = nullptr;
+    GeneralPage* m_generalPage = nullptr;
     QStatusBar* m_statusBar = nullptr;
     ZLabel* m_saveProblemLabel = nullptr;
     QPushButton* m_startButton = nullptr;

@@ -1,4 +1,5 @@
 #include <QCalendarWidget>
+#include <QComboBox>
 #include <QLabel>
 #include <QLocale>
 #include <QToolButton>
@@ -6,6 +7,7 @@
 #include "Appearance.h"
 #include "Application/LookAndFeelManager.h"
 #include "FakePortal.h"
+#include "GeneralPage.h"
 #include "MainWindow.h"
 #include "Resources.h"
 #include "StoreIn.h"
@@ -77,6 +79,35 @@ private Q_SLOTS:
         QApplication::setLayoutDirection(Qt::LeftToRight);
         QLocale::setDefault(QLocale::c());
         WidgetTest::cleanup();
+    }
+
+    /// Choosing takes over, also what is stored already.
+    void saysWhatIsChosenForThisRun()
+    {
+        const FakePortal portal(2);
+        Choose(QStringLiteral("fr"), QStringLiteral("light"));
+        Start({QStringLiteral("de"), QStringLiteral("dark")});
+        Desktop::GeneralPage page(m_store, nullptr);
+        page.Follow(*m_appearance);
+        page.show();
+        const auto* languageLabel = page.findChild<QLabel*>(QStringLiteral("languageOfRunLabel"));
+        const auto* themeLabel = page.findChild<QLabel*>(QStringLiteral("themeOfRunLabel"));
+        auto* languageBox = page.findChild<QComboBox*>(QStringLiteral("languageBox"));
+        auto* themeBox = page.findChild<QComboBox*>(QStringLiteral("themeBox"));
+        QCOMPARE(languageLabel->text(),
+                 QStringLiteral("In diesem Lauf: Deutsch (beim Start gewählt)"));
+        QCOMPARE(themeLabel->text(), QStringLiteral("In diesem Lauf: Dunkel (beim Start gewählt)"));
+        QVERIFY(languageLabel->isVisible() && themeLabel->isVisible());
+        QCOMPARE(languageBox->currentData().toString(), QStringLiteral("fr"));
+        QCOMPARE(themeBox->currentData().toString(), QStringLiteral("light"));
+
+        Q_EMIT themeBox->activated(themeBox->currentIndex());
+        QCOMPARE(CurrentTheme(), Theme::Light);
+        QVERIFY(languageLabel->isVisible() && !themeLabel->isVisible());
+        Q_EMIT languageBox->activated(languageBox->currentIndex());
+        QCOMPARE(QLocale().name(), QStringLiteral("fr_FR"));
+        QVERIFY(!languageLabel->isVisible());
+        QCOMPARE(languageBox->currentData().toString(), QStringLiteral("fr"));
     }
 
     void takesTheFirstThatIsGiven_data()

@@ -153,6 +153,30 @@ private Q_SLOTS:
         QCOMPARE(ending.error, QString());
     }
 
+    void speaksTheLanguageOfTheRun_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("start");
+        QTest::newRow("English") << "en"
+                                 << "px-scheduler: cannot copy the settings file ";
+        QTest::newRow("German") << "de"
+                                << "px-scheduler: Die Einstellungsdatei ";
+        QTest::newRow("French") << "fr"
+                                << "px-scheduler : impossible de copier le fichier de paramètres ";
+    }
+
+    void speaksTheLanguageOfTheRun()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, start);
+        const Ending ending =
+            RunOffscreen({QStringLiteral("--language"), language, QStringLiteral("--settings"),
+                          QStringLiteral("/proc/none.json"), QStringLiteral("--screenshots"),
+                          QStringLiteral("unused")});
+        QCOMPARE(ending.exitCode, 2);
+        QVERIFY2(ending.error.contains(start), qPrintable(ending.error));
+    }
+
     void saysWhySettingsCannotBeUsed_data()
     {
         QTest::addColumn<QString>("path");

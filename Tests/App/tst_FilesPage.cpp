@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QTextLayout>
 
 #include "FilesPage.h"
 #include "StoreIn.h"
@@ -108,6 +109,36 @@ private Q_SLOTS:
         m_page->show();
         QVERIFY(!IsFreeSpaceTold());
         QVERIFY(!Label("freeSpaceLabel")->text().isEmpty());
+    }
+
+    void writesSizesInTheirOwnOrder_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::newRow("Hebrew") << QLocale(QLocale::Hebrew);
+        QTest::newRow("Arabic") << QLocale(QLocale::Arabic, QLocale::Morocco);
+    }
+
+    /// A Latin unit stands to the right of its number, another to the left.
+    void writesSizesInTheirOwnOrder()
+    {
+        QFETCH(QLocale, locale);
+        QLocale::setDefault(locale);
+        QEvent languageChange(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(m_page.get(), &languageChange);
+        QLocale::setDefault(QLocale::c());
+        const QString text = Label("freeSpaceLabel")->text();
+        const int number = text.indexOf(QRegularExpression(QStringLiteral("[0-9]")));
+        const int unit = text.indexOf(QRegularExpression(QStringLiteral("\\p{L}")), number);
+        QVERIFY2(number >= 0 && unit > number, qPrintable(text));
+        QTextLayout layout(text, Label("freeSpaceLabel")->font());
+        QTextOption option;
+        option.setTextDirection(Qt::RightToLeft);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        const QTextLine line = layout.createLine();
+        layout.endLayout();
+        const bool isUnitToTheRight = line.cursorToX(unit) > line.cursorToX(number);
+        QCOMPARE(isUnitToTheRight, text.at(unit).direction() == QChar::DirL);
     }
 
 private:

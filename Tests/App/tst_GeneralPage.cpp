@@ -77,6 +77,8 @@ private Q_SLOTS:
         QTest::newRow("nothing") << QString() << QString() << systemLanguage << system;
         QTest::newRow("both") << QStringLiteral("fr") << QStringLiteral("dark")
                               << QStringLiteral("Français") << QStringLiteral("Dark");
+        QTest::newRow("region that is not offered")
+            << QStringLiteral("de_AT") << QString() << QStringLiteral("Deutsch") << system;
         QTest::newRow("nonsense") << QStringLiteral("tlh") << QStringLiteral("blue")
                                   << systemLanguage << system;
     }
