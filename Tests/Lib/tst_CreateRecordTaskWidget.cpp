@@ -759,22 +759,22 @@ private Q_SLOTS:
         QVERIFY(!form.Start()->toolTip().isEmpty());
     }
 
-    void restylesOnlyWhatChanged_data()
+    void resetsAMarkThatStays_data()
     {
         QTest::addColumn<int>("before");
         QTest::addColumn<int>("after");
         QTest::addColumn<int>("changes");
         QTest::newRow("none, none") << int(NoError) << int(NoError) << 0;
-        QTest::newRow("empty, empty") << int(EmptyTitle) << int(EmptyTitle) << 0;
-        QTest::newRow("empty, exists") << int(EmptyTitle) << int(TitleAlreadyExists) << 0;
+        QTest::newRow("empty, empty") << int(EmptyTitle) << int(EmptyTitle) << 2;
+        QTest::newRow("empty, exists") << int(EmptyTitle) << int(TitleAlreadyExists) << 2;
         QTest::newRow("overlap, overlap")
-            << int(CaptureTimeIntersected) << int(CaptureTimeIntersected) << 0;
+            << int(CaptureTimeIntersected) << int(CaptureTimeIntersected) << 2;
         QTest::newRow("none, empty") << int(NoError) << int(EmptyTitle) << 1;
         QTest::newRow("empty, none") << int(EmptyTitle) << int(NoError) << 1;
         QTest::newRow("empty, overlap") << int(EmptyTitle) << int(CaptureTimeIntersected) << 2;
     }
 
-    void restylesOnlyWhatChanged()
+    void resetsAMarkThatStays()
     {
         QFETCH(int, before);
         QFETCH(int, after);

@@ -44,6 +44,26 @@ public:
     }
 };
 
+/// Adds the tool tips that widgets are given to the calls, as in "Tip StartTime set".
+class ToolTipChanges final : public QObject {
+public:
+    explicit ToolTipChanges(std::initializer_list<QWidget*> widgets)
+    {
+        for (QWidget* widget : widgets) {
+            widget->installEventFilter(this);
+        }
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::ToolTipChange) {
+            const bool isCleared = static_cast<QWidget*>(watched)->toolTip().isEmpty();
+            s_calls << "Tip " + ShortNameOf(watched) + (isCleared ? " cleared" : " set");
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 } // namespace
 } // namespace Zentor::Tests
 
@@ -137,6 +157,46 @@ private Q_SLOTS:
             expected << "Style " + invalid + " Invalid SubStyle";
         }
         QCOMPARE(TakeCalls(), expected);
+    }
+
+    void resetsBothMarksEachTime_data()
+    {
+        QTest::addColumn<int>("before");
+        QTest::addColumn<int>("error");
+        QTest::addColumn<QString>("marked");
+        const std::pair<int, const char*> errors[] = {{NoError, ""},
+                                                      {EmptyTitle, "NameLineEdit"},
+                                                      {TitleAlreadyExists, "NameLineEdit"},
+                                                      {CaptureTimeIntersected, "StartTime"},
+                                                      {4, ""}};
+        for (const auto& [before, unused] : errors) {
+            for (const auto& [error, marked] : errors) {
+                QTest::addRow("%d after %d", error, before)
+                    << before << error << QString::fromLatin1(marked);
+            }
+        }
+    }
+
+    void resetsBothMarksEachTime()
+    {
+        QFETCH(int, before);
+        QFETCH(int, error);
+        QFETCH(QString, marked);
+        const TaskForm form;
+        QVERIFY(form.Show());
+        form.widget->ShowValidateError(static_cast<ValidateError>(before));
+        const ToolTipChanges tips({form.Name(), form.Start()});
+        TakeCalls();
+        form.widget->ShowValidateError(static_cast<ValidateError>(error));
+        QStringList expected{"Style NameLineEdit Normal SubStyle",
+                             "Style StartTime Normal SubStyle", "Tip StartTime cleared",
+                             "Tip NameLineEdit cleared"};
+        if (!marked.isEmpty()) {
+            expected << "Style " + marked + " Invalid SubStyle"
+                     << "Tip " + marked + " set";
+        }
+        QCOMPARE(TakeCalls(), expected);
+        QCOMPARE(form.Create()->isEnabled(), error == NoError);
     }
 
     void asksForNothingOnItsTimer()

@@ -85,14 +85,12 @@ QString MessageOf(ValidateError error)
     return {};
 }
 
-/// Error tool tip of \a field: cleared and hidden, as Qt leaves it on screen when the text is
-/// cleared.
-void ClearErrorTip(QWidget& field)
+/// Error tool tip of \a field: hidden, as Qt leaves it on screen when its text is cleared.
+void HideErrorTip(const QWidget& field)
 {
     if (!field.toolTip().isEmpty() && QToolTip::text() == field.toolTip()) {
         QToolTip::hideText();
     }
-    field.setToolTip(QString());
 }
 
 } // namespace
@@ -207,21 +205,19 @@ void CreateRecordTaskWidget::ShowValidateError(ValidateError error)
     QWidget* const nameField = m_ui->scheduledCaptureSettingsNameLineEdit;
     QWidget* const startField = m_ui->scheduledCaptureSettingsStartTime;
     QWidget* const invalidField = FieldOf(error);
-    const QString invalid = QStringLiteral("Invalid");
     for (QWidget* field : {nameField, startField}) {
-        // A mark that stays is not reset in between: each change is a new style sheet pass.
-        if (field != invalidField || field->property("SubStyle") != invalid) {
-            Zentor::Util::ApplyWidgetStyle(field, QStringLiteral("Normal"), "SubStyle");
-        }
+        Zentor::Util::ApplyWidgetStyle(field, QStringLiteral("Normal"), "SubStyle");
     }
     for (QWidget* field : {startField, nameField}) {
+        // Hiding takes a while, and would take the next tip of the same field along.
         if (field != invalidField) {
-            ClearErrorTip(*field);
+            HideErrorTip(*field);
         }
+        field->setToolTip(QString());
     }
     if (invalidField != nullptr) {
         const QString message = MessageOf(error);
-        Zentor::Util::ApplyWidgetStyle(invalidField, invalid, "SubStyle");
+        Zentor::Util::ApplyWidgetStyle(invalidField, QStringLiteral("Invalid"), "SubStyle");
         invalidField->setToolTip(message);
         QToolTip::showText(mapToGlobal(invalidField->pos()), message, invalidField, QRect(),
                            ErrorTipMilliseconds);
