@@ -8,10 +8,10 @@
 namespace Zentor::Tests {
 namespace {
 
-using PX::Scheduler::UI::ModalQuestion;
+using PX::Scheduler::UI::AskModally;
 using Util::AlertBox;
 
-/// A widget in a window that has two questions to ask, and the box of the last one.
+/// A widget in a window that has a question to ask, and the box of the last one.
 class Asker final : public QWidget {
 public:
     explicit Asker(QWidget* parent)
@@ -19,17 +19,15 @@ public:
     {
     }
 
-    QMessageBox::StandardButton Ask(ModalQuestion& which)
+    QMessageBox::StandardButton Ask()
     {
         auto asked = std::make_unique<AlertBox>(
             AlertBox::Question, QString(), QStringLiteral("Sure?"),
             QMessageBox::Ok | QMessageBox::No | QMessageBox::Cancel, window(), Qt::Dialog);
         box = asked.get();
-        return ModalQuestion::Ask(which, std::move(asked), this);
+        return AskModally(std::move(asked), this);
     }
 
-    ModalQuestion question;
-    ModalQuestion other;
     QPointer<AlertBox> box;
 };
 
@@ -63,7 +61,7 @@ private Q_SLOTS:
         QFETCH(QMessageBox::StandardButton, answer);
         const Scene scene;
         const ExpectedBox box(answer);
-        QCOMPARE(scene.asker->Ask(scene.asker->question), answer);
+        QCOMPARE(scene.asker->Ask(), answer);
         QVERIFY(box.Came());
         QVERIFY(scene.asker->box.isNull());
     }
@@ -72,46 +70,8 @@ private Q_SLOTS:
     {
         const Scene scene;
         const ExpectedBox box(PressEscape);
-        QCOMPARE(scene.asker->Ask(scene.asker->question), QMessageBox::Cancel);
+        QCOMPARE(scene.asker->Ask(), QMessageBox::Cancel);
         QVERIFY(box.Came());
-    }
-
-    void isOpenWhileItIsAsked()
-    {
-        const Scene scene;
-        bool wasOpen = false;
-        bool wasOtherOpen = true;
-        QVERIFY(!scene.asker->question.IsOpen());
-        const ExpectedBox box([&](QMessageBox& open) {
-            wasOpen = scene.asker->question.IsOpen();
-            wasOtherOpen = scene.asker->other.IsOpen();
-            open.reject();
-        });
-        scene.asker->Ask(scene.asker->question);
-        QVERIFY(box.Came());
-        QVERIFY(wasOpen);
-        QVERIFY(!wasOtherOpen);
-        QVERIFY(!scene.asker->question.IsOpen());
-    }
-
-    void isAskedOnceAtATime()
-    {
-        const Scene scene;
-        auto again = QMessageBox::NoButton;
-        bool wasOpen = false;
-        const ExpectedBox box([&](QMessageBox& open) {
-            const ExpectedBox second(QMessageBox::No);
-            again = scene.asker->Ask(scene.asker->question);
-            QVERIFY(!second.Came());
-            QVERIFY(scene.asker->box.isNull());
-            QCOMPARE(QApplication::activeModalWidget(), &open);
-            wasOpen = scene.asker->question.IsOpen();
-            open.button(QMessageBox::Ok)->click();
-        });
-        QCOMPARE(scene.asker->Ask(scene.asker->question), QMessageBox::Ok);
-        QVERIFY(box.Came());
-        QCOMPARE(again, QMessageBox::Cancel);
-        QVERIFY(wasOpen);
     }
 
     void isAskedAgainOnceItIsAnswered()
@@ -119,26 +79,85 @@ private Q_SLOTS:
         const Scene scene;
         for (const auto answer : {QMessageBox::Cancel, QMessageBox::Ok, QMessageBox::No}) {
             const ExpectedBox box(answer);
-            QCOMPARE(scene.asker->Ask(scene.asker->question), answer);
+            QCOMPARE(scene.asker->Ask(), answer);
             QVERIFY(box.Came());
         }
     }
 
-    void leavesRoomForAnotherQuestion()
+    void isAskedAgainWhileItIsOpen_data()
+    {
+        QTest::addColumn<QMessageBox::StandardButton>("first");
+        QTest::addColumn<QMessageBox::StandardButton>("second");
+        QTest::newRow("OK, No") << QMessageBox::Ok << QMessageBox::No;
+        QTest::newRow("No, OK") << QMessageBox::No << QMessageBox::Ok;
+        QTest::newRow("Cancel, OK") << QMessageBox::Cancel << QMessageBox::Ok;
+        QTest::newRow("OK, Cancel") << QMessageBox::Ok << QMessageBox::Cancel;
+    }
+
+    /// Each box has an answer of its own.
+    void isAskedAgainWhileItIsOpen()
+    {
+        QFETCH(QMessageBox::StandardButton, first);
+        QFETCH(QMessageBox::StandardButton, second);
+        const Scene scene;
+        auto again = QMessageBox::NoButton;
+        const ExpectedBox box([&](QMessageBox& open) {
+            const ExpectedBox other(second);
+            again = scene.asker->Ask();
+            QVERIFY(other.Came());
+            QCOMPARE(QApplication::activeModalWidget(), &open);
+            open.button(first)->click();
+        });
+        QCOMPARE(scene.asker->Ask(), first);
+        QVERIFY(box.Came());
+        QCOMPARE(again, second);
+    }
+
+    /// The first box is answered by program while the second one is on top of it.
+    void keepsItsAnswerWhileAnotherBoxIsOpen()
     {
         const Scene scene;
-        auto inside = QMessageBox::NoButton;
+        auto again = QMessageBox::NoButton;
         const ExpectedBox box([&](QMessageBox& open) {
-            const ExpectedBox other(QMessageBox::No);
-            inside = scene.asker->Ask(scene.asker->other);
+            const ExpectedBox other([&](QMessageBox& top) {
+                open.button(QMessageBox::Ok)->click();
+                top.button(QMessageBox::No)->click();
+            });
+            again = scene.asker->Ask();
             QVERIFY(other.Came());
-            QVERIFY(scene.asker->question.IsOpen());
-            QVERIFY(!scene.asker->other.IsOpen());
-            open.button(QMessageBox::Ok)->click();
         });
-        QCOMPARE(scene.asker->Ask(scene.asker->question), QMessageBox::Ok);
+        QCOMPARE(scene.asker->Ask(), QMessageBox::Ok);
         QVERIFY(box.Came());
-        QCOMPARE(inside, QMessageBox::No);
+        QCOMPARE(again, QMessageBox::No);
+    }
+
+    void isRefusedWithAllItsBoxesWhenItsAskerGoes_data()
+    {
+        QTest::addColumn<QString>("victim");
+        QTest::newRow("asker") << "asker";
+        QTest::newRow("window") << "window";
+    }
+
+    void isRefusedWithAllItsBoxesWhenItsAskerGoes()
+    {
+        QFETCH(QString, victim);
+        Scene scene;
+        auto again = QMessageBox::NoButton;
+        const ExpectedBox box([&](QMessageBox& /*open*/) {
+            const ExpectedBox other([&](QMessageBox& /*top*/) {
+                if (victim == QLatin1String("asker")) {
+                    delete scene.asker;
+                } else {
+                    scene.window.reset();
+                }
+            });
+            again = scene.asker->Ask();
+            QVERIFY(other.Came());
+        });
+        QCOMPARE(scene.asker->Ask(), QMessageBox::Cancel);
+        QVERIFY(box.Came());
+        QCOMPARE(again, QMessageBox::Cancel);
+        QVERIFY(!IsBoxOpen());
     }
 
     void isRefusedWhenItsAskerGoes_data()
@@ -170,7 +189,7 @@ private Q_SLOTS:
             }
             wasClosed = asked.isNull() || asked->isHidden();
         });
-        QCOMPARE(scene.asker->Ask(scene.asker->question), QMessageBox::Cancel);
+        QCOMPARE(scene.asker->Ask(), QMessageBox::Cancel);
         QVERIFY(box.Came());
         QVERIFY(wasClosed);
         QVERIFY(scene.asker.isNull());
@@ -183,12 +202,11 @@ private Q_SLOTS:
         const Scene scene;
         {
             const ExpectedBox box([](QMessageBox& open) { delete &open; });
-            QCOMPARE(scene.asker->Ask(scene.asker->question), QMessageBox::Cancel);
+            QCOMPARE(scene.asker->Ask(), QMessageBox::Cancel);
             QVERIFY(box.Came());
         }
-        QVERIFY(!scene.asker->question.IsOpen());
         const ExpectedBox next(QMessageBox::Ok);
-        QCOMPARE(scene.asker->Ask(scene.asker->question), QMessageBox::Ok);
+        QCOMPARE(scene.asker->Ask(), QMessageBox::Ok);
         QVERIFY(next.Came());
     }
 };

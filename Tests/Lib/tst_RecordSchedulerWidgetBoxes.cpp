@@ -147,7 +147,7 @@ const Question leaveSchedule{
     QMessageBox::Ok,
     "Continue",
     "limited+values  table",
-    // The mode was chosen again meanwhile, so it stays; what the user has agreed to is done.
+    // The mode was chosen again meanwhile, so it stays; what the first box asked is done.
     "scheduled+stack  table",
 };
 
@@ -235,6 +235,18 @@ void LetStartPass(Scene& scene, const Question& /*question*/, QMessageBox& /*box
     Expect(scene, start->dateTime() > past.addSecs(3600), "start in the past");
 }
 
+/// The question that is asked meanwhile has a box of its own.
+void AskAgain(Scene& scene, const Question& question, QMessageBox& box)
+{
+    bool isAnother = false;
+    const ExpectedBox again([&](QMessageBox& top) {
+        isAnother = &top != &box && box.isVisible();
+        top.button(QMessageBox::Cancel)->click();
+    });
+    question.askAgain(scene);
+    Expect(scene, again.Came() && isAnother, "not asked again");
+}
+
 const Disturbance disturbances[] = {
     {"panel deleted", [](Scene& scene, const Question&, QMessageBox&) { delete scene.widget; },
      true},
@@ -246,8 +258,7 @@ const Disturbance disturbances[] = {
     {"language change", ChangeLanguage, false},
     {"screen removed", RemoveScreen, false},
     {"tick", LetStartPass, false},
-    {"asked again",
-     [](Scene& scene, const Question& question, QMessageBox&) { question.askAgain(scene); }, false},
+    {"asked again", AskAgain, false},
 };
 
 void Ask(const Question& question, Scene& scene, const QString& input)

@@ -608,21 +608,66 @@ private Q_SLOTS:
         QCOMPARE(table.Rows(), QString("2"));
     }
 
-    void refusesASecondQuestionWhileOneIsOpen()
+    void asksForEachRowWhileAQuestionIsOpen_data()
+    {
+        QTest::addColumn<int>("second");
+        QTest::addColumn<bool>("isFirstAccepted");
+        QTest::addColumn<bool>("isSecondAccepted");
+        QTest::addColumn<QString>("rows");
+        QTest::newRow("another row, both") << 1 << true << true << "2";
+        QTest::newRow("another row, the first") << 1 << true << false << "1,2";
+        QTest::newRow("another row, the second") << 1 << false << true << "0,2";
+        QTest::newRow("another row, none") << 1 << false << false << "0,1,2";
+        QTest::newRow("the same row, both") << 0 << true << true << "1,2";
+        QTest::newRow("the same row, the first") << 0 << true << false << "1,2";
+        QTest::newRow("the same row, the second") << 0 << false << true << "1,2";
+        QTest::newRow("the same row, none") << 0 << false << false << "0,1,2";
+    }
+
+    void asksForEachRowWhileAQuestionIsOpen()
+    {
+        QFETCH(int, second);
+        QFETCH(bool, isFirstAccepted);
+        QFETCH(bool, isSecondAccepted);
+        QFETCH(QString, rows);
+        Table table;
+        table.widget->AddRecords(Tasks(3));
+        table.changes.clear();
+        const auto answer = [](bool isAccepted) {
+            return isAccepted ? QMessageBox::Ok : QMessageBox::Cancel;
+        };
+        const ExpectedBox box([&](QMessageBox& question) {
+            const ExpectedBox other(answer(isSecondAccepted));
+            table.ClickDelete(second);
+            QVERIFY(other.Came());
+            question.button(answer(isFirstAccepted))->click();
+        });
+        table.ClickDelete(0);
+        QVERIFY(box.Came());
+        QCOMPARE(table.Rows(), rows);
+        QCOMPARE(table.Titles(), rows);
+        QCOMPARE(table.changes.count(), 3 - rows.split(',').size());
+    }
+
+    /// The answer is about the task that has gone, not about a new one that has its title.
+    void leavesANewTaskOfTheSameTitleAlone()
     {
         Table table;
-        table.widget->AddRecords(Tasks(2));
-        ExpectedBox box([&](QMessageBox& question) {
-            table.ClickDelete(1);
+        table.widget->AddRecord(Record("A", "10:00"));
+        table.changes.clear();
+        const ExpectedBox box([&](QMessageBox& question) {
+            const ExpectedBox other(QMessageBox::Ok);
+            table.ClickDelete(0);
+            QVERIFY(other.Came());
+            QCOMPARE(table.Rows(), QString("-"));
+            table.widget->AddRecord(Record("A", "12:00"));
             question.button(QMessageBox::Ok)->click();
         });
         table.ClickDelete(0);
         QVERIFY(box.Came());
-        QCOMPARE(table.Rows(), QString("1"));
-        ExpectedBox next(QMessageBox::Ok);
-        table.ClickDelete(0);
-        QVERIFY(next.Came());
-        QCOMPARE(table.Rows(), QString("-"));
+        QCOMPARE(table.Rows(), QString("A"));
+        QCOMPARE(table.Titles(), QString("A"));
+        QCOMPARE(table.changes.count(), 2);
     }
 
     void survivesItsEndWhileItAsks_data()

@@ -1,7 +1,6 @@
 #include "RecordSchedulerWidget.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <limits>
 #include <stdexcept>
@@ -29,6 +28,7 @@
 #include "RecordSchedulerWidgetUi.h"
 #include "ScheduleRecordTableWidget.h"
 #include "SeparatorKeyFilter.h"
+#include "SignalSenders.h"
 
 namespace Zentor::PX::Scheduler::UI {
 namespace {
@@ -101,9 +101,7 @@ struct RecordSchedulerWidget::Private {
 
     RecordSchedulerWidgetUi& ui;
     RecordSchedulerWidget* const owner;
-    ModalQuestion leaveSchedule;
-    ModalQuestion unsavedRecord;
-    ModalQuestion diskSpace;
+    SignalSenders askingButtons;
 };
 
 RecordSchedulerWidget::Private::Private(RecordSchedulerWidget* panel)
@@ -132,15 +130,7 @@ RecordSchedulerWidget::RecordSchedulerWidget(
 
 RecordSchedulerWidget::~RecordSchedulerWidget()
 {
-    if (!d->leaveSchedule.IsOpen()) {
-        return;
-    }
-    // The question is asked inside QAbstractButton::setChecked(), which touches its button again on
-    // return: the mode buttons outlive the panel, and the reaction deletes them.
-    for (QAbstractButton* button : m_ui->timerTypeRadioButtonGroup->buttons()) {
-        button->hide();
-        button->setParent(nullptr);
-    }
+    d->askingButtons.DetachFrom(*this);
 }
 
 void RecordSchedulerWidget::SetSchedulerSettings(
@@ -227,16 +217,8 @@ void RecordSchedulerWidget::Private::OnScheduledModeToggled()
     auto* table = ui.scheduledCaptureSettingsRecordTableWidget;
     if (!ui.scheduledCaptureRadioButton->isChecked() && !table->IsScheduleEmpty()) {
         const QPointer<RecordSchedulerWidget> self(owner);
-        const std::array<QPointer<QObject>, 3> modeButtons{ui.disableScheduledCaptureRadioButton,
-                                                           ui.limitedCaptureDurationRadioButton,
-                                                           ui.scheduledCaptureRadioButton};
         const auto answer = AskToLeaveSchedule();
         if (self.isNull()) {
-            for (const auto& button : modeButtons) {
-                if (!button.isNull()) {
-                    button->deleteLater();
-                }
-            }
             return;
         }
         if (answer != QMessageBox::Ok) {
@@ -256,6 +238,11 @@ void RecordSchedulerWidget::Private::OnScheduledModeToggled()
 
 QMessageBox::StandardButton RecordSchedulerWidget::Private::AskToLeaveSchedule()
 {
+    // Asked inside QAbstractButton::setChecked() of one of them, which touches it on return.
+    const SignalSenders::Reaction reaction(askingButtons,
+                                           {ui.disableScheduledCaptureRadioButton,
+                                            ui.limitedCaptureDurationRadioButton,
+                                            ui.scheduledCaptureRadioButton});
     auto box = std::make_unique<Zentor::Util::AlertBox>(
         Zentor::Util::AlertBox::Information, QString(),
         QCoreApplication::translate("RecordSchedulerWidget",
@@ -265,7 +252,7 @@ QMessageBox::StandardButton RecordSchedulerWidget::Private::AskToLeaveSchedule()
         Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
     box->button(QMessageBox::Ok)
         ->setText(QCoreApplication::translate("RecordSchedulerWidget", "Continue"));
-    return ModalQuestion::Ask(leaveSchedule, std::move(box), owner);
+    return AskModally(std::move(box), owner);
 }
 
 void RecordSchedulerWidget::Private::ReturnToScheduledMode()
@@ -401,7 +388,7 @@ QMessageBox::StandardButton RecordSchedulerWidget::Private::AskAboutUnsavedRecor
         ->setText(QCoreApplication::translate("RecordSchedulerWidget", "Don't Add"));
     box->button(QMessageBox::Yes)
         ->setText(QCoreApplication::translate("RecordSchedulerWidget", "Add"));
-    return ModalQuestion::Ask(unsavedRecord, std::move(box), owner);
+    return AskModally(std::move(box), owner);
 }
 
 bool RecordSchedulerWidget::ValidateSettings()
@@ -412,9 +399,15 @@ bool RecordSchedulerWidget::ValidateSettings()
     if (!ProcessUnsavedRecord()) {
         return false;
     }
+    // The host may run an event loop until it knows, in which the panel may be destroyed.
+    const QPointer<RecordSchedulerWidget> self(this);
+    const auto pathsSettings = m_pathsSettings;
     ioPath resultsFolder;
-    resultsFolder = m_pathsSettings->GetResultsFolderPath().toStdString();
+    resultsFolder = pathsSettings->GetResultsFolderPath().toStdString();
     const auto freeBytes = Zentor::Util::GetAvailableDiskSpace(resultsFolder);
+    if (self.isNull()) {
+        return false;
+    }
     if (IsEnoughDiskSpace(freeBytes)) {
         return true;
     }
@@ -453,7 +446,7 @@ void RecordSchedulerWidget::Private::ShowDiskSpaceAlert()
         QCoreApplication::translate("CaptureControllerWrapper", "File Preferences"));
     connect(preferencesButton, &QAbstractButton::clicked, owner,
             &RecordSchedulerWidget::OpenFilesSettingsRequested);
-    ModalQuestion::Ask(diskSpace, std::move(box), owner);
+    AskModally(std::move(box), owner);
 }
 
 void RecordSchedulerWidget::RestoreSettings()

@@ -29,7 +29,8 @@ public:
                           const std::shared_ptr<App::ISettingsManager>& settingsManager,
                           QWidget* parent);
 
-    /// Rejects an open message box of the panel. The shares of the settings objects are released.
+    /// Rejects the open message boxes of the panel. The shares of the settings objects are
+    /// released.
     ~RecordSchedulerWidget() override;
 
     /// Each setter replaces the object that the panel had a share of, and does nothing else.
@@ -53,7 +54,8 @@ public:
     /// form is settled with the user first. Then the volume of the results folder, of which the
     /// paths settings must have been set, must have more than 1,000,000,000 bytes free: otherwise
     /// one warning is logged and the user is told. Runs modal boxes; when the panel is destroyed
-    /// meanwhile, the answer is no.
+    /// meanwhile, the answer is no. May be called again while a box is open,
+    /// OpenFilesSettingsRequested() included: that call asks in boxes of its own.
     bool ValidateSettings();
 
 Q_SIGNALS:

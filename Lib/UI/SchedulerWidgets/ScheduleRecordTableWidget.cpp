@@ -16,6 +16,7 @@
 #include "DefaultTaskName.h"
 #include "ModalQuestion.h"
 #include "ScheduleRecordTableUi.h"
+#include "SignalSenders.h"
 #include "WidgetTree.h"
 
 namespace Zentor::PX::Scheduler::UI {
@@ -65,17 +66,16 @@ struct ScheduleRecordTableWidget::Private {
     ZFrame* CreateStubRow();
     void UpdateStubRow();
     std::unique_ptr<Zentor::Util::AlertBox> CreateDeletionBox() const;
+    QMessageBox::StandardButton AskToRemoveRecord(QToolButton* clicked) const;
     void ConfirmAndRemoveRecord(ZFrame* row, QString title);
-    void KeepAskingButton();
+    bool IsListed(QWidget* row) const;
     void RemoveAtOnce(QWidget* row);
 
     const std::unique_ptr<ScheduleRecordTableUi> ui;
     ScheduleRecordTableWidget* const owner;
     SchedulerHelper schedulerHelper;
     const NotNull<std::shared_ptr<App::ISettingsManager>> settingsManager;
-    ModalQuestion deletionQuestion;
-    /// The button whose click asked the open question, or the one before.
-    QPointer<QToolButton> askingButton;
+    SignalSenders askingButtons;
 };
 
 ScheduleRecordTableWidget::Private::Private(ScheduleRecordTableWidget* table,
@@ -139,21 +139,9 @@ void ScheduleRecordTableWidget::Private::UpdateStubRow()
     }
 }
 
-/// Reparents the asking button before its row is deleted: a tool button writes to itself after the
-/// click that asked, so it outlives the row until that click is over.
-void ScheduleRecordTableWidget::Private::KeepAskingButton()
-{
-    if (deletionQuestion.IsOpen() && !askingButton.isNull()) {
-        askingButton->hide();
-        askingButton->setParent(nullptr);
-    }
-}
-
 void ScheduleRecordTableWidget::Private::RemoveAtOnce(QWidget* row)
 {
-    if (row->isAncestorOf(askingButton)) {
-        KeepAskingButton();
-    }
+    askingButtons.DetachFrom(*row);
     ui->recordLayout->removeWidget(row);
     delete row;
 }
@@ -176,33 +164,38 @@ ScheduleRecordTableWidget::Private::CreateDeletionBox() const
     return box;
 }
 
+QMessageBox::StandardButton
+ScheduleRecordTableWidget::Private::AskToRemoveRecord(QToolButton* clicked) const
+{
+    const SignalSenders::Reaction reaction(askingButtons, {clicked});
+    return AskModally(CreateDeletionBox(), owner);
+}
+
 void ScheduleRecordTableWidget::Private::ConfirmAndRemoveRecord(ZFrame* row, QString title)
 {
-    // All of them may be destroyed while the question is on screen.
+    // Both may be destroyed while the question is on screen.
     const QPointer<ScheduleRecordTableWidget> table(owner);
     const QPointer<ZFrame> clickedRow(row);
-    const QPointer<QToolButton> clickedButton(row->findChild<QToolButton*>());
-    if (!deletionQuestion.IsOpen()) {
-        askingButton = clickedButton;
-    }
-    const auto answer = ModalQuestion::Ask(deletionQuestion, CreateDeletionBox(), owner);
-    if (clickedRow.isNull()) {
-        if (!clickedButton.isNull()) {
-            clickedButton->deleteLater();
-        }
-        return;
-    }
-    if (answer != QMessageBox::Ok || table.isNull()) {
+    const auto answer = AskToRemoveRecord(row->findChild<QToolButton*>());
+    if (answer != QMessageBox::Ok || table.isNull() || !IsListed(clickedRow)) {
         return;
     }
     // The row lives on until the event loop deletes it, but a task added until then must find its
     // place among the rows that remain.
     ui->recordLayout->removeWidget(clickedRow);
     clickedRow->hide();
+    askingButtons.DetachFrom(*clickedRow);
     clickedRow->deleteLater();
     schedulerHelper.RemoveRecord(title);
     UpdateStubRow();
     Q_EMIT owner->ScheduleChanged();
+}
+
+/// False for a row that another answer has removed: its task has gone with it, and one that has the
+/// same title by now is another.
+bool ScheduleRecordTableWidget::Private::IsListed(QWidget* row) const
+{
+    return row != nullptr && ui->recordLayout->indexOf(row) >= 0;
 }
 
 ScheduleRecordTableWidget::ScheduleRecordTableWidget(
@@ -220,7 +213,7 @@ ScheduleRecordTableWidget::ScheduleRecordTableWidget(
 
 ScheduleRecordTableWidget::~ScheduleRecordTableWidget()
 {
-    d->KeepAskingButton();
+    d->askingButtons.DetachFrom(*this);
 }
 
 void ScheduleRecordTableWidget::AddRecord(const RecordTime& record)
