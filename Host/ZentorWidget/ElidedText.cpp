@@ -42,32 +42,23 @@ QStyleOptionFrame FrameOf(const QLabel& label)
     return frame;
 }
 
-} // namespace
-
-ElidedText::ElidedText(QLabel* label)
-    : QObject(label)
-    , m_label(label)
+bool HasMnemonic(const QLabel& label)
 {
-    label->installEventFilter(this);
+    return label.buddy() != nullptr && label.text().contains(QLatin1Char('&'));
 }
 
-bool ElidedText::HasMnemonic() const
+/// Text rectangle of \a label: within its padding, margin and indent.
+QRect TextRect(const QLabel& label)
 {
-    return m_label->buddy() != nullptr && m_label->text().contains(QLatin1Char('&'));
-}
-
-/// Text rectangle of the label: within its padding, margin and indent.
-QRect ElidedText::TextRect() const
-{
-    const int margin = m_label->margin();
-    QRect rect = m_label->contentsRect().adjusted(margin, margin, -margin, -margin);
-    int indent = m_label->indent();
-    if (indent < 0 && m_label->frameWidth() > 0) {
-        indent = m_label->fontMetrics().horizontalAdvance(QLatin1Char('x')) / 2 - margin;
+    const int margin = label.margin();
+    QRect rect = label.contentsRect().adjusted(margin, margin, -margin, -margin);
+    int indent = label.indent();
+    if (indent < 0 && label.frameWidth() > 0) {
+        indent = label.fontMetrics().horizontalAdvance(QLatin1Char('x')) / 2 - margin;
     }
     if (indent > 0) {
         const auto alignment =
-            QStyle::visualAlignment(DirectionOf(m_label->text()), m_label->alignment());
+            QStyle::visualAlignment(DirectionOf(label.text()), label.alignment());
         rect.adjust(alignment.testFlag(Qt::AlignLeft) ? indent : 0,
                     alignment.testFlag(Qt::AlignTop) ? indent : 0,
                     alignment.testFlag(Qt::AlignRight) ? -indent : 0,
@@ -76,22 +67,38 @@ QRect ElidedText::TextRect() const
     return rect;
 }
 
-bool ElidedText::IsTextTooWide() const
+} // namespace
+
+bool IsTextTooWide(const QLabel& label)
 {
-    constexpr Qt::TextInteractionFlags selectable =
-        Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard;
-    if (m_label->textFormat() != Qt::PlainText || m_label->text().isEmpty() || m_label->wordWrap()
-        || (m_label->textInteractionFlags() & selectable)) {
+    if (label.size().isEmpty()) {
         return false;
     }
-    const int flags = HasMnemonic() ? Qt::TextShowMnemonic : 0;
-    return m_label->fontMetrics().size(flags, m_label->text()).width() > TextRect().width();
+    // QLabel keeps its size hint, and measuring a text is dear. Asking for it polishes the label.
+    if (label.testAttribute(Qt::WA_WState_Polished) && label.sizeHint().width() <= label.width()) {
+        return false;
+    }
+    constexpr Qt::TextInteractionFlags selectable =
+        Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard;
+    if (label.textFormat() != Qt::PlainText || label.text().isEmpty() || label.wordWrap()
+        || (label.textInteractionFlags() & selectable)) {
+        return false;
+    }
+    const int flags = HasMnemonic(label) ? Qt::TextShowMnemonic : 0;
+    return label.fontMetrics().size(flags, label.text()).width() > TextRect(label).width();
+}
+
+ElidedText::ElidedText(QLabel* label)
+    : QObject(label)
+    , m_label(label)
+{
+    label->installEventFilter(this);
 }
 
 QString ElidedText::ElidedLines() const
 {
-    const int flags = HasMnemonic() ? Qt::TextShowMnemonic : 0;
-    const int width = TextRect().width();
+    const int flags = HasMnemonic(*m_label) ? Qt::TextShowMnemonic : 0;
+    const int width = TextRect(*m_label).width();
     QStringList lines = m_label->text().split(QLatin1Char('\n'));
     for (QString& line : lines) {
         line = m_label->fontMetrics().elidedText(line, Qt::ElideRight, width, flags);
@@ -109,18 +116,18 @@ void ElidedText::Paint() const
     const Qt::LayoutDirection direction = DirectionOf(m_label->text());
     int flags = static_cast<int>(QStyle::visualAlignment(direction, m_label->alignment()));
     flags |= direction == Qt::RightToLeft ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
-    if (HasMnemonic()) {
+    if (HasMnemonic(*m_label)) {
         const bool isShown =
             m_label->style()->styleHint(QStyle::SH_UnderlineShortcut, &frame, m_label) != 0;
         flags |= isShown ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
     }
-    m_label->style()->drawItemText(&painter, TextRect(), flags, m_label->palette(),
+    m_label->style()->drawItemText(&painter, TextRect(*m_label), flags, m_label->palette(),
                                    m_label->isEnabled(), ElidedLines(), m_label->foregroundRole());
 }
 
 void ElidedText::UpdateToolTip()
 {
-    const QString toolTip = IsTextTooWide() ? ToolTipShowing(m_label->text()) : QString();
+    const QString toolTip = IsTextTooWide(*m_label) ? ToolTipShowing(m_label->text()) : QString();
     const bool isOwn = m_label->toolTip() == m_ownToolTip;
     if (isOwn && toolTip != m_ownToolTip) {
         m_ownToolTip = toolTip;
@@ -134,7 +141,7 @@ bool ElidedText::eventFilter(QObject* watched, QEvent* event)
         UpdateToolTip();
     } else if (event->type() == QEvent::Paint) {
         UpdateToolTip();
-        if (IsTextTooWide()) {
+        if (IsTextTooWide(*m_label)) {
             Paint();
             return true;
         }

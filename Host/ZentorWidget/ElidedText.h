@@ -7,6 +7,9 @@ class QLabel;
 
 namespace Zentor {
 
+/// Whether \a label shows plain text that does not fit into it, and should be elided.
+bool IsTextTooWide(const QLabel& label);
+
 /// Event filter that elides the plain text of a label where it does not fit, with the whole text in
 /// the label's tool tip meanwhile. A tool tip that was set by others is left alone.
 class ElidedText final : public QObject {
@@ -23,9 +26,6 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    bool HasMnemonic() const;
-    bool IsTextTooWide() const;
-    QRect TextRect() const;
     QString ElidedLines() const;
     void Paint() const;
 

@@ -1,7 +1,6 @@
 #include "Caption.h"
-#include "ElidedText.h"
 #include "HostInterfaces.h"
-#include "LayoutAlignment.h"
+#include "LabelEvents.h"
 
 namespace Zentor {
 
@@ -9,8 +8,7 @@ ZLabel::ZLabel(QWidget* parent, Qt::WindowFlags flags)
     : QLabel(parent, flags)
 {
     setTextFormat(Qt::PlainText);
-    new ElidedText(this);
-    new LayoutAlignment(this);
+    LabelEvents::Follow(*this);
 }
 
 void ZLabel::setOriginalText(const QString& text)
@@ -19,7 +17,7 @@ void ZLabel::setOriginalText(const QString& text)
     const bool namesBuddy =
         buddy() != nullptr && buddy()->accessibleName() == AccessibleNameFrom(*this);
     setText(text);
-    findChild<ElidedText*>({}, Qt::FindDirectChildrenOnly)->UpdateToolTip();
+    LabelEvents::OnTextSet(*this);
     if (namesBuddy) {
         buddy()->setAccessibleName(AccessibleNameFrom(*this));
     }

@@ -284,6 +284,37 @@ private Q_SLOTS:
         QCOMPARE(button->accessibleName(), QStringLiteral("own"));
     }
 
+    /// A list has thousands of labels, whose texts fit.
+    void hasNoObjectsWhileItsTextFits()
+    {
+        QWidget window;
+        ZLabel label(&window);
+        label.setOriginalText(QStringLiteral("Duration"));
+        label.resize(label.sizeHint());
+        window.show();
+        Picture(window);
+        QVERIFY(label.children().isEmpty());
+        label.resize(20, 20);
+        QCOMPARE(label.children().size(), 1);
+        label.resize(label.sizeHint());
+        label.resize(20, 20);
+        Picture(window);
+        label.setOriginalText(LongText());
+        QCOMPARE(label.children().size(), 1);
+        QCOMPARE(label.toolTip(), LongText());
+    }
+
+    void hasNoObjectsWithoutASize()
+    {
+        QWidget window;
+        ZLabel label(&window);
+        label.resize(0, 20);
+        label.setOriginalText(LongText());
+        window.show();
+        QVERIFY(label.children().isEmpty());
+        QCOMPARE(label.toolTip(), QString());
+    }
+
     void selectableAndWrappedTextIsNotShortened()
     {
         ZLabel label;
