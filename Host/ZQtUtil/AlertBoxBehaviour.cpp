@@ -46,9 +46,27 @@ bool RejectOnClose::eventFilter(QObject* watched, QEvent* event)
 KeptButtonLabels::KeptButtonLabels(QDialogButtonBox* buttonBox)
     : QObject(buttonBox)
     , m_buttonBox(buttonBox)
-    , m_standardTexts(StandardTexts())
 {
+    NoteStandardTexts();
     buttonBox->installEventFilter(this);
+}
+
+/// The buttons have their standard texts now. Those of all others are dear to find out, and hardly
+/// ever needed: NoteAllStandardTexts() does so when a button is added.
+void KeptButtonLabels::NoteStandardTexts()
+{
+    m_standardTexts.clear();
+    const auto buttons = m_buttonBox->buttons();
+    for (auto* button : buttons) {
+        m_standardTexts.insert(m_buttonBox->standardButton(button), button->text());
+    }
+    m_hasAllTexts = false;
+}
+
+void KeptButtonLabels::NoteAllStandardTexts()
+{
+    m_standardTexts = StandardTexts();
+    m_hasAllTexts = true;
 }
 
 KeptButtonLabels::Texts KeptButtonLabels::GivenTexts() const
@@ -67,6 +85,10 @@ KeptButtonLabels::Texts KeptButtonLabels::GivenTexts() const
 
 bool KeptButtonLabels::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::ChildAdded && !m_hasAllTexts
+        && static_cast<QChildEvent*>(event)->child()->isWidgetType()) {
+        NoteAllStandardTexts();
+    }
     if (event->type() != QEvent::LanguageChange || m_isPassingOn) {
         return QObject::eventFilter(watched, event);
     }
@@ -76,10 +98,10 @@ bool KeptButtonLabels::eventFilter(QObject* watched, QEvent* event)
         const QScopedValueRollback<bool> passingOn(m_isPassingOn, true);
         QCoreApplication::sendEvent(watched, event);
     }
+    NoteStandardTexts();
     for (auto text = given.begin(); text != given.end(); ++text) {
         text.key()->setText(text.value());
     }
-    m_standardTexts = StandardTexts();
     return true;
 }
 

@@ -34,11 +34,15 @@ public:
 private:
     using Texts = QHash<QAbstractButton*, QString>;
 
+    void NoteStandardTexts();
+    void NoteAllStandardTexts();
     Texts GivenTexts() const;
 
     QDialogButtonBox* m_buttonBox;
-    /// The texts that standard buttons have in the current language.
+    /// The texts that standard buttons have in the current language: of the buttons in the box, or
+    /// of all.
     QHash<int, QString> m_standardTexts;
+    bool m_hasAllTexts = false;
     bool m_isPassingOn = false;
 };
 

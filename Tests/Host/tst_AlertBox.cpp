@@ -28,12 +28,40 @@ struct OkCancelBox : AlertBox {
     }
 };
 
+/// Counts the buttons that are put into button boxes.
+class ButtonCount final : public QObject {
+public:
+    ButtonCount() { qApp->installEventFilter(this); }
+
+    int Get() const { return m_count; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const bool isAdded =
+            event->type() == QEvent::ChildAdded && watched->inherits("QDialogButtonBox");
+        m_count += isAdded && static_cast<QChildEvent*>(event)->child()->isWidgetType() ? 1 : 0;
+        return false;
+    }
+
+private:
+    int m_count = 0;
+};
+
 } // namespace
 
 class tst_AlertBox : public Tests::WidgetTest {
     Q_OBJECT
 
 private Q_SLOTS:
+    /// A box is also built for a question that has a remembered answer.
+    void isBuiltWithItsOwnButtonsOnly()
+    {
+        const ButtonCount buttons;
+        const AlertBox box(AlertBox::Question, QString(), QStringLiteral("Sure?"),
+                           QMessageBox::Ok | QMessageBox::Cancel, nullptr, Qt::Dialog);
+        QCOMPARE(buttons.Get(), 2);
+    }
+
     void levels_data()
     {
         QTest::addColumn<AlertBox::Level>("level");
