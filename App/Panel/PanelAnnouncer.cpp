@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QLineEdit>
 #include <QTimeEdit>
+#include <QTimer>
 
 #include "PXUserSettings/SettingsStore.h"
 
@@ -60,7 +61,10 @@ void PanelAnnouncer::CompareSchedule()
 bool PanelAnnouncer::eventFilter(QObject* watched, QEvent* event)
 {
     const auto type = event->type();
-    if (type == QEvent::ToolTipChange || type == QEvent::Show || type == QEvent::Hide) {
+    if (type == QEvent::ToolTipChange && ShownProblem().isEmpty()) {
+        // Later: the form clears a tip before it sets the next one, also the same one.
+        QTimer::singleShot(0, this, &PanelAnnouncer::UpdateProblem);
+    } else if (type == QEvent::ToolTipChange || type == QEvent::Show || type == QEvent::Hide) {
         UpdateProblem();
     }
     return QObject::eventFilter(watched, event);

@@ -95,6 +95,15 @@ bool SyncFolderOf(const QString& path)
     return !folder.IsOpen() || ::fsync(folder.Number()) == 0 || errno == EINVAL;
 }
 
+/// What is wrong, in the language in use where Qt has a translation.
+QString ErrorText(int error)
+{
+    // Qt knows this one under another name than the system's.
+    static const char* const isDirectory = "Filename refers to a directory";
+    return error == EISDIR ? QCoreApplication::translate("QSaveFile", isDirectory)
+                           : qt_error_string(error);
+}
+
 /// Writes \a version into \a path.
 QString Write(const QString& path, FileVersion version, FileVersion& written)
 {
@@ -106,10 +115,10 @@ QString Write(const QString& path, FileVersion version, FileVersion& written)
         if (file.IsOpen()) {
             ::unlink(unfinished.constData());
         }
-        return qt_error_string(error);
+        return ErrorText(error);
     }
     written = version;
-    return SyncFolderOf(path) ? QString() : qt_error_string(errno);
+    return SyncFolderOf(path) ? QString() : ErrorText(errno);
 }
 
 } // namespace
