@@ -38,6 +38,15 @@ private:
     const int m_number;
 };
 
+/// What is wrong, in the language in use where Qt has a translation.
+QString ErrorText(int error)
+{
+    // Qt knows this one under another name than the system's.
+    static const char* const isDirectory = "Filename refers to a directory";
+    return error == EISDIR ? QCoreApplication::translate("QSaveFile", isDirectory)
+                           : qt_error_string(error);
+}
+
 /// Reads on to the end. False, with errno set, when that fails.
 bool ReadAll(int descriptor, QByteArray& content)
 {
@@ -95,15 +104,6 @@ bool SyncFolderOf(const QString& path)
     return !folder.IsOpen() || ::fsync(folder.Number()) == 0 || errno == EINVAL;
 }
 
-/// What is wrong, in the language in use where Qt has a translation.
-QString ErrorText(int error)
-{
-    // Qt knows this one under another name than the system's.
-    static const char* const isDirectory = "Filename refers to a directory";
-    return error == EISDIR ? QCoreApplication::translate("QSaveFile", isDirectory)
-                           : qt_error_string(error);
-}
-
 /// Writes \a version into \a path.
 QString Write(const QString& path, FileVersion version, FileVersion& written)
 {
@@ -148,10 +148,10 @@ QString ReadFile(const QString& path, FileVersion& found)
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status { };
     if (!file.IsOpen()) {
-        return errno == ENOENT ? QString() : qt_error_string(errno);
+        return errno == ENOENT ? QString() : ErrorText(errno);
     }
     if (::fstat(file.Number(), &status) != 0 || !ReadAll(file.Number(), found.content)) {
-        return qt_error_string(errno);
+        return ErrorText(errno);
     }
     if (found.content.size() < status.st_size) {
         return QCoreApplication::translate("SettingsStore", "only a part of it could be read");
@@ -174,7 +174,7 @@ QString ReplaceFile(const QString& path, const QByteArray& content, FileVersion&
     const QByteArray name = QFile::encodeName(path);
     // A file that its user has protected can be renamed away, too.
     if (::faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS) != 0 && errno != ENOENT) {
-        return qt_error_string(errno);
+        return ErrorText(errno);
     }
     FileVersion version;
     version.content = content;
