@@ -78,7 +78,7 @@ QString OfferedLanguage(const QString& name)
 QString BestLanguage(const QStringList& wanted)
 {
     for (const QString& name : wanted) {
-        const QString code = OfferedLanguage(name);
+        QString code = OfferedLanguage(name);
         if (!code.isEmpty()) {
             return code;
         }

@@ -39,7 +39,8 @@ void Announce(QStatusBar* statusBar, const QString& text, int milliseconds)
 } // namespace
 
 MainWindow::MainWindow(std::shared_ptr<PX::SettingsStore> store,
-                       std::shared_ptr<App::ILookAndFeelManager> lookAndFeel, QWidget* parent)
+                       const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel,
+                       QWidget* parent)
     : QMainWindow(parent)
     , m_store(std::move(store))
 {

@@ -38,7 +38,8 @@ public:
     /// \a store has been opened, with the application's section. Apply a theme before: the
     /// scheduler panel is built here.
     MainWindow(std::shared_ptr<PX::SettingsStore> store,
-               std::shared_ptr<App::ILookAndFeelManager> lookAndFeel, QWidget* parent = nullptr);
+               const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel,
+               QWidget* parent = nullptr);
     ~MainWindow() override;
 
     /// Shows what was chosen for this run only; \a appearance outlives the window.
