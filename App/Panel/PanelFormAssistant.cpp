@@ -91,7 +91,9 @@ void PanelFormAssistant::MoveToFreeStart()
     const auto moment = QDateTime::fromMSecsSinceEpoch(
         std::chrono::duration_cast<milliseconds>(free.time_since_epoch()).count());
     m_parts.dateField->setDate(moment.date());
-    m_parts.startField->setDateTime(moment);
+    // Not with its date: on a later day the editor would be held at the old minimum's clock
+    // reading.
+    m_parts.startField->setTime(moment.time());
 }
 
 bool PanelFormAssistant::eventFilter(QObject* watched, QEvent* event)

@@ -50,14 +50,24 @@ private Q_SLOTS:
             == At(qPrintable(expected)));
     }
 
+    void opensWithAFreeStart_data()
+    {
+        QTest::addColumn<QTime>("duration");
+        QTest::newRow("soon") << QTime(1, 0);
+        QTest::newRow("on the next day, earlier by the clock") << QTime(23, 0);
+    }
+
     void opensWithAFreeStart()
     {
+        QFETCH(QTime, duration);
         const AppWindow app;
         QVERIFY(app.Show());
         app.Button(Desktop::PanelPart::ScheduledModeButton)->click();
-        AddHour(app, "First");
+        AddTask(app, "First", duration);
+        QCOMPARE(app.store->Settings().schedule.size(), std::size_t(1));
         const auto taken = app.store->Settings().schedule.front();
         app.Button(Desktop::PanelPart::AddButton)->click();
+        app.Find<QTimeEdit>(Desktop::PanelPart::DurationField)->setTime(QTime(0, 30));
         QVERIFY(app.Button(Desktop::PanelPart::CreateButton)->isEnabled());
         QCOMPARE(app.Find(Desktop::PanelPart::StartField)->toolTip(), QString());
         const auto start = app.Find<QTimeEdit>(Desktop::PanelPart::StartField)->dateTime();
@@ -144,11 +154,11 @@ private Q_SLOTS:
     }
 
 private:
-    static void AddHour(const AppWindow& app, const char* name)
+    static void AddTask(const AppWindow& app, const char* name, const QTime& duration)
     {
         app.Button(Desktop::PanelPart::AddButton)->click();
         app.Type(name);
-        app.Find<QTimeEdit>(Desktop::PanelPart::DurationField)->setTime(QTime(1, 0));
+        app.Find<QTimeEdit>(Desktop::PanelPart::DurationField)->setTime(duration);
         app.Button(Desktop::PanelPart::CreateButton)->click();
     }
 };
