@@ -96,6 +96,22 @@ public:
             : focused->objectName();
     }
 
+    /// What Tab stops at, from the list of pages once around.
+    QStringList TabStops() const
+    {
+        constexpr int atMost = 50;
+        Focus("pageList");
+        QStringList stops;
+        do {
+            // A time editor has a stop for each of its sections.
+            if (stops.isEmpty() || stops.constLast() != Focused()) {
+                stops << Focused();
+            }
+            Press(Qt::Key_Tab);
+        } while (Focused() != stops.constFirst() && stops.size() < atMost);
+        return stops;
+    }
+
     bool IsFormOpen() const { return Find(Desktop::PanelPart::Form)->isVisible(); }
     QString StatusText() const { return window->findChild<QStatusBar*>()->currentMessage(); }
     /// What scrolls the page with the panel.
