@@ -1,6 +1,7 @@
 # What every target of this project has in common.
 #
-#   zentor_target_defaults(<target> [ALLOW_ASCII])  language level, warnings, visibility, sanitizers;
+#   zentor_target_defaults(<target> [ALLOW_ASCII])  language level, warnings, visibility, sanitizers,
+#                                                   coverage;
 #                                                   ALLOW_ASCII: QString from and to char texts
 #   zentor_target_moc(<target> <header>...)         runs moc on the headers, without AUTOMOC
 #   zentor_target_precompile(<target>)              spares a target with widgets, built for its own sake,
@@ -33,6 +34,10 @@ function(zentor_target_defaults target)
             -fno-omit-frame-pointer)
         target_compile_options(${target} PRIVATE ${sanitizers})
         target_link_options(${target} PUBLIC ${sanitizers})
+    endif()
+    if(SCHEDULER_COVERAGE)
+        target_compile_options(${target} PRIVATE --coverage -fprofile-update=atomic)
+        target_link_options(${target} PUBLIC --coverage)
     endif()
 endfunction()
 
