@@ -73,6 +73,47 @@ private:
     int m_count = 0;
 };
 
+void AddPartRow(const char* name, const char* className, const char* parent)
+{
+    QTest::newRow(name) << QString::fromLatin1(className) << QString::fromLatin1(parent);
+}
+
+void AddPartRowsOfTheScheduledMode()
+{
+    AddPartRow("scheduledCaptureFrame", "Zentor::ZFrame", "panel");
+    AddPartRow("scheduledCaptureRadioButtonFrame", "Zentor::ZFrame", "scheduledCaptureFrame");
+    AddPartRow("scheduledCaptureRadioButton", "QRadioButton", "scheduledCaptureRadioButtonFrame");
+    AddPartRow("scheduledCaptureLabel", "Zentor::ZLabel", "scheduledCaptureRadioButtonFrame");
+    AddPartRow("scheduledCaptureStackedWidget", "QStackedWidget", "scheduledCaptureFrame");
+    AddPartRow("scheduledCaptureRecordTablePage", "Zentor::ZFrame",
+               "scheduledCaptureStackedWidget");
+    AddPartRow("scheduledCaptureSettingsRecordTableWidget",
+               "Zentor::PX::Scheduler::UI::ScheduleRecordTableWidget",
+               "scheduledCaptureRecordTablePage");
+    AddPartRow("scheduledCaptureSettingsRecordTableWidgetBorder", "QFrame",
+               "scheduledCaptureRecordTablePage");
+    AddPartRow("scheduledCaptureSettingsAddRecordButtonFrame", "Zentor::ZFrame",
+               "scheduledCaptureRecordTablePage");
+    AddPartRow("scheduledCaptureSettingsAddRecordButton", "QPushButton",
+               "scheduledCaptureSettingsAddRecordButtonFrame");
+    AddPartRow("createRecordTaskWidget", "Zentor::PX::Scheduler::UI::CreateRecordTaskWidget",
+               "scheduledCaptureStackedWidget");
+}
+
+void ChooseTheLimitedMode(Panel& panel, const QString& input)
+{
+    if (input == QLatin1String("click")) {
+        ClickIndicator(panel.Limited());
+    } else if (input == QLatin1String("key")) {
+        panel.Scheduled()->setFocus();
+        QTest::keyClick(panel.Scheduled(), Qt::Key_Up);
+    } else if (input == QLatin1String("caption")) {
+        QTest::mouseClick(panel.Find<QWidget>("limitedCaptureDurationLabel"), Qt::LeftButton);
+    } else {
+        panel.Limited()->setChecked(true);
+    }
+}
+
 } // namespace
 
 class tst_RecordSchedulerWidget : public WidgetTest {
@@ -116,48 +157,30 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("className");
         QTest::addColumn<QString>("parent");
-        const auto row = [](const char* name, const char* className, const char* parent) {
-            QTest::newRow(name) << QString::fromLatin1(className) << QString::fromLatin1(parent);
-        };
-        row("timerTypeRadioButtonGroup", "QButtonGroup", "panel");
-        row("disableScheduledCaptureRadioButtonFrame", "Zentor::ZFrame", "panel");
-        row("disableScheduledCaptureRadioButton", "QRadioButton",
-            "disableScheduledCaptureRadioButtonFrame");
-        row("disableScheduledCaptureLabel", "Zentor::ZLabel",
-            "disableScheduledCaptureRadioButtonFrame");
-        row("limitedCaptureDurationFrame", "Zentor::ZFrame", "panel");
-        row("limitedCaptureDurationRadioButtonFrame", "Zentor::ZFrame",
-            "limitedCaptureDurationFrame");
-        row("limitedCaptureDurationRadioButton", "QRadioButton",
-            "limitedCaptureDurationRadioButtonFrame");
-        row("limitedCaptureDurationLabel", "Zentor::ZLabel",
-            "limitedCaptureDurationRadioButtonFrame");
-        row("limitedCaptureDurationSettingsFrame", "Zentor::ZFrame", "limitedCaptureDurationFrame");
-        row("limitedCaptureDurationSettingsDurationLabel", "Zentor::ZLabel",
-            "limitedCaptureDurationSettingsFrame");
-        row("limitedCaptureDurationSettingsCaptureDuration", "QTimeEdit",
-            "limitedCaptureDurationSettingsFrame");
-        row("limitedCaptureDurationSettingsActionOnFinishLabel", "Zentor::ZLabel",
-            "limitedCaptureDurationSettingsFrame");
-        row("limitedCaptureDurationSettingsActionOnFinishBox", "QComboBox",
-            "limitedCaptureDurationSettingsFrame");
-        row("scheduledCaptureFrame", "Zentor::ZFrame", "panel");
-        row("scheduledCaptureRadioButtonFrame", "Zentor::ZFrame", "scheduledCaptureFrame");
-        row("scheduledCaptureRadioButton", "QRadioButton", "scheduledCaptureRadioButtonFrame");
-        row("scheduledCaptureLabel", "Zentor::ZLabel", "scheduledCaptureRadioButtonFrame");
-        row("scheduledCaptureStackedWidget", "QStackedWidget", "scheduledCaptureFrame");
-        row("scheduledCaptureRecordTablePage", "Zentor::ZFrame", "scheduledCaptureStackedWidget");
-        row("scheduledCaptureSettingsRecordTableWidget",
-            "Zentor::PX::Scheduler::UI::ScheduleRecordTableWidget",
-            "scheduledCaptureRecordTablePage");
-        row("scheduledCaptureSettingsRecordTableWidgetBorder", "QFrame",
-            "scheduledCaptureRecordTablePage");
-        row("scheduledCaptureSettingsAddRecordButtonFrame", "Zentor::ZFrame",
-            "scheduledCaptureRecordTablePage");
-        row("scheduledCaptureSettingsAddRecordButton", "QPushButton",
-            "scheduledCaptureSettingsAddRecordButtonFrame");
-        row("createRecordTaskWidget", "Zentor::PX::Scheduler::UI::CreateRecordTaskWidget",
-            "scheduledCaptureStackedWidget");
+        AddPartRow("timerTypeRadioButtonGroup", "QButtonGroup", "panel");
+        AddPartRow("disableScheduledCaptureRadioButtonFrame", "Zentor::ZFrame", "panel");
+        AddPartRow("disableScheduledCaptureRadioButton", "QRadioButton",
+                   "disableScheduledCaptureRadioButtonFrame");
+        AddPartRow("disableScheduledCaptureLabel", "Zentor::ZLabel",
+                   "disableScheduledCaptureRadioButtonFrame");
+        AddPartRow("limitedCaptureDurationFrame", "Zentor::ZFrame", "panel");
+        AddPartRow("limitedCaptureDurationRadioButtonFrame", "Zentor::ZFrame",
+                   "limitedCaptureDurationFrame");
+        AddPartRow("limitedCaptureDurationRadioButton", "QRadioButton",
+                   "limitedCaptureDurationRadioButtonFrame");
+        AddPartRow("limitedCaptureDurationLabel", "Zentor::ZLabel",
+                   "limitedCaptureDurationRadioButtonFrame");
+        AddPartRow("limitedCaptureDurationSettingsFrame", "Zentor::ZFrame",
+                   "limitedCaptureDurationFrame");
+        AddPartRow("limitedCaptureDurationSettingsDurationLabel", "Zentor::ZLabel",
+                   "limitedCaptureDurationSettingsFrame");
+        AddPartRow("limitedCaptureDurationSettingsCaptureDuration", "QTimeEdit",
+                   "limitedCaptureDurationSettingsFrame");
+        AddPartRow("limitedCaptureDurationSettingsActionOnFinishLabel", "Zentor::ZLabel",
+                   "limitedCaptureDurationSettingsFrame");
+        AddPartRow("limitedCaptureDurationSettingsActionOnFinishBox", "QComboBox",
+                   "limitedCaptureDurationSettingsFrame");
+        AddPartRowsOfTheScheduledMode();
     }
 
     void buildsItsTree()
@@ -543,16 +566,7 @@ private Q_SLOTS:
                 QTimer::singleShot(0, qApp, [&] { end(&question); });
             }
         });
-        if (input == QLatin1String("click")) {
-            ClickIndicator(panel.Limited());
-        } else if (input == QLatin1String("key")) {
-            panel.Scheduled()->setFocus();
-            QTest::keyClick(panel.Scheduled(), Qt::Key_Up);
-        } else if (input == QLatin1String("caption")) {
-            QTest::mouseClick(panel.Find<QWidget>("limitedCaptureDurationLabel"), Qt::LeftButton);
-        } else {
-            panel.Limited()->setChecked(true);
-        }
+        ChooseTheLimitedMode(panel, input);
         QVERIFY(box.Came());
         QVERIFY(!IsBoxOpen());
         if (victim == QLatin1String("box")) {
