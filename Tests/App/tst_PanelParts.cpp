@@ -27,61 +27,35 @@ private Q_SLOTS:
     {
         const Panel panel;
         const Desktop::PanelParts parts(*panel.widget);
-        QList<const QObject*> found{parts.modeGroup,
-                                    parts.offModeButton,
-                                    parts.limitedModeButton,
-                                    parts.scheduledModeButton,
-                                    parts.limitedSettings,
-                                    parts.limitedDurationField,
-                                    parts.limitedActionBox,
-                                    parts.stack,
-                                    parts.table,
-                                    parts.list,
-                                    parts.rows,
-                                    parts.addButton,
-                                    parts.form,
-                                    parts.nameField,
-                                    parts.dateField,
-                                    parts.startField,
-                                    parts.durationField,
-                                    parts.areaGroup,
-                                    parts.selectedAreaButton,
-                                    parts.selectedAreaInfoButton,
-                                    parts.fullScreenButton,
-                                    parts.screenBox,
-                                    parts.actionBox,
-                                    parts.createButton,
-                                    parts.backButton};
-        QStringList names;
-        for (const QObject* part : found) {
-            names << part->objectName();
+        const QList<QPair<const QObject*, const char*>> expected{
+            {parts.modeGroup, "timerTypeRadioButtonGroup"},
+            {parts.offModeButton, "disableScheduledCaptureRadioButton"},
+            {parts.limitedModeButton, "limitedCaptureDurationRadioButton"},
+            {parts.scheduledModeButton, "scheduledCaptureRadioButton"},
+            {parts.limitedSettings, "limitedCaptureDurationSettingsFrame"},
+            {parts.limitedDurationField, "limitedCaptureDurationSettingsCaptureDuration"},
+            {parts.limitedActionBox, "limitedCaptureDurationSettingsActionOnFinishBox"},
+            {parts.stack, "scheduledCaptureStackedWidget"},
+            {parts.table, "scheduledCaptureSettingsRecordTableWidget"},
+            {parts.list, "recordTableScrollArea"},
+            {parts.rows, "recordTableFrame"},
+            {parts.addButton, "scheduledCaptureSettingsAddRecordButton"},
+            {parts.form, "createRecordTaskWidget"},
+            {parts.nameField, "scheduledCaptureSettingsNameLineEdit"},
+            {parts.dateField, "scheduledCaptureSettingsDate"},
+            {parts.startField, "scheduledCaptureSettingsStartTime"},
+            {parts.durationField, "scheduledCaptureSettingsDuration"},
+            {parts.areaGroup, "captureAreaRadioButtonGroup"},
+            {parts.selectedAreaButton, "scheduledCaptureSettingsSelectedAreaButton"},
+            {parts.selectedAreaInfoButton, "scheduledCaptureSettingsSelectedAreaInfoButton"},
+            {parts.fullScreenButton, "scheduledCaptureSettingsFullScreenAreaButton"},
+            {parts.screenBox, "scheduledCaptureSettingsScreenSelectBox"},
+            {parts.actionBox, "scheduledCaptureSettingsActionOnFinishBox"},
+            {parts.createButton, "scheduledCaptureSettingsCreateButton"},
+            {parts.backButton, "scheduledCaptureSettingsBackButton"}};
+        for (const auto& [part, name] : expected) {
+            QCOMPARE(part->objectName(), QString(name));
         }
-        const QStringList expected{"timerTypeRadioButtonGroup",
-                                   "disableScheduledCaptureRadioButton",
-                                   "limitedCaptureDurationRadioButton",
-                                   "scheduledCaptureRadioButton",
-                                   "limitedCaptureDurationSettingsFrame",
-                                   "limitedCaptureDurationSettingsCaptureDuration",
-                                   "limitedCaptureDurationSettingsActionOnFinishBox",
-                                   "scheduledCaptureStackedWidget",
-                                   "scheduledCaptureSettingsRecordTableWidget",
-                                   "recordTableScrollArea",
-                                   "recordTableFrame",
-                                   "scheduledCaptureSettingsAddRecordButton",
-                                   "createRecordTaskWidget",
-                                   "scheduledCaptureSettingsNameLineEdit",
-                                   "scheduledCaptureSettingsDate",
-                                   "scheduledCaptureSettingsStartTime",
-                                   "scheduledCaptureSettingsDuration",
-                                   "captureAreaRadioButtonGroup",
-                                   "scheduledCaptureSettingsSelectedAreaButton",
-                                   "scheduledCaptureSettingsSelectedAreaInfoButton",
-                                   "scheduledCaptureSettingsFullScreenAreaButton",
-                                   "scheduledCaptureSettingsScreenSelectBox",
-                                   "scheduledCaptureSettingsActionOnFinishBox",
-                                   "scheduledCaptureSettingsCreateButton",
-                                   "scheduledCaptureSettingsBackButton"};
-        QCOMPARE(names, expected);
     }
 
     void deleteButtonsAreInTheOrderOfTheList()
