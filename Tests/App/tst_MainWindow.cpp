@@ -81,6 +81,13 @@ bool IsStopOfTab(const QWidget& widget)
         && qobject_cast<const QAbstractSpinBox*>(widget.parentWidget()) == nullptr;
 }
 
+/// Presses a letter with its text, for letters that Qt Test knows no key of.
+void PressWithAlt(const QWidget& window, int letter)
+{
+    QTest::sendKeyEvent(QTest::Click, window.windowHandle(), Qt::Key(letter), QChar(letter),
+                        Qt::AltModifier);
+}
+
 } // namespace
 
 class tst_MainWindow : public WidgetTest {
@@ -771,10 +778,7 @@ private Q_SLOTS:
                 new HeldClick(button);
             }
             Window().setFocus();
-            // With its text, for letters that Qt Test knows no key of.
-            const QString letter = QChar(key[0] & ~Qt::ALT);
-            QTest::sendKeyEvent(QTest::Click, Window().windowHandle(), Qt::Key(key[0] & ~Qt::ALT),
-                                letter, Qt::AltModifier);
+            PressWithAlt(Window(), key[0] & ~int(Qt::ALT));
             QVERIFY2(field->hasFocus(), qPrintable(label->text()));
             ++reached;
         }
