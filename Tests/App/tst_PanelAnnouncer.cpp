@@ -18,8 +18,6 @@
 namespace Zentor::Tests {
 namespace {
 
-const QString& nameEdit = Desktop::PanelPart::NameField;
-
 QString DuplicateProblem()
 {
     return QStringLiteral("Task with this title already exist");
