@@ -21,10 +21,10 @@ private Q_SLOTS:
         auto* layout = new QVBoxLayout(m_window.get());
         auto* group = new QButtonGroup(m_window.get());
         layout->addWidget(new QLineEdit(m_window.get()));
-        for (int number = 0; number < 3; ++number) {
-            m_buttons[number] = new QRadioButton(m_window.get());
-            layout->addWidget(m_buttons[number]);
-            group->addButton(m_buttons[number]);
+        for (QRadioButton*& button : m_buttons) {
+            button = new QRadioButton(m_window.get());
+            layout->addWidget(button);
+            group->addButton(button);
         }
         layout->addWidget(new QLineEdit(m_window.get()));
         m_buttons[0]->setChecked(true);
@@ -96,7 +96,7 @@ private:
         QStringList stops;
         for (int presses = 0; presses < 5; ++presses) {
             QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
-            for (int number = 0; number < 3; ++number) {
+            for (std::size_t number = 0; number < m_buttons.size(); ++number) {
                 if (m_buttons[number]->hasFocus()) {
                     stops << QString::number(number);
                 }
