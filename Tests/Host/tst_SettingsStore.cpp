@@ -83,6 +83,13 @@ private:
     bool m_isOrdinary = false;
 };
 
+/// The permission bits of a file, or -1 where there is none.
+int PermissionsOf(const QString& path)
+{
+    struct stat status { };
+    return stat(qPrintable(path), &status) == 0 ? int(status.st_mode & 07777) : -1;
+}
+
 /// A folder with room for a settings file.
 class Place {
 public:
@@ -1180,10 +1187,6 @@ private Q_SLOTS:
     {
         QFETCH(int, before);
         QFETCH(int, kept);
-        const auto permissions = [](const QString& path) {
-            struct stat status { };
-            return stat(qPrintable(path), &status) == 0 ? int(status.st_mode & 07777) : -1;
-        };
         const mode_t mask = umask(0);
         const QTemporaryDir folder;
         const QString inner = folder.filePath(QStringLiteral("new/inner"));
@@ -1192,14 +1195,13 @@ private Q_SLOTS:
         {
             SettingsStore store(path);
             QVERIFY(Open(store));
-            QCOMPARE(permissions(path + QStringLiteral(".lock")), 0600);
+            QCOMPARE(PermissionsOf(path + QStringLiteral(".lock")), 0600);
             SetPage(store, QStringLiteral("x"));
         }
-        QCOMPARE(permissions(path), 0600);
-        QCOMPARE(permissions(inner), 0700);
-        QCOMPARE(permissions(folder.filePath(QStringLiteral("new"))), 0700);
-        QCOMPARE(permissions(folder.path()), 0755);
-
+        QCOMPARE(PermissionsOf(path), 0600);
+        QCOMPARE(PermissionsOf(inner), 0700);
+        QCOMPARE(PermissionsOf(folder.filePath(QStringLiteral("new"))), 0700);
+        QCOMPARE(PermissionsOf(folder.path()), 0755);
         // A damaged one, and one that is changed later.
         chmod(qPrintable(inner), 0755);
         for (const bool isDamaged : {true, false}) {
@@ -1218,9 +1220,9 @@ private Q_SLOTS:
             chmod(qPrintable(path), mode_t(before));
             QCOMPARE(store.Flush(), geteuid() == 0 || (before & 0200) != 0);
             QCOMPARE(store.Notices().empty(), false);
-            QCOMPARE(permissions(store.Notices().back().keptPath), kept);
+            QCOMPARE(PermissionsOf(store.Notices().back().keptPath), kept);
         }
-        QCOMPARE(permissions(inner), 0755);
+        QCOMPARE(PermissionsOf(inner), 0755);
         umask(mask);
     }
 
