@@ -47,7 +47,7 @@ public:
 /// Adds the tool tips that widgets are given to the calls, as in "Tip StartTime set".
 class ToolTipChanges final : public QObject {
 public:
-    explicit ToolTipChanges(std::initializer_list<QWidget*> widgets)
+    ToolTipChanges(std::initializer_list<QWidget*> widgets)
     {
         for (QWidget* widget : widgets) {
             widget->installEventFilter(this);
