@@ -244,8 +244,8 @@ private Q_SLOTS:
         };
         constexpr std::size_t count = std::size(questions);
         for (std::size_t i = 0; i < count; ++i) {
-            for (std::size_t j = 0; j < count; ++j) {
-                add({&questions[i], &questions[j]});
+            for (const auto& second : questions) {
+                add({&questions[i], &second});
             }
             add({&questions[i], &questions[i], &questions[i]});
             add({&questions[i], &questions[(i + 1) % count], &questions[i]});
