@@ -159,13 +159,16 @@ void MainWindow::Connect()
 
 void MainWindow::ConnectPages()
 {
+    // The pages may still announce something while the window, no longer one itself, deletes them.
+    QStatusBar* const statusBar = m_statusBar;
     for (const PageFrame* frame : qAsConst(m_frames)) {
-        connect(frame->Content(), &Page::Announced, m_statusBar,
-                [this](const QString& text) { Announce(m_statusBar, text, MessageMilliseconds); });
+        connect(frame->Content(), &Page::Announced, statusBar, [statusBar](const QString& text) {
+            Announce(statusBar, text, MessageMilliseconds);
+        });
     }
     // Longer on screen than the tip at the field, which goes after some seconds.
-    connect(m_schedulePage, &SchedulePage::ProblemChanged, m_statusBar,
-            [this](const QString& problem) { Announce(m_statusBar, problem, 0); });
+    connect(m_schedulePage, &SchedulePage::ProblemChanged, statusBar,
+            [statusBar](const QString& problem) { Announce(statusBar, problem, 0); });
     connect(m_schedulePage, &SchedulePage::FilesRequested, this,
             [this] { ShowPage(FilesPage::PageId()); });
     m_schedulePage->SetTabPredecessor(m_pageList);

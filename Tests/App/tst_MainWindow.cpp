@@ -164,7 +164,7 @@ private Q_SLOTS:
             count == 0 ? Desktop::PanelPart::PlaceholderRow : Desktop::PanelPart::Row;
         QCOMPARE(Find<QWidget>(row)->height(), 40);
         const auto* scrollArea = Find<QScrollArea>(Desktop::PanelPart::List);
-        QCOMPARE(scrollArea->verticalScrollBar()->isVisible(), count > 5);
+        QTRY_COMPARE(scrollArea->verticalScrollBar()->isVisible(), count > 5);
         QVERIFY(!scrollArea->horizontalScrollBar()->isVisible());
     }
 
