@@ -31,6 +31,16 @@ QString PathOf(const QString& text)
     return trimmed.isEmpty() ? QString() : QDir::cleanPath(QDir::fromNativeSeparators(trimmed));
 }
 
+/// The folder that exists of those that lead to \a path, which does not.
+QString NearestFolder(const QString& path)
+{
+    QString parent = path;
+    do {
+        parent = QFileInfo(parent).path();
+    } while (!QFileInfo::exists(parent));
+    return parent;
+}
+
 /// \a text for a sentence, in which it keeps the order of its own writing direction.
 QString Isolated(const QString& text)
 {
@@ -123,26 +133,52 @@ void FilesPage::Browse()
 
 void FilesPage::Apply()
 {
-    const QString path = PathOf(m_folderEdit->text());
+    const QString path = EnteredPath();
     if (path == m_store->Settings().resultsFolderPath) {
         ShowStored();
         return;
     }
-    const QFileInfo folder(path);
-    if (path.isEmpty() || folder.isRelative()) {
-        ShowProblem(tr("Enter the full path of a folder."));
-        return;
-    }
-    if (folder.exists() && !folder.isDir()) {
-        ShowProblem(tr("This is a file, not a folder."));
-        return;
-    }
-    if (folder.exists() && !folder.isWritable()) {
-        ShowProblem(tr("You are not allowed to write into this folder."));
+    const QString problem = ProblemOf(path);
+    if (!problem.isEmpty()) {
+        ShowProblem(problem);
         return;
     }
     m_store->Change([&](PX::UserSettings& settings) { settings.resultsFolderPath = path; });
     ShowStored();
+}
+
+QString FilesPage::Problem() const
+{
+    return ProblemOf(EnteredPath());
+}
+
+QString FilesPage::EnteredPath() const
+{
+    // What was typed wrongly is forgotten when the page is left.
+    return isVisible() ? PathOf(m_folderEdit->text()) : m_store->Settings().resultsFolderPath;
+}
+
+void FilesPage::FocusInput()
+{
+    m_folderEdit->setFocus(Qt::OtherFocusReason);
+}
+
+/// Why recordings cannot be kept in \a path, or nothing.
+QString FilesPage::ProblemOf(const QString& path)
+{
+    if (path.isEmpty() || QDir::isRelativePath(path)) {
+        return tr("Enter the full path of a folder.");
+    }
+    const QFileInfo folder(path);
+    if (!folder.exists()) {
+        const QFileInfo parent(NearestFolder(path));
+        return parent.isDir() && parent.isWritable() ? QString()
+                                                     : tr("This folder cannot be created.");
+    }
+    if (!folder.isDir()) {
+        return tr("This is a file, not a folder.");
+    }
+    return folder.isWritable() ? QString() : tr("You are not allowed to write into this folder.");
 }
 
 void FilesPage::ShowStored()
@@ -152,15 +188,21 @@ void FilesPage::ShowStored()
     if (m_folderEdit->text() != shown) {
         m_folderEdit->setText(shown);
     }
-    ShowProblem({});
+    ShowProblem(ProblemOf(m_store->Settings().resultsFolderPath));
     ShowFreeSpace();
 }
 
 void FilesPage::ShowFreeSpace()
 {
-    const std::int64_t bytes = FreeSpace(m_store->Settings().resultsFolderPath);
-    m_freeSpaceLabel->setText(bytes < 0 ? tr("The free space of this folder is unknown.")
-                                        : tr("Free space: %1").arg(SizeText(bytes)));
+    const QString path = m_store->Settings().resultsFolderPath;
+    const std::int64_t bytes = FreeSpace(path);
+    QStringList lines;
+    if (!QFileInfo::exists(path)) {
+        lines << tr("This folder does not exist yet. It will be created with the first recording.");
+    }
+    lines << (bytes < 0 ? tr("The free space of this folder is unknown.")
+                        : tr("Free space: %1").arg(SizeText(bytes)));
+    m_freeSpaceLabel->setText(lines.join(QLatin1Char('\n')));
 }
 
 void FilesPage::ShowProblem(const QString& problem)

@@ -31,6 +31,9 @@ public:
     /// Stores the folder that stands in the field. A path that cannot be a results folder is marked
     /// and not stored.
     void Apply() override;
+    /// What is wrong with the folder that stands in the field or, on a hidden page, is stored.
+    QString Problem() const override;
+    void FocusInput() override;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -41,7 +44,10 @@ private:
     void Connect();
     void Retranslate();
     void Browse();
-    /// Shows the stored folder and its free space.
+    /// What stands in the field or, on a hidden page, is stored.
+    QString EnteredPath() const;
+    static QString ProblemOf(const QString& path);
+    /// Shows the stored folder and its free space, or why it cannot be used.
     void ShowStored();
     void ShowFreeSpace();
     /// Shows \a problem beside the marked field, or takes the mark away when it is empty.

@@ -39,7 +39,10 @@ public:
     /// be destroyed meanwhile; the answer is false then.
     virtual bool FinishInput() { return true; }
 
-    /// Gives the focus to the control that unfinished input is in.
+    /// Why nothing can be recorded with what stands on the page, in a sentence; empty when it can.
+    virtual QString Problem() const { return {}; }
+
+    /// Gives the focus to the control that unfinished input or the problem is in.
     virtual void FocusInput() { }
 
 Q_SIGNALS:

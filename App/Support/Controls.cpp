@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QFrame>
 #include <QLabel>
@@ -64,6 +65,12 @@ void WidenToTexts(QComboBox& box)
 void SelectValue(QComboBox& box, const QString& value)
 {
     box.setCurrentIndex(std::max(0, box.findData(value)));
+}
+
+void AlertScreenReaders(QWidget* widget)
+{
+    QAccessibleEvent event(widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 void StyleComboBoxLists(const QWidget& parent)

@@ -35,6 +35,9 @@ void WidenToTexts(QComboBox& box);
 /// Selects the entry of \a value in \a box or, where there is none, the first one.
 void SelectValue(QComboBox& box, const QString& value);
 
+/// Has screen readers say what \a widget shows.
+void AlertScreenReaders(QWidget* widget);
+
 /// Leaves the lists of the combo boxes in \a parent to the style sheet, which Qt does not by
 /// itself.
 void StyleComboBoxLists(const QWidget& parent);

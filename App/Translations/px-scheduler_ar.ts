@@ -270,59 +270,59 @@
     <name>SettingsStore</name>
     <message>
         <source>The settings file %1 is not a file.</source>
-        <translation>ملف الإعدادات %1 ليس ملفًا.</translation>
+        <translation>ملف الإعدادات ⁦%1⁩ ليس ملفًا.</translation>
     </message>
     <message>
         <source>The settings file %1 cannot be created: its folder is missing and cannot be created either.</source>
-        <translation>تعذّر إنشاء ملف الإعدادات %1: مجلده غير موجود ولا يمكن إنشاؤه أيضًا.</translation>
+        <translation>تعذّر إنشاء ملف الإعدادات ⁦%1⁩: مجلده غير موجود ولا يمكن إنشاؤه أيضًا.</translation>
     </message>
     <message>
         <source>The settings file %1 is in use by another process.</source>
-        <translation>ملف الإعدادات %1 قيد الاستخدام من عملية أخرى.</translation>
+        <translation>ملف الإعدادات ⁦%1⁩ قيد الاستخدام من عملية أخرى.</translation>
     </message>
     <message>
         <source>The settings file %1 cannot be created: its folder cannot be written to.</source>
-        <translation>تعذّر إنشاء ملف الإعدادات %1: لا يمكن الكتابة في مجلده.</translation>
+        <translation>تعذّر إنشاء ملف الإعدادات ⁦%1⁩: لا يمكن الكتابة في مجلده.</translation>
     </message>
     <message>
         <source>The settings file %1 cannot be read: %2</source>
-        <translation>تعذّرت قراءة ملف الإعدادات %1: %2</translation>
+        <translation>تعذّرت قراءة ملف الإعدادات ⁦%1⁩: %2</translation>
     </message>
     <message>
         <source>The settings file %1 is damaged, and it cannot be kept under another name: %2</source>
-        <translation>ملف الإعدادات %1 تالف ولا يمكن الاحتفاظ به باسم آخر: %2</translation>
-    </message>
-    <message>
-        <source>The settings cannot be saved in %1: %2</source>
-        <translation>تعذّر حفظ الإعدادات في %1: %2</translation>
-    </message>
-    <message>
-        <source>its folder cannot be written to</source>
-        <translation>لا يمكن الكتابة في مجلده</translation>
-    </message>
-    <message>
-        <source>only a part of it could be read</source>
-        <translation>أمكنت قراءة جزء منه فقط</translation>
+        <translation>ملف الإعدادات ⁦%1⁩ تالف ولا يمكن الاحتفاظ به باسم آخر: %2</translation>
     </message>
     <message>
         <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
-        <translation>تعذّر فهم ملف الإعدادات، لذلك تُستخدم القيم الافتراضية. محتوى الملف محفوظ في %1.</translation>
+        <translation>تعذّر فهم ملف الإعدادات، لذلك تُستخدم القيم الافتراضية. محتوى الملف محفوظ في ⁦%1⁩.</translation>
     </message>
     <message>
         <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
-        <translation>تعذّر استخدام بعض الإعدادات. المهام المتروكة: %2. محتوى الملف محفوظ في %1.</translation>
+        <translation>تعذّر استخدام بعض الإعدادات. المهام المتروكة: %2. محتوى الملف محفوظ في ⁦%1⁩.</translation>
     </message>
     <message>
         <source>Some of the settings could not be used. What the file held is kept in %1.</source>
-        <translation>تعذّر استخدام بعض الإعدادات. محتوى الملف محفوظ في %1.</translation>
+        <translation>تعذّر استخدام بعض الإعدادات. محتوى الملف محفوظ في ⁦%1⁩.</translation>
     </message>
     <message>
         <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
-        <translation>غيّر برنامج آخر ملف الإعدادات. نسخته محفوظة في %1؛ وتبقى الإعدادات المعروضة هنا مستخدمة.</translation>
+        <translation>غيّر برنامج آخر ملف الإعدادات. نسخته محفوظة في ⁦%1⁩؛ وتبقى الإعدادات المعروضة هنا مستخدمة.</translation>
     </message>
     <message>
-        <source>it is in use by another process</source>
-        <translation>قيد الاستخدام من عملية أخرى</translation>
+        <source>Only a part of the file could be read</source>
+        <translation>لم يُقرأ سوى جزء من الملف</translation>
+    </message>
+    <message>
+        <source>%2: your changes are not saved in %1</source>
+        <translation>%2: لم تُحفظ تغييراتك في ⁦%1⁩</translation>
+    </message>
+    <message>
+        <source>The file is in use by another process</source>
+        <translation>الملف قيد الاستخدام من عملية أخرى</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written to</source>
+        <translation>لا يمكن الكتابة في المجلد</translation>
     </message>
 </context>
 <context>
@@ -370,6 +370,14 @@
     <message>
         <source>Choose where recordings are kept.</source>
         <translation>اختر مكان حفظ التسجيلات.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be created.</source>
+        <translation>لا يمكن إنشاء هذا المجلد.</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet. It will be created with the first recording.</source>
+        <translation>هذا المجلد غير موجود بعد. سيُنشأ مع أول تسجيل.</translation>
     </message>
 </context>
 <context>
@@ -458,10 +466,6 @@
         <translation>صفحات الإعدادات</translation>
     </message>
     <message>
-        <source>Your changes could not be saved: %1</source>
-        <translation>تعذّر حفظ تغييراتك: %1</translation>
-    </message>
-    <message>
         <source>Your changes are saved again.</source>
         <translation>يجري حفظ تغييراتك مجددًا.</translation>
     </message>
@@ -480,6 +484,17 @@
     <message>
         <source>&amp;Start recording</source>
         <translation>بدء التسجيل (&amp;ب)</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>Close notice</source>
+        <translation>إغلاق الإشعار</translation>
     </message>
 </context>
 <context>

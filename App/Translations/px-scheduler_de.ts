@@ -293,18 +293,6 @@
         <translation>Die Einstellungsdatei %1 ist beschädigt und kann nicht unter einem anderen Namen aufbewahrt werden: %2</translation>
     </message>
     <message>
-        <source>The settings cannot be saved in %1: %2</source>
-        <translation>Die Einstellungen können nicht in %1 gespeichert werden: %2</translation>
-    </message>
-    <message>
-        <source>its folder cannot be written to</source>
-        <translation>In den Ordner kann nicht geschrieben werden</translation>
-    </message>
-    <message>
-        <source>only a part of it could be read</source>
-        <translation>nur ein Teil davon konnte gelesen werden</translation>
-    </message>
-    <message>
         <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
         <translation>Die Einstellungsdatei war nicht zu verstehen, deshalb gelten die Voreinstellungen. Ihr Inhalt wird in %1 aufbewahrt.</translation>
     </message>
@@ -321,8 +309,20 @@
         <translation>Ein anderes Programm hat die Einstellungsdatei geändert. Dessen Fassung wird in %1 aufbewahrt; die hier gezeigten Einstellungen gelten weiter.</translation>
     </message>
     <message>
-        <source>it is in use by another process</source>
-        <translation>die Datei wird von einem anderen Prozess verwendet</translation>
+        <source>Only a part of the file could be read</source>
+        <translation>Nur ein Teil der Datei konnte gelesen werden</translation>
+    </message>
+    <message>
+        <source>%2: your changes are not saved in %1</source>
+        <translation>%2: Ihre Änderungen sind nicht in %1 gespeichert</translation>
+    </message>
+    <message>
+        <source>The file is in use by another process</source>
+        <translation>Die Datei wird von einem anderen Prozess verwendet</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written to</source>
+        <translation>In den Ordner kann nicht geschrieben werden</translation>
     </message>
 </context>
 <context>
@@ -370,6 +370,14 @@
     <message>
         <source>Choose where recordings are kept.</source>
         <translation>Legen Sie fest, wo Aufnahmen gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be created.</source>
+        <translation>Dieser Ordner kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet. It will be created with the first recording.</source>
+        <translation>Diesen Ordner gibt es noch nicht. Er wird mit der ersten Aufnahme angelegt.</translation>
     </message>
 </context>
 <context>
@@ -458,10 +466,6 @@
         <translation>Einstellungsseiten</translation>
     </message>
     <message>
-        <source>Your changes could not be saved: %1</source>
-        <translation>Ihre Änderungen konnten nicht gespeichert werden: %1</translation>
-    </message>
-    <message>
         <source>Your changes are saved again.</source>
         <translation>Ihre Änderungen werden wieder gespeichert.</translation>
     </message>
@@ -480,6 +484,17 @@
     <message>
         <source>&amp;Start recording</source>
         <translation>Aufnahme &amp;starten</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close notice</source>
+        <translation>Hinweis schließen</translation>
     </message>
 </context>
 <context>

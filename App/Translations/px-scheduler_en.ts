@@ -293,18 +293,6 @@
         <translation>The settings file %1 is damaged, and it cannot be kept under another name: %2</translation>
     </message>
     <message>
-        <source>The settings cannot be saved in %1: %2</source>
-        <translation>The settings cannot be saved in %1: %2</translation>
-    </message>
-    <message>
-        <source>its folder cannot be written to</source>
-        <translation>its folder cannot be written to</translation>
-    </message>
-    <message>
-        <source>only a part of it could be read</source>
-        <translation>only a part of it could be read</translation>
-    </message>
-    <message>
         <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
         <translation>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</translation>
     </message>
@@ -321,8 +309,20 @@
         <translation>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</translation>
     </message>
     <message>
-        <source>it is in use by another process</source>
-        <translation>it is in use by another process</translation>
+        <source>Only a part of the file could be read</source>
+        <translation>Only a part of the file could be read</translation>
+    </message>
+    <message>
+        <source>%2: your changes are not saved in %1</source>
+        <translation>%2: your changes are not saved in %1</translation>
+    </message>
+    <message>
+        <source>The file is in use by another process</source>
+        <translation>The file is in use by another process</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written to</source>
+        <translation>The folder cannot be written to</translation>
     </message>
 </context>
 <context>
@@ -370,6 +370,14 @@
     <message>
         <source>Choose where recordings are kept.</source>
         <translation>Choose where recordings are kept.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be created.</source>
+        <translation>This folder cannot be created.</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet. It will be created with the first recording.</source>
+        <translation>This folder does not exist yet. It will be created with the first recording.</translation>
     </message>
 </context>
 <context>
@@ -458,10 +466,6 @@
         <translation>Settings pages</translation>
     </message>
     <message>
-        <source>Your changes could not be saved: %1</source>
-        <translation>Your changes could not be saved: %1</translation>
-    </message>
-    <message>
         <source>Your changes are saved again.</source>
         <translation>Your changes are saved again.</translation>
     </message>
@@ -480,6 +484,17 @@
     <message>
         <source>&amp;Start recording</source>
         <translation>&amp;Start recording</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Close notice</source>
+        <translation>Close notice</translation>
     </message>
 </context>
 <context>

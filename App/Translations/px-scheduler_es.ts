@@ -293,18 +293,6 @@
         <translation>El archivo de configuración %1 está dañado y no se puede conservar con otro nombre: %2</translation>
     </message>
     <message>
-        <source>The settings cannot be saved in %1: %2</source>
-        <translation>No se puede guardar la configuración en %1: %2</translation>
-    </message>
-    <message>
-        <source>its folder cannot be written to</source>
-        <translation>no se puede escribir en su carpeta</translation>
-    </message>
-    <message>
-        <source>only a part of it could be read</source>
-        <translation>solo se pudo leer una parte</translation>
-    </message>
-    <message>
         <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
         <translation>No se pudo interpretar el archivo de configuración, por lo que se usan los valores predeterminados. Su contenido se conserva en %1.</translation>
     </message>
@@ -321,8 +309,20 @@
         <translation>Otro programa ha modificado el archivo de configuración. Su versión se conserva en %1; la configuración que se muestra aquí sigue en uso.</translation>
     </message>
     <message>
-        <source>it is in use by another process</source>
-        <translation>otro proceso lo está usando</translation>
+        <source>Only a part of the file could be read</source>
+        <translation>Solo se pudo leer una parte del archivo</translation>
+    </message>
+    <message>
+        <source>%2: your changes are not saved in %1</source>
+        <translation>%2: sus cambios no se han guardado en %1</translation>
+    </message>
+    <message>
+        <source>The file is in use by another process</source>
+        <translation>Otro proceso está usando el archivo</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written to</source>
+        <translation>No se puede escribir en la carpeta</translation>
     </message>
 </context>
 <context>
@@ -370,6 +370,14 @@
     <message>
         <source>Choose where recordings are kept.</source>
         <translation>Elija dónde se guardan las grabaciones.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be created.</source>
+        <translation>No se puede crear esta carpeta.</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet. It will be created with the first recording.</source>
+        <translation>Esta carpeta todavía no existe. Se creará con la primera grabación.</translation>
     </message>
 </context>
 <context>
@@ -458,10 +466,6 @@
         <translation>Páginas de configuración</translation>
     </message>
     <message>
-        <source>Your changes could not be saved: %1</source>
-        <translation>No se pudieron guardar los cambios: %1</translation>
-    </message>
-    <message>
         <source>Your changes are saved again.</source>
         <translation>Los cambios vuelven a guardarse.</translation>
     </message>
@@ -480,6 +484,17 @@
     <message>
         <source>&amp;Start recording</source>
         <translation>&amp;Iniciar grabación</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Close notice</source>
+        <translation>Cerrar aviso</translation>
     </message>
 </context>
 <context>

@@ -293,18 +293,6 @@
         <translation>Le fichier de paramètres %1 est endommagé et ne peut pas être conservé sous un autre nom : %2</translation>
     </message>
     <message>
-        <source>The settings cannot be saved in %1: %2</source>
-        <translation>Impossible d’enregistrer les paramètres dans %1 : %2</translation>
-    </message>
-    <message>
-        <source>its folder cannot be written to</source>
-        <translation>son dossier n’est pas accessible en écriture</translation>
-    </message>
-    <message>
-        <source>only a part of it could be read</source>
-        <translation>seule une partie a pu être lue</translation>
-    </message>
-    <message>
         <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
         <translation>Le fichier de paramètres n’a pas pu être interprété ; les valeurs par défaut sont donc utilisées. Son contenu est conservé dans %1.</translation>
     </message>
@@ -321,8 +309,20 @@
         <translation>Un autre programme a modifié le fichier de paramètres. Sa version est conservée dans %1 ; les paramètres affichés ici restent en vigueur.</translation>
     </message>
     <message>
-        <source>it is in use by another process</source>
-        <translation>il est utilisé par un autre processus</translation>
+        <source>Only a part of the file could be read</source>
+        <translation>Seule une partie du fichier a pu être lue</translation>
+    </message>
+    <message>
+        <source>%2: your changes are not saved in %1</source>
+        <translation>%2 : vos modifications ne sont pas enregistrées dans %1</translation>
+    </message>
+    <message>
+        <source>The file is in use by another process</source>
+        <translation>Le fichier est utilisé par un autre processus</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written to</source>
+        <translation>Impossible d’écrire dans le dossier</translation>
     </message>
 </context>
 <context>
@@ -370,6 +370,14 @@
     <message>
         <source>Choose where recordings are kept.</source>
         <translation>Choisissez où les enregistrements sont conservés.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be created.</source>
+        <translation>Ce dossier ne peut pas être créé.</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet. It will be created with the first recording.</source>
+        <translation>Ce dossier n’existe pas encore. Il sera créé avec le premier enregistrement.</translation>
     </message>
 </context>
 <context>
@@ -458,10 +466,6 @@
         <translation>Pages de paramètres</translation>
     </message>
     <message>
-        <source>Your changes could not be saved: %1</source>
-        <translation>Vos modifications n’ont pas pu être enregistrées : %1</translation>
-    </message>
-    <message>
         <source>Your changes are saved again.</source>
         <translation>Vos modifications sont de nouveau enregistrées.</translation>
     </message>
@@ -480,6 +484,17 @@
     <message>
         <source>&amp;Start recording</source>
         <translation>Dé&amp;marrer l’enregistrement</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Close notice</source>
+        <translation>Fermer l’avis</translation>
     </message>
 </context>
 <context>

@@ -270,59 +270,59 @@
     <name>SettingsStore</name>
     <message>
         <source>The settings file %1 is not a file.</source>
-        <translation>קובץ ההגדרות %1 אינו קובץ.</translation>
+        <translation>קובץ ההגדרות ⁦%1⁩ אינו קובץ.</translation>
     </message>
     <message>
         <source>The settings file %1 cannot be created: its folder is missing and cannot be created either.</source>
-        <translation>לא ניתן ליצור את קובץ ההגדרות %1: התיקייה שלו חסרה וגם אותה לא ניתן ליצור.</translation>
+        <translation>לא ניתן ליצור את קובץ ההגדרות ⁦%1⁩: התיקייה שלו חסרה וגם אותה לא ניתן ליצור.</translation>
     </message>
     <message>
         <source>The settings file %1 is in use by another process.</source>
-        <translation>קובץ ההגדרות %1 נמצא בשימוש של תהליך אחר.</translation>
+        <translation>קובץ ההגדרות ⁦%1⁩ נמצא בשימוש של תהליך אחר.</translation>
     </message>
     <message>
         <source>The settings file %1 cannot be created: its folder cannot be written to.</source>
-        <translation>לא ניתן ליצור את קובץ ההגדרות %1: אין אפשרות לכתוב בתיקייה שלו.</translation>
+        <translation>לא ניתן ליצור את קובץ ההגדרות ⁦%1⁩: אין אפשרות לכתוב בתיקייה שלו.</translation>
     </message>
     <message>
         <source>The settings file %1 cannot be read: %2</source>
-        <translation>לא ניתן לקרוא את קובץ ההגדרות %1: %2</translation>
+        <translation>לא ניתן לקרוא את קובץ ההגדרות ⁦%1⁩: %2</translation>
     </message>
     <message>
         <source>The settings file %1 is damaged, and it cannot be kept under another name: %2</source>
-        <translation>קובץ ההגדרות %1 פגום ולא ניתן לשמור אותו בשם אחר: %2</translation>
-    </message>
-    <message>
-        <source>The settings cannot be saved in %1: %2</source>
-        <translation>לא ניתן לשמור את ההגדרות ב-%1: %2</translation>
-    </message>
-    <message>
-        <source>its folder cannot be written to</source>
-        <translation>אין אפשרות לכתוב בתיקייה שלו</translation>
-    </message>
-    <message>
-        <source>only a part of it could be read</source>
-        <translation>ניתן היה לקרוא רק חלק ממנו</translation>
+        <translation>קובץ ההגדרות ⁦%1⁩ פגום ולא ניתן לשמור אותו בשם אחר: %2</translation>
     </message>
     <message>
         <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
-        <translation>לא ניתן היה להבין את קובץ ההגדרות, ולכן נעשה שימוש בברירות המחדל. תוכנו נשמר ב-%1.</translation>
+        <translation>לא ניתן היה להבין את קובץ ההגדרות, ולכן נעשה שימוש בברירות המחדל. תוכנו נשמר ב-⁦%1⁩.</translation>
     </message>
     <message>
         <source>Some of the settings could not be used. Tasks left out: %2. What the file held is kept in %1.</source>
-        <translation>לא ניתן היה להשתמש בחלק מההגדרות. משימות שהושמטו: %2. תוכן הקובץ נשמר ב-%1.</translation>
+        <translation>לא ניתן היה להשתמש בחלק מההגדרות. משימות שהושמטו: %2. תוכן הקובץ נשמר ב-⁦%1⁩.</translation>
     </message>
     <message>
         <source>Some of the settings could not be used. What the file held is kept in %1.</source>
-        <translation>לא ניתן היה להשתמש בחלק מההגדרות. תוכן הקובץ נשמר ב-%1.</translation>
+        <translation>לא ניתן היה להשתמש בחלק מההגדרות. תוכן הקובץ נשמר ב-⁦%1⁩.</translation>
     </message>
     <message>
         <source>Another program has changed the settings file. Its version is kept in %1; the settings shown here stay in use.</source>
-        <translation>תוכנית אחרת שינתה את קובץ ההגדרות. הגרסה שלה נשמרה ב-%1; ההגדרות המוצגות כאן נשארות בתוקף.</translation>
+        <translation>תוכנית אחרת שינתה את קובץ ההגדרות. הגרסה שלה נשמרה ב-⁦%1⁩; ההגדרות המוצגות כאן נשארות בתוקף.</translation>
     </message>
     <message>
-        <source>it is in use by another process</source>
-        <translation>הוא בשימוש של תהליך אחר</translation>
+        <source>Only a part of the file could be read</source>
+        <translation>רק חלק מהקובץ נקרא</translation>
+    </message>
+    <message>
+        <source>%2: your changes are not saved in %1</source>
+        <translation>%2: השינויים שלך לא נשמרו ב-⁦%1⁩</translation>
+    </message>
+    <message>
+        <source>The file is in use by another process</source>
+        <translation>הקובץ נמצא בשימוש של תהליך אחר</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written to</source>
+        <translation>לא ניתן לכתוב בתיקייה</translation>
     </message>
 </context>
 <context>
@@ -370,6 +370,14 @@
     <message>
         <source>Choose where recordings are kept.</source>
         <translation>בחרו היכן יישמרו ההקלטות.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be created.</source>
+        <translation>לא ניתן ליצור תיקייה זו.</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet. It will be created with the first recording.</source>
+        <translation>תיקייה זו עדיין לא קיימת. היא תיווצר עם ההקלטה הראשונה.</translation>
     </message>
 </context>
 <context>
@@ -458,10 +466,6 @@
         <translation>דפי ההגדרות</translation>
     </message>
     <message>
-        <source>Your changes could not be saved: %1</source>
-        <translation>לא ניתן לשמור את השינויים: %1</translation>
-    </message>
-    <message>
         <source>Your changes are saved again.</source>
         <translation>השינויים נשמרים שוב.</translation>
     </message>
@@ -480,6 +484,17 @@
     <message>
         <source>&amp;Start recording</source>
         <translation>&amp;התחלת הקלטה</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>סגירה</translation>
+    </message>
+    <message>
+        <source>Close notice</source>
+        <translation>סגירת ההודעה</translation>
     </message>
 </context>
 <context>

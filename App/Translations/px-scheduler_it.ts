@@ -293,18 +293,6 @@
         <translation>Il file delle impostazioni %1 è danneggiato e non può essere conservato con un altro nome: %2</translation>
     </message>
     <message>
-        <source>The settings cannot be saved in %1: %2</source>
-        <translation>Impossibile salvare le impostazioni in %1: %2</translation>
-    </message>
-    <message>
-        <source>its folder cannot be written to</source>
-        <translation>la sua cartella non è scrivibile</translation>
-    </message>
-    <message>
-        <source>only a part of it could be read</source>
-        <translation>è stato possibile leggerne solo una parte</translation>
-    </message>
-    <message>
         <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
         <translation>Il file delle impostazioni non è comprensibile, perciò si usano i valori predefiniti. Il suo contenuto è conservato in %1.</translation>
     </message>
@@ -321,8 +309,20 @@
         <translation>Un altro programma ha modificato il file delle impostazioni. La sua versione è conservata in %1; le impostazioni mostrate qui restano in uso.</translation>
     </message>
     <message>
-        <source>it is in use by another process</source>
-        <translation>è usato da un altro processo</translation>
+        <source>Only a part of the file could be read</source>
+        <translation>È stato possibile leggere solo una parte del file</translation>
+    </message>
+    <message>
+        <source>%2: your changes are not saved in %1</source>
+        <translation>%2: le modifiche non sono salvate in %1</translation>
+    </message>
+    <message>
+        <source>The file is in use by another process</source>
+        <translation>Il file è usato da un altro processo</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written to</source>
+        <translation>Non è possibile scrivere nella cartella</translation>
     </message>
 </context>
 <context>
@@ -370,6 +370,14 @@
     <message>
         <source>Choose where recordings are kept.</source>
         <translation>Scegli dove conservare le registrazioni.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be created.</source>
+        <translation>Non è possibile creare questa cartella.</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet. It will be created with the first recording.</source>
+        <translation>Questa cartella non esiste ancora. Verrà creata con la prima registrazione.</translation>
     </message>
 </context>
 <context>
@@ -458,10 +466,6 @@
         <translation>Pagine delle impostazioni</translation>
     </message>
     <message>
-        <source>Your changes could not be saved: %1</source>
-        <translation>Impossibile salvare le modifiche: %1</translation>
-    </message>
-    <message>
         <source>Your changes are saved again.</source>
         <translation>Le modifiche vengono di nuovo salvate.</translation>
     </message>
@@ -480,6 +484,17 @@
     <message>
         <source>&amp;Start recording</source>
         <translation>&amp;Avvia registrazione</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Close notice</source>
+        <translation>Chiudi avviso</translation>
     </message>
 </context>
 <context>

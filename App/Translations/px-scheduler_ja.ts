@@ -293,18 +293,6 @@
         <translation>設定ファイル %1 は破損しており、別の名前で保管できません：%2</translation>
     </message>
     <message>
-        <source>The settings cannot be saved in %1: %2</source>
-        <translation>設定を %1 に保存できません：%2</translation>
-    </message>
-    <message>
-        <source>its folder cannot be written to</source>
-        <translation>フォルダーに書き込めません</translation>
-    </message>
-    <message>
-        <source>only a part of it could be read</source>
-        <translation>一部しか読み込めませんでした</translation>
-    </message>
-    <message>
         <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
         <translation>設定ファイルを解釈できなかったため、既定値を使用しています。元の内容は %1 に保管されています。</translation>
     </message>
@@ -321,8 +309,20 @@
         <translation>別のプログラムが設定ファイルを変更しました。変更された内容は %1 に保管され、ここに表示されている設定が引き続き使われます。</translation>
     </message>
     <message>
-        <source>it is in use by another process</source>
-        <translation>別のプロセスが使用中です</translation>
+        <source>Only a part of the file could be read</source>
+        <translation>ファイルの一部しか読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>%2: your changes are not saved in %1</source>
+        <translation>%2: 変更は %1 に保存されていません</translation>
+    </message>
+    <message>
+        <source>The file is in use by another process</source>
+        <translation>ファイルは別のプロセスが使用中です</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written to</source>
+        <translation>フォルダーに書き込めません</translation>
     </message>
 </context>
 <context>
@@ -370,6 +370,14 @@
     <message>
         <source>Choose where recordings are kept.</source>
         <translation>録画の保存先を選択します。</translation>
+    </message>
+    <message>
+        <source>This folder cannot be created.</source>
+        <translation>このフォルダーは作成できません。</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet. It will be created with the first recording.</source>
+        <translation>このフォルダーはまだありません。最初の録画のときに作成されます。</translation>
     </message>
 </context>
 <context>
@@ -458,10 +466,6 @@
         <translation>設定ページ</translation>
     </message>
     <message>
-        <source>Your changes could not be saved: %1</source>
-        <translation>変更を保存できませんでした：%1</translation>
-    </message>
-    <message>
         <source>Your changes are saved again.</source>
         <translation>変更は再び保存されるようになりました。</translation>
     </message>
@@ -480,6 +484,17 @@
     <message>
         <source>&amp;Start recording</source>
         <translation>録画を開始(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Close notice</source>
+        <translation>通知を閉じる</translation>
     </message>
 </context>
 <context>

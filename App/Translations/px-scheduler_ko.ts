@@ -293,18 +293,6 @@
         <translation>설정 파일 %1이(가) 손상되었으며 다른 이름으로 보관할 수 없습니다: %2</translation>
     </message>
     <message>
-        <source>The settings cannot be saved in %1: %2</source>
-        <translation>설정을 %1에 저장할 수 없습니다: %2</translation>
-    </message>
-    <message>
-        <source>its folder cannot be written to</source>
-        <translation>폴더에 쓸 수 없습니다</translation>
-    </message>
-    <message>
-        <source>only a part of it could be read</source>
-        <translation>일부만 읽을 수 있었습니다</translation>
-    </message>
-    <message>
         <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
         <translation>설정 파일을 해석할 수 없어 기본값을 사용합니다. 파일의 내용은 %1에 보관되어 있습니다.</translation>
     </message>
@@ -321,8 +309,20 @@
         <translation>다른 프로그램이 설정 파일을 변경했습니다. 변경된 내용은 %1에 보관되어 있으며, 여기에 표시된 설정이 계속 사용됩니다.</translation>
     </message>
     <message>
-        <source>it is in use by another process</source>
-        <translation>다른 프로세스에서 사용 중입니다</translation>
+        <source>Only a part of the file could be read</source>
+        <translation>파일의 일부만 읽을 수 있었습니다</translation>
+    </message>
+    <message>
+        <source>%2: your changes are not saved in %1</source>
+        <translation>%2: 변경 내용이 %1에 저장되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>The file is in use by another process</source>
+        <translation>다른 프로세스에서 파일을 사용 중입니다</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written to</source>
+        <translation>폴더에 쓸 수 없습니다</translation>
     </message>
 </context>
 <context>
@@ -370,6 +370,14 @@
     <message>
         <source>Choose where recordings are kept.</source>
         <translation>녹화를 저장할 위치를 선택하세요.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be created.</source>
+        <translation>이 폴더를 만들 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet. It will be created with the first recording.</source>
+        <translation>이 폴더는 아직 없습니다. 첫 녹화 때 만들어집니다.</translation>
     </message>
 </context>
 <context>
@@ -458,10 +466,6 @@
         <translation>설정 페이지</translation>
     </message>
     <message>
-        <source>Your changes could not be saved: %1</source>
-        <translation>변경 내용을 저장하지 못했습니다: %1</translation>
-    </message>
-    <message>
         <source>Your changes are saved again.</source>
         <translation>변경 내용이 다시 저장됩니다.</translation>
     </message>
@@ -480,6 +484,17 @@
     <message>
         <source>&amp;Start recording</source>
         <translation>녹화 시작(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Close notice</source>
+        <translation>알림 닫기</translation>
     </message>
 </context>
 <context>

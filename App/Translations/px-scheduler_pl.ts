@@ -293,18 +293,6 @@
         <translation>Plik ustawień %1 jest uszkodzony i nie można go zachować pod inną nazwą: %2</translation>
     </message>
     <message>
-        <source>The settings cannot be saved in %1: %2</source>
-        <translation>Nie można zapisać ustawień w %1: %2</translation>
-    </message>
-    <message>
-        <source>its folder cannot be written to</source>
-        <translation>w jego folderze nie można zapisywać</translation>
-    </message>
-    <message>
-        <source>only a part of it could be read</source>
-        <translation>udało się odczytać tylko część</translation>
-    </message>
-    <message>
         <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
         <translation>Nie udało się zinterpretować pliku ustawień, dlatego używane są wartości domyślne. Jego zawartość zachowano w %1.</translation>
     </message>
@@ -321,8 +309,20 @@
         <translation>Inny program zmienił plik ustawień. Jego wersję zachowano w %1; ustawienia widoczne tutaj nadal obowiązują.</translation>
     </message>
     <message>
-        <source>it is in use by another process</source>
-        <translation>jest używany przez inny proces</translation>
+        <source>Only a part of the file could be read</source>
+        <translation>Udało się odczytać tylko część pliku</translation>
+    </message>
+    <message>
+        <source>%2: your changes are not saved in %1</source>
+        <translation>%2: zmiany nie są zapisane w %1</translation>
+    </message>
+    <message>
+        <source>The file is in use by another process</source>
+        <translation>Plik jest używany przez inny proces</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written to</source>
+        <translation>Nie można zapisywać w folderze</translation>
     </message>
 </context>
 <context>
@@ -370,6 +370,14 @@
     <message>
         <source>Choose where recordings are kept.</source>
         <translation>Wybierz miejsce przechowywania nagrań.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be created.</source>
+        <translation>Nie można utworzyć tego folderu.</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet. It will be created with the first recording.</source>
+        <translation>Ten folder jeszcze nie istnieje. Zostanie utworzony przy pierwszym nagraniu.</translation>
     </message>
 </context>
 <context>
@@ -458,10 +466,6 @@
         <translation>Strony ustawień</translation>
     </message>
     <message>
-        <source>Your changes could not be saved: %1</source>
-        <translation>Nie udało się zapisać zmian: %1</translation>
-    </message>
-    <message>
         <source>Your changes are saved again.</source>
         <translation>Zmiany są znów zapisywane.</translation>
     </message>
@@ -480,6 +484,17 @@
     <message>
         <source>&amp;Start recording</source>
         <translation>&amp;Rozpocznij nagrywanie</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Close notice</source>
+        <translation>Zamknij powiadomienie</translation>
     </message>
 </context>
 <context>

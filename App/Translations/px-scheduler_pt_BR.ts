@@ -293,18 +293,6 @@
         <translation>O arquivo de configurações %1 está danificado e não pode ser mantido com outro nome: %2</translation>
     </message>
     <message>
-        <source>The settings cannot be saved in %1: %2</source>
-        <translation>Não é possível salvar as configurações em %1: %2</translation>
-    </message>
-    <message>
-        <source>its folder cannot be written to</source>
-        <translation>não é possível gravar na pasta</translation>
-    </message>
-    <message>
-        <source>only a part of it could be read</source>
-        <translation>só foi possível ler uma parte</translation>
-    </message>
-    <message>
         <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
         <translation>Não foi possível interpretar o arquivo de configurações; por isso, os valores padrão estão em uso. O conteúdo dele foi mantido em %1.</translation>
     </message>
@@ -321,8 +309,20 @@
         <translation>Outro programa alterou o arquivo de configurações. A versão dele foi mantida em %1; as configurações mostradas aqui continuam em uso.</translation>
     </message>
     <message>
-        <source>it is in use by another process</source>
-        <translation>está sendo usado por outro processo</translation>
+        <source>Only a part of the file could be read</source>
+        <translation>Só foi possível ler uma parte do arquivo</translation>
+    </message>
+    <message>
+        <source>%2: your changes are not saved in %1</source>
+        <translation>%2: suas alterações não foram salvas em %1</translation>
+    </message>
+    <message>
+        <source>The file is in use by another process</source>
+        <translation>O arquivo está em uso por outro processo</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written to</source>
+        <translation>Não é possível gravar na pasta</translation>
     </message>
 </context>
 <context>
@@ -370,6 +370,14 @@
     <message>
         <source>Choose where recordings are kept.</source>
         <translation>Escolha onde as gravações são guardadas.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be created.</source>
+        <translation>Não é possível criar esta pasta.</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet. It will be created with the first recording.</source>
+        <translation>Esta pasta ainda não existe. Ela será criada com a primeira gravação.</translation>
     </message>
 </context>
 <context>
@@ -458,10 +466,6 @@
         <translation>Páginas de configurações</translation>
     </message>
     <message>
-        <source>Your changes could not be saved: %1</source>
-        <translation>Não foi possível salvar as alterações: %1</translation>
-    </message>
-    <message>
         <source>Your changes are saved again.</source>
         <translation>As alterações voltaram a ser salvas.</translation>
     </message>
@@ -480,6 +484,17 @@
     <message>
         <source>&amp;Start recording</source>
         <translation>&amp;Iniciar gravação</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Close notice</source>
+        <translation>Fechar aviso</translation>
     </message>
 </context>
 <context>

@@ -293,18 +293,6 @@
         <translation>Файл настроек %1 повреждён, и его не удаётся сохранить под другим именем: %2</translation>
     </message>
     <message>
-        <source>The settings cannot be saved in %1: %2</source>
-        <translation>Не удаётся сохранить настройки в %1: %2</translation>
-    </message>
-    <message>
-        <source>its folder cannot be written to</source>
-        <translation>нет доступа на запись в его папку</translation>
-    </message>
-    <message>
-        <source>only a part of it could be read</source>
-        <translation>удалось прочитать только часть</translation>
-    </message>
-    <message>
         <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
         <translation>Не удалось разобрать файл настроек, поэтому используются значения по умолчанию. Его содержимое сохранено в %1.</translation>
     </message>
@@ -321,8 +309,20 @@
         <translation>Другая программа изменила файл настроек. Её версия сохранена в %1; показанные здесь настройки продолжают действовать.</translation>
     </message>
     <message>
-        <source>it is in use by another process</source>
-        <translation>он используется другим процессом</translation>
+        <source>Only a part of the file could be read</source>
+        <translation>Удалось прочитать только часть файла</translation>
+    </message>
+    <message>
+        <source>%2: your changes are not saved in %1</source>
+        <translation>%2: изменения не сохранены в %1</translation>
+    </message>
+    <message>
+        <source>The file is in use by another process</source>
+        <translation>Файл используется другим процессом</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written to</source>
+        <translation>В папку нельзя записывать</translation>
     </message>
 </context>
 <context>
@@ -370,6 +370,14 @@
     <message>
         <source>Choose where recordings are kept.</source>
         <translation>Выберите, где хранятся записи.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be created.</source>
+        <translation>Эту папку невозможно создать.</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet. It will be created with the first recording.</source>
+        <translation>Этой папки ещё нет. Она будет создана при первой записи.</translation>
     </message>
 </context>
 <context>
@@ -458,10 +466,6 @@
         <translation>Страницы настроек</translation>
     </message>
     <message>
-        <source>Your changes could not be saved: %1</source>
-        <translation>Не удалось сохранить изменения: %1</translation>
-    </message>
-    <message>
         <source>Your changes are saved again.</source>
         <translation>Изменения снова сохраняются.</translation>
     </message>
@@ -480,6 +484,17 @@
     <message>
         <source>&amp;Start recording</source>
         <translation>&amp;Начать запись</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Close notice</source>
+        <translation>Закрыть уведомление</translation>
     </message>
 </context>
 <context>

@@ -293,18 +293,6 @@
         <translation>%1 ayar dosyası hasarlı ve başka bir adla saklanamıyor: %2</translation>
     </message>
     <message>
-        <source>The settings cannot be saved in %1: %2</source>
-        <translation>Ayarlar %1 içine kaydedilemiyor: %2</translation>
-    </message>
-    <message>
-        <source>its folder cannot be written to</source>
-        <translation>klasörüne yazılamıyor</translation>
-    </message>
-    <message>
-        <source>only a part of it could be read</source>
-        <translation>yalnızca bir bölümü okunabildi</translation>
-    </message>
-    <message>
         <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
         <translation>Ayar dosyası anlaşılamadı, bu yüzden varsayılanlar kullanılıyor. Dosyanın içeriği şurada saklanıyor: %1.</translation>
     </message>
@@ -321,8 +309,20 @@
         <translation>Başka bir program ayar dosyasını değiştirdi. Onun sürümü şurada saklanıyor: %1. Burada gösterilen ayarlar kullanılmaya devam ediyor.</translation>
     </message>
     <message>
-        <source>it is in use by another process</source>
-        <translation>başka bir işlem tarafından kullanılıyor</translation>
+        <source>Only a part of the file could be read</source>
+        <translation>Dosyanın yalnızca bir bölümü okunabildi</translation>
+    </message>
+    <message>
+        <source>%2: your changes are not saved in %1</source>
+        <translation>%2: değişiklikleriniz %1 içine kaydedilmedi</translation>
+    </message>
+    <message>
+        <source>The file is in use by another process</source>
+        <translation>Dosya başka bir işlem tarafından kullanılıyor</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written to</source>
+        <translation>Klasöre yazılamıyor</translation>
     </message>
 </context>
 <context>
@@ -370,6 +370,14 @@
     <message>
         <source>Choose where recordings are kept.</source>
         <translation>Kayıtların nerede saklanacağını seçin.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be created.</source>
+        <translation>Bu klasör oluşturulamıyor.</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet. It will be created with the first recording.</source>
+        <translation>Bu klasör henüz yok. İlk kayıtla birlikte oluşturulacak.</translation>
     </message>
 </context>
 <context>
@@ -458,10 +466,6 @@
         <translation>Ayar sayfaları</translation>
     </message>
     <message>
-        <source>Your changes could not be saved: %1</source>
-        <translation>Değişiklikleriniz kaydedilemedi: %1</translation>
-    </message>
-    <message>
         <source>Your changes are saved again.</source>
         <translation>Değişiklikleriniz yeniden kaydediliyor.</translation>
     </message>
@@ -480,6 +484,17 @@
     <message>
         <source>&amp;Start recording</source>
         <translation>Kaydı &amp;başlat</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Close notice</source>
+        <translation>Bildirimi kapat</translation>
     </message>
 </context>
 <context>

@@ -293,18 +293,6 @@
         <translation>设置文件 %1 已损坏，且无法以其他名称保留：%2</translation>
     </message>
     <message>
-        <source>The settings cannot be saved in %1: %2</source>
-        <translation>无法将设置保存到 %1：%2</translation>
-    </message>
-    <message>
-        <source>its folder cannot be written to</source>
-        <translation>其所在文件夹不可写</translation>
-    </message>
-    <message>
-        <source>only a part of it could be read</source>
-        <translation>只能读取其中一部分</translation>
-    </message>
-    <message>
         <source>The settings file could not be understood, so the defaults are in use. What it held is kept in %1.</source>
         <translation>无法识别设置文件，因此使用默认设置。原有内容保留在 %1 中。</translation>
     </message>
@@ -321,8 +309,20 @@
         <translation>其他程序更改了设置文件。其版本保留在 %1 中；此处显示的设置继续生效。</translation>
     </message>
     <message>
-        <source>it is in use by another process</source>
-        <translation>正被其他进程使用</translation>
+        <source>Only a part of the file could be read</source>
+        <translation>只能读取文件的一部分</translation>
+    </message>
+    <message>
+        <source>%2: your changes are not saved in %1</source>
+        <translation>%2：您的更改未保存到 %1</translation>
+    </message>
+    <message>
+        <source>The file is in use by another process</source>
+        <translation>文件正被另一个进程使用</translation>
+    </message>
+    <message>
+        <source>The folder cannot be written to</source>
+        <translation>无法写入该文件夹</translation>
     </message>
 </context>
 <context>
@@ -370,6 +370,14 @@
     <message>
         <source>Choose where recordings are kept.</source>
         <translation>选择录制内容的保存位置。</translation>
+    </message>
+    <message>
+        <source>This folder cannot be created.</source>
+        <translation>无法创建此文件夹。</translation>
+    </message>
+    <message>
+        <source>This folder does not exist yet. It will be created with the first recording.</source>
+        <translation>此文件夹尚不存在，将在首次录制时创建。</translation>
     </message>
 </context>
 <context>
@@ -458,10 +466,6 @@
         <translation>设置页面</translation>
     </message>
     <message>
-        <source>Your changes could not be saved: %1</source>
-        <translation>无法保存更改：%1</translation>
-    </message>
-    <message>
         <source>Your changes are saved again.</source>
         <translation>更改已恢复保存。</translation>
     </message>
@@ -480,6 +484,17 @@
     <message>
         <source>&amp;Start recording</source>
         <translation>开始录制(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>Zentor::Desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Close notice</source>
+        <translation>关闭通知</translation>
     </message>
 </context>
 <context>

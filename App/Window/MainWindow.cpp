@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
-#include <QAccessible>
+#include <algorithm>
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -17,6 +18,7 @@
 #include "FilesPage.h"
 #include "GeneralPage.h"
 #include "HostInterfaces.h"
+#include "NoticeBar.h"
 #include "PageFrame.h"
 #include "SchedulePage.h"
 #include "StatusLine.h"
@@ -27,13 +29,14 @@ namespace {
 constexpr QSize SmallestSize(480, 320);
 constexpr QSize PageIconSize(20, 20);
 constexpr int MessageMilliseconds = 5000;
+/// The log has them all.
+constexpr int MostNotices = 3;
 
 /// Shows \a text in the status line, for some time or, with 0, until something else is shown.
 void Announce(QStatusBar* statusBar, const QString& text, int milliseconds)
 {
     statusBar->showMessage(text, milliseconds);
-    QAccessibleEvent event(statusBar, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    AlertScreenReaders(statusBar);
 }
 
 } // namespace
@@ -101,11 +104,13 @@ QWidget* MainWindow::CreatePageColumn(QWidget* parent,
     m_generalPage = new GeneralPage(m_store, m_pages);
     AddPage(m_generalPage);
 
+    m_noticeBar = new NoticeBar(pageColumn);
     QWidget* footer = CreateFooter(pageColumn);
     auto* layout = new QVBoxLayout(pageColumn);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_pages, 1);
+    layout->addWidget(m_noticeBar);
     layout->addWidget(footer);
     return pageColumn;
 }
@@ -153,6 +158,17 @@ void MainWindow::Connect()
     connect(m_startButton, &QPushButton::clicked, this, &MainWindow::StartRecording);
     connect(m_store.get(), &PX::SettingsStore::SaveFailed, this, &MainWindow::ShowSaveProblem);
     connect(m_store.get(), &PX::SettingsStore::Saved, this, &MainWindow::ForgetSaveProblem);
+    connect(m_store.get(), &PX::SettingsStore::NoticeAdded, this, &MainWindow::ShowNotices);
+    connect(m_store.get(), &PX::SettingsStore::Changed, this, [this] {
+        // It was said of the settings before.
+        if (m_statusBar->currentMessage() == m_readyMessage) {
+            m_statusBar->clearMessage();
+        }
+    });
+    connect(m_noticeBar, &NoticeBar::CloseRequested, this, [this] {
+        m_readNotices = m_store->Notices().size();
+        ShowNotices();
+    });
     const auto* quit = new QShortcut(QKeySequence::Quit, this);
     connect(quit, &QShortcut::activated, this, &MainWindow::close);
 }
@@ -185,9 +201,24 @@ void MainWindow::StartRecording()
     // The window may be destroyed while the panel asks.
     const QPointer<MainWindow> self(this);
     const bool isReady = m_schedulePage->ValidateSettings();
-    if (!self.isNull() && isReady) {
-        Announce(m_statusBar, tr("Ready to record"), MessageMilliseconds);
+    if (!self.isNull() && isReady && !ShowPageProblem()) {
+        m_readyMessage = tr("Ready to record");
+        Announce(m_statusBar, m_readyMessage, MessageMilliseconds);
     }
+}
+
+bool MainWindow::ShowPageProblem()
+{
+    for (const PageFrame* frame : qAsConst(m_frames)) {
+        const QString problem = frame->Content()->Problem();
+        if (!problem.isEmpty()) {
+            ShowPage(frame->Content()->Id());
+            frame->Content()->FocusInput();
+            Announce(m_statusBar, problem, MessageMilliseconds);
+            return true;
+        }
+    }
+    return false;
 }
 
 void MainWindow::ApplyPages()
@@ -281,9 +312,16 @@ void MainWindow::Raise()
 bool MainWindow::SaveUnattended()
 {
     m_schedulePage->RememberInput();
+    return SaveChanges();
+}
+
+bool MainWindow::SaveChanges()
+{
     ApplyPages();
+    const bool isSaved = m_store->Flush();
+    // Where the window stands is nothing that the user has changed.
     RememberPlace();
-    return m_store->Flush();
+    return m_store->Flush() || isSaved;
 }
 
 void MainWindow::Retranslate()
@@ -297,9 +335,8 @@ void MainWindow::Retranslate()
     m_statusBar->clearMessage();
     m_pageList->setAccessibleName(tr("Settings pages"));
     m_startButton->setText(tr("&Start recording"));
-    if (!m_saveProblemLabel->isHidden()) {
-        ShowSaveProblem(m_store->SaveProblem());
-    }
+    m_saveProblemLabel->setOriginalText(m_store->SaveProblem());
+    ShowNotices();
     for (int index = 0; index < m_frames.size(); ++index) {
         m_pageList->item(index)->setText(m_frames.at(index)->Content()->Title());
         m_frames.at(index)->Retranslate();
@@ -313,17 +350,34 @@ void MainWindow::UpdateIcons()
     }
 }
 
-void MainWindow::ShowSaveProblem(const QString& reason)
+void MainWindow::ShowNotices()
 {
-    m_saveProblemLabel->setOriginalText(tr("Your changes could not be saved: %1").arg(reason));
+    const auto& notices = m_store->Notices();
+    const auto unread = std::min(notices.size() - m_readNotices, std::size_t(MostNotices));
+    QStringList texts;
+    for (auto notice = notices.end() - static_cast<std::ptrdiff_t>(unread); notice != notices.end();
+         ++notice) {
+        texts << notice->Text();
+    }
+    m_noticeBar->SetText(texts.join(QLatin1Char('\n')));
+}
+
+void MainWindow::ShowSaveProblem(const QString& problem)
+{
+    // Not while a message is shown, which would stand in the same place. After the next message,
+    // the status bar shows the problem again.
+    m_statusBar->clearMessage();
+    m_saveProblemLabel->setOriginalText(problem);
     m_saveProblemLabel->show();
+    AlertScreenReaders(m_saveProblemLabel);
 }
 
 void MainWindow::ForgetSaveProblem()
 {
-    if (m_saveProblemLabel->isHidden()) {
+    if (m_saveProblemLabel->originalText().isEmpty()) {
         return;
     }
+    m_saveProblemLabel->setOriginalText({});
     m_saveProblemLabel->hide();
     m_statusBar->showMessage(tr("Your changes are saved again."), MessageMilliseconds);
 }
@@ -358,9 +412,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
-    ApplyPages();
-    RememberPlace();
-    event->setAccepted(m_store->Flush() || IsClosingWithoutSavingAccepted());
+    event->setAccepted(SaveChanges() || IsClosingWithoutSavingAccepted());
 }
 
 } // namespace Zentor::Desktop

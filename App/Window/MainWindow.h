@@ -24,6 +24,7 @@ namespace Zentor::Desktop {
 
 class Appearance;
 class GeneralPage;
+class NoticeBar;
 class Page;
 class PageFrame;
 class SchedulePage;
@@ -85,7 +86,13 @@ private:
     void ApplyPages();
     /// Starts a recording when the panel has nothing against it.
     void StartRecording();
-    void ShowSaveProblem(const QString& reason);
+    /// Shows the first page that keeps a recording from being started. Whether there is one.
+    bool ShowPageProblem();
+    /// Shows what the store has to say and the user has not read yet.
+    void ShowNotices();
+    /// Saves what the user has changed, and the place of the window. Whether the former is saved.
+    bool SaveChanges();
+    void ShowSaveProblem(const QString& problem);
     void ForgetSaveProblem();
     bool IsClosingWithoutSavingAccepted();
 
@@ -96,9 +103,14 @@ private:
     QList<PageFrame*> m_frames;
     SchedulePage* m_schedulePage = nullptr;
     GeneralPage* m_generalPage = nullptr;
+    NoticeBar* m_noticeBar = nullptr;
+    /// How many of the store's notices the user has closed.
+    std::size_t m_readNotices = 0;
     QStatusBar* m_statusBar = nullptr;
     ZLabel* m_saveProblemLabel = nullptr;
     QPushButton* m_startButton = nullptr;
+    /// What the status line said last of settings that have not been changed since.
+    QString m_readyMessage;
     bool m_isAskingAboutInput = false;
 };
 

@@ -154,7 +154,8 @@ QString ReadFile(const QString& path, FileVersion& found)
         return ErrorText(errno);
     }
     if (found.content.size() < status.st_size) {
-        return QCoreApplication::translate("SettingsStore", "only a part of it could be read");
+        return QCoreApplication::translate("SettingsStore",
+                                           "Only a part of the file could be read");
     }
     found.exists = true;
     found.permissions = status.st_mode & (S_IRUSR | S_IWUSR);

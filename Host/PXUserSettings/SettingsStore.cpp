@@ -215,7 +215,7 @@ QString SettingsStore::SaveProblem() const
 {
     return m_failure.isEmpty()
         ? QString()
-        : Text(QT_TRANSLATE_NOOP("SettingsStore", "The settings cannot be saved in %1: %2"),
+        : Text(QT_TRANSLATE_NOOP("SettingsStore", "%2: your changes are not saved in %1"),
                m_filePath, m_failure);
 }
 
@@ -226,8 +226,18 @@ bool SettingsStore::Flush()
     }
     m_saveTimer.stop();
     m_retryTimer.stop();
-    const QString failure = Write();
+    const QJsonObject fields = FieldsOf(m_settings, m_fields);
+    const QByteArray content = QJsonDocument(fields).toJson();
+    // After a failure nobody knows how much of it has reached the disk.
+    if (m_failure.isEmpty() && m_known.exists && content == m_known.content
+        && Util::IsUntouched(m_realPath, m_known)) {
+        m_isDirty = false;
+        return true;
+    }
+    const QString failure = Write(content);
     if (failure.isEmpty()) {
+        // A task that is gone takes its unknown fields along.
+        m_fields = fields;
         m_isDirty = false;
         m_failure.clear();
         Q_EMIT Saved();
@@ -243,22 +253,16 @@ bool SettingsStore::Flush()
     return false;
 }
 
-/// Replaces the file. Returns the reason of a failure, or nothing.
-QString SettingsStore::Write()
+/// Replaces the file by \a content. Returns the reason of a failure, or nothing.
+QString SettingsStore::Write(const QByteArray& content)
 {
     if (!m_lock->isLocked() && !TryLock()) {
         return m_lock->error() == QLockFile::LockFailedError
-            ? QCoreApplication::translate("SettingsStore", "it is in use by another process")
-            : QCoreApplication::translate("SettingsStore", "its folder cannot be written to");
+            ? QCoreApplication::translate("SettingsStore", "The file is in use by another process")
+            : QCoreApplication::translate("SettingsStore", "The folder cannot be written to");
     }
-    QString failure = KeepChanged();
-    if (failure.isEmpty()) {
-        const QJsonObject fields = FieldsOf(m_settings, m_fields);
-        failure = Util::ReplaceFile(m_realPath, QJsonDocument(fields).toJson(), m_known);
-        // A task that is gone takes its unknown fields along.
-        m_fields = failure.isEmpty() ? fields : m_fields;
-    }
-    return failure;
+    const QString failure = KeepChanged();
+    return failure.isEmpty() ? Util::ReplaceFile(m_realPath, content, m_known) : failure;
 }
 
 } // namespace Zentor::PX

@@ -19,7 +19,8 @@ namespace Zentor::PX {
 /// Keeps the user's settings in a file.
 ///
 /// The file is replaced as a whole, so that at any moment it holds either the old settings or the
-/// new ones. Changes are gathered: those of one pass of the event loop are one write. What cannot
+/// new ones. Changes are gathered: those of one pass of the event loop are one write, and none when
+/// the settings are again what the file holds. What cannot
 /// be saved stays in memory and is tried again with the next change, every few seconds, and at the
 /// end of the application; a disk that does not confirm that it has the new file counts as a
 /// failure. What a killed process left half-written is removed by the next Open().
@@ -73,7 +74,8 @@ public:
     /// loop.
     void Change(const std::function<void(UserSettings&)>& change);
 
-    /// Why the settings could not be saved last, in the language in use; empty when they could.
+    /// Why the settings could not be saved last, in the language in use: the reason first, then the
+    /// file. Empty when they could.
     QString SaveProblem() const;
 
     /// What the user should be told of, oldest first: what Open() could not use, and what another
@@ -86,11 +88,11 @@ public:
 Q_SIGNALS:
     /// The settings were altered by Change(). Not sent by Open().
     void Changed();
-    /// The file was written.
+    /// The file was written. Not sent when it held the settings already.
     void Saved();
-    /// The settings cannot be saved for \a reason, SaveProblem(), which names the file. Not sent
+    /// The settings cannot be saved, as \a problem, which is SaveProblem(), says. Not sent
     /// again when trying once more fails for the same reason.
-    void SaveFailed(const QString& reason);
+    void SaveFailed(const QString& problem);
     /// There is one more at the end of Notices(). Not sent by Open().
     void NoticeAdded();
 
@@ -100,7 +102,7 @@ private:
     QString Load();
     QString KeepDamaged(const SettingsDocument& document);
     QString KeepChanged();
-    QString Write();
+    QString Write(const QByteArray& content);
 
     const QString m_filePath;
     /// Where it leads.

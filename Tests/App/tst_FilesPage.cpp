@@ -102,6 +102,27 @@ private Q_SLOTS:
         QCOMPARE(Edit()->text(), QDir::toNativeSeparators(m_folder->path()));
     }
 
+    void saysThatAFolderWillBeCreated()
+    {
+        const QString sentence = QStringLiteral("It will be created");
+        QVERIFY(!Label("freeSpaceLabel")->text().contains(sentence));
+        TypeAndAccept(m_folder->filePath(QStringLiteral("not/yet")));
+        QVERIFY(IsUnmarked());
+        QVERIFY(Label("freeSpaceLabel")->text().contains(sentence));
+        QVERIFY(IsFreeSpaceTold());
+    }
+
+    void marksAStoredFolderThatCannotBeUsed()
+    {
+        m_store->Change([](auto& settings) {
+            settings.resultsFolderPath = QStringLiteral("/proc/version/recordings");
+        });
+        m_page->hide();
+        m_page->show();
+        QVERIFY(!IsUnmarked());
+        QCOMPARE(Label("folderProblemLabel")->text(), m_page->Problem());
+    }
+
     void saysWhenFreeSpaceCannotBeTold()
     {
         m_store->Change([](auto& settings) { settings.resultsFolderPath.clear(); });

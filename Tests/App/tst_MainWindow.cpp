@@ -13,6 +13,7 @@
 
 #include "AppWindow.h"
 #include "Boxes.h"
+#include "FullDisk.h"
 #include "Languages.h"
 #include "MarkingTranslator.h"
 #include "PanelParts.h"
@@ -260,6 +261,46 @@ private Q_SLOTS:
         QCOMPARE(StatusText(), QStringLiteral("Ready to record"));
     }
 
+    void takesBackThatItIsReadyWhenTheModeChanges()
+    {
+        Open();
+        Click("startRecordingButton");
+        QCOMPARE(StatusText(), QStringLiteral("Ready to record"));
+        Click(Desktop::PanelPart::LimitedModeButton);
+        QCOMPARE(StatusText(), QString());
+    }
+
+    void isNotReadyWithAFolderThatCannotBeUsed_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<bool>("isTyped");
+        for (const bool isTyped : {false, true}) {
+            const char* how = isTyped ? "typed" : "stored";
+            QTest::addRow("relative, %s", how) << QStringLiteral("recordings") << isTyped;
+            QTest::addRow("file, %s", how) << QStringLiteral("/proc/version") << isTyped;
+            QTest::addRow("cannot be created, %s", how)
+                << QStringLiteral("/proc/version/recordings") << isTyped;
+        }
+    }
+
+    void isNotReadyWithAFolderThatCannotBeUsed()
+    {
+        QFETCH(QString, folder);
+        QFETCH(bool, isTyped);
+        Open();
+        if (isTyped) {
+            PageList()->setCurrentRow(1);
+            Find<QLineEdit>("resultsFolderEdit")->setText(folder);
+        } else {
+            KeepRecordingsIn(folder);
+        }
+        Click("startRecordingButton");
+        QCOMPARE(PageList()->currentRow(), 1);
+        QCOMPARE(StatusText(), Find<QLabel>("folderProblemLabel")->text());
+        QVERIFY(Find<QLabel>("folderProblemLabel")->isVisible());
+        QCOMPARE(Window().focusWidget(), Find<QWidget>("resultsFolderEdit"));
+    }
+
     void startsByKeyboard_data()
     {
         QTest::addColumn<int>("key");
@@ -409,6 +450,88 @@ private Q_SLOTS:
         QVERIFY(!label->isVisible());
     }
 
+    void showsOneTextAtATimeInTheStatusLine()
+    {
+        Open();
+        auto* label = Find<QLabel>("saveProblemLabel");
+        auto* statusBar = Window().findChild<QStatusBar*>();
+        statusBar->showMessage(QStringLiteral("said before"));
+        Q_EMIT Store().SaveFailed(QStringLiteral("disk full"));
+        QVERIFY(label->isVisible());
+        QCOMPARE(StatusText(), QString());
+        statusBar->showMessage(QStringLiteral("said after"));
+        QVERIFY(!label->isVisible());
+        statusBar->clearMessage();
+        QVERIFY(label->isVisible());
+        statusBar->showMessage(QStringLiteral("said last"));
+        Q_EMIT Store().Saved();
+        statusBar->clearMessage();
+        QVERIFY(!label->isVisible());
+    }
+
+    void closesWithoutAQuestionWhenNothingWasChanged()
+    {
+        Open(Tasks(2));
+        QVERIFY(Store().Flush());
+        const QSignalSpy failed(&Store(), &PX::SettingsStore::SaveFailed);
+        const FullDisk disk(10);
+        Store().Change([](auto&) {});
+        QVERIFY(Store().Flush());
+        QCOMPARE(failed.count(), 0);
+        QVERIFY(!Find<QLabel>("saveProblemLabel")->isVisible());
+        PageList()->setCurrentRow(2);
+        Window().resize(Window().size() + QSize(1, 1));
+        QVERIFY(Window().close());
+    }
+
+    void showsWhatTheStoreHasToSayUntilItIsRead()
+    {
+        Open();
+        QVERIFY(Store().Flush());
+        auto* bar = Find<QFrame>("noticeBar");
+        QVERIFY(!bar->isVisible());
+        ChangeFileOutside("{\"version\": 1}");
+        QVERIFY(bar->isVisible());
+        const QString text = Find<QLabel>("noticeLabel")->text();
+        QCOMPARE(text, Store().Notices().front().Text());
+        QVERIFY(text.contains(Store().Notices().front().keptPath));
+
+        Click("noticeCloseButton");
+        QVERIFY(!bar->isVisible());
+        ChangeFileOutside("{\"version\": 1, \"more\": 1}");
+        QCOMPARE(Find<QLabel>("noticeLabel")->text(), Store().Notices().back().Text());
+    }
+
+    void showsAtTheStartWhatCouldNotBeUsed()
+    {
+        Open(Tasks(2));
+        Close();
+        QFile file(SettingsFile());
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.resize(file.size() / 2));
+        file.close();
+        Reopen();
+        QVERIFY(Find<QFrame>("noticeBar")->isVisible());
+        QVERIFY(Find<QLabel>("noticeLabel")->text().contains(QLatin1String(".damaged-")));
+        LanguageSwitch language;
+        language.Toggle();
+        QVERIFY(Find<QLabel>("noticeLabel")->text().startsWith(QLatin1Char('~')));
+    }
+
+    void showsOnlyTheLatestNotices()
+    {
+        Open();
+        QVERIFY(Store().Flush());
+        for (int number = 1; number <= 5; ++number) {
+            ChangeFileOutside(QStringLiteral("{\"version\": 1, \"n\": %1}").arg(number).toUtf8());
+        }
+        const auto& notices = Store().Notices();
+        QCOMPARE(int(notices.size()), 5);
+        QCOMPARE(Find<QLabel>("noticeLabel")->text(),
+                 QStringList({notices[2].Text(), notices[3].Text(), notices[4].Text()})
+                     .join(QLatin1Char('\n')));
+    }
+
     void movesOnlyAsFarAsItsFrameNeeds()
     {
         OpenWithoutPlace();
@@ -504,11 +627,10 @@ private Q_SLOTS:
             Store(), [](auto& settings) { settings.page = QStringLiteral("files"); });
         QVERIFY(!Store().Flush());
         const auto* label = Find<QLabel>("saveProblemLabel");
-        QVERIFY(label->text().startsWith(QLatin1String("Your changes")));
+        QVERIFY(label->text().contains(QLatin1String(": your changes are not saved in ")));
         LanguageSwitch language;
         language.Toggle();
-        QVERIFY(label->text().startsWith(QLatin1String("~Your changes")));
-        QVERIFY(label->text().contains(QLatin1String("~The settings cannot be saved")));
+        QVERIFY(label->text().startsWith(QLatin1Char('~')));
         language.Toggle();
         QVERIFY(QDir(SettingsFile()).removeRecursively());
         QVERIFY(Store().Flush());
@@ -616,6 +738,7 @@ private Q_SLOTS:
         // Nothing can be written where a folder stands in the way.
         QVERIFY(QFile::remove(SettingsFile()));
         QVERIFY(QDir(Folder()).mkpath(SettingsFile() + QStringLiteral("/in the way")));
+        KeepRecordingsIn(Folder() + QStringLiteral("/other"));
         {
             const ExpectedBox box(PressEscape);
             QVERIFY(!Window().close());
@@ -903,9 +1026,7 @@ private:
 
     void KeepRecordingsIn(const QString& folder) const
     {
-        auto* edit = Find<QLineEdit>("resultsFolderEdit");
-        edit->setText(folder);
-        Q_EMIT edit->editingFinished();
+        Store().Change([&](auto& settings) { settings.resultsFolderPath = folder; });
     }
 
     /// The frame that the window expects: the desktop's own is known only when it is on screen.
@@ -924,6 +1045,16 @@ private:
         const QMargins more = Window().windowHandle()->frameMargins() - ExpectedFrame();
         return {qMax(0, more.left()), qMax(0, more.top()), qMax(0, more.right()),
                 qMax(0, more.bottom())};
+    }
+
+    void ChangeFileOutside(const QByteArray& content)
+    {
+        QFile file(SettingsFile());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.write(content) == content.size());
+        file.close();
+        KeepRecordingsIn(Folder() + QString::number(Store().Notices().size()));
+        QVERIFY(Store().Flush());
     }
 
     QString StatusText() const { return m_app->StatusText(); }

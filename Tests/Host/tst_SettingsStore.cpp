@@ -1,6 +1,4 @@
-#include <csignal>
 #include <optional>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
@@ -13,6 +11,7 @@
 #include <glog/logging.h>
 
 #include "FaultyDisk.h"
+#include "FullDisk.h"
 #include "PXUserSettings/SettingsFormat.h"
 #include "PXUserSettings/SettingsStore.h"
 #include "Samples.h"
@@ -45,28 +44,6 @@ public:
     }
 
     QStringList lines;
-};
-
-/// Has files that grow beyond \a bytes fail, as on a full disk.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY(FullDisk)
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int) = nullptr;
 };
 
 /// Acts as a user whom file permissions apply to, also where the tests run as the administrator.
@@ -1089,6 +1066,27 @@ private Q_SLOTS:
         QVERIFY(store->Flush());
         QVERIFY(place.Read().contains("\"mine\""));
         QVERIFY(place.Read(place.ChangedFiles().value(0)).contains("\"other\""));
+    }
+
+    void writesNothingWhenNothingHasChanged()
+    {
+        const Place place;
+        SettingsStore store(place.Path());
+        QVERIFY(Open(store));
+        SetPage(store, QStringLiteral("a"));
+        QVERIFY(store.Flush());
+        const QSignalSpy saved(&store, &SettingsStore::Saved);
+        const QSignalSpy failed(&store, &SettingsStore::SaveFailed);
+        {
+            const FullDisk disk(10);
+            SetPage(store, QStringLiteral("b"));
+            SetPage(store, QStringLiteral("a"));
+            QVERIFY(store.Flush());
+        }
+        QCOMPARE(saved.count() + failed.count(), 0);
+        SetPage(store, QStringLiteral("b"));
+        QVERIFY(store.Flush());
+        QCOMPARE(saved.count(), 1);
     }
 
     void diskThatCannotSync_data()

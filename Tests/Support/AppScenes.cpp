@@ -202,11 +202,8 @@ void ShowFolderProblems(const Stage& stage)
         stage.EnterFolder(QLatin1String(folder));
         stage.Show(QLatin1String(scene), stage.App().Find("folderProblemLabel")->isVisible());
     }
-    stage.EnterFolder(stage.App().folder.path());
-    stage.App().store->Change([](auto& settings) { settings.resultsFolderPath.clear(); });
-    stage.ShowPage(0);
-    stage.ShowPage(1);
-    stage.Show(QStringLiteral("folder of unknown space"), !stage.IsMarked(folderEdit));
+    stage.EnterFolder(stage.App().folder.filePath(QStringLiteral("not yet")));
+    stage.Show(QStringLiteral("folder that will be created"), !stage.IsMarked(folderEdit));
     stage.EnterFolder(stage.App().folder.path());
     stage.ShowPage(0);
 }
@@ -288,6 +285,20 @@ void ShowSaveProblems(const Stage& stage)
     stage.Show(QStringLiteral("changes that are saved again"), !stage.App().StatusText().isEmpty());
 }
 
+void ShowNotices(const Stage& stage)
+{
+    QFile file(stage.App().folder.filePath(QStringLiteral("settings.json")));
+    QVERIFY(stage.App().store->Flush());
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("{}") == 2);
+    file.close();
+    stage.App().store->Change(
+        [](PX::UserSettings& settings) { settings.resultsFolderPath += QStringLiteral("/1"); });
+    QVERIFY(stage.App().store->Flush());
+    stage.Show(QStringLiteral("settings that were changed outside"),
+               stage.App().Find("noticeBar")->isVisible());
+    stage.Click("noticeCloseButton");
+}
+
 void ShowClosingQuestion(const Stage& stage)
 {
     const QString file = stage.App().folder.filePath(QStringLiteral("settings.json"));
@@ -295,6 +306,8 @@ void ShowClosingQuestion(const Stage& stage)
     // Nothing can be written where a folder stands in the way.
     QVERIFY(QFile::remove(file));
     QVERIFY(QDir().mkpath(file + QStringLiteral("/1")));
+    stage.App().store->Change(
+        [](PX::UserSettings& settings) { settings.resultsFolderPath += QStringLiteral("/1"); });
     stage.ShowBox(QStringLiteral("question about closing"), QMessageBox::Cancel,
                   [&] { stage.App().window->close(); });
     QVERIFY(QDir(file).removeRecursively());
@@ -322,7 +335,8 @@ void ShowRecordingStart(const Stage& stage)
     stage.Click("startRecordingButton");
     stage.Show(QStringLiteral("ready to record"), !stage.App().StatusText().isEmpty());
     // A file system that has no room for files.
-    stage.EnterFolder(QStringLiteral("/proc/recordings"));
+    stage.App().store->Change(
+        [](auto& settings) { settings.resultsFolderPath = QStringLiteral("/proc/recordings"); });
     stage.ShowBox(QStringLiteral("full disk"), QMessageBox::Cancel,
                   [&] { stage.Click("startRecordingButton"); });
 }
@@ -374,7 +388,7 @@ void VisitAppScenes(const QSize& size, const SceneVisitor& visit)
     };
     const Part parts[] = {{0,
                            {ShowPages, ShowModes, ShowFolderProblems, ShowGeneralPage, ShowForm,
-                            ShowSaveProblems, ShowClosingQuestion}},
+                            ShowSaveProblems, ShowNotices, ShowClosingQuestion}},
                           {2, {ShowSchedule}},
                           {manyTasks, {ShowLongSchedule}}};
     for (const Part& part : parts) {
