@@ -1,18 +1,21 @@
 #include "PageFrame.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QLabel>
 #include <QScrollBar>
 #include <QStyle>
 #include <QVBoxLayout>
 
 #include "Controls.h"
+#include "HostInterfaces.h"
 #include "Page.h"
 
 namespace Zentor::Desktop {
 namespace {
 
-constexpr int Margin = 24;
+constexpr int WideMargin = 24;
+constexpr int CompactMargin = 12;
 /// Between the description and the page.
 constexpr int Gap = 18;
 
@@ -64,6 +67,18 @@ void ScrollToFocused(const QWidget& focused)
     }
 }
 
+/// Has the style sheet look again at what depends on a property of \a root.
+void RestyleDescendants(const QWidget& root)
+{
+    const auto widgets = root.findChildren<QWidget*>();
+    for (QWidget* widget : widgets) {
+        widget->style()->unpolish(widget);
+        widget->style()->polish(widget);
+        QEvent event(QEvent::StyleChange);
+        QCoreApplication::sendEvent(widget, &event);
+    }
+}
+
 void WatchFocus(const QWidget* contents)
 {
     QObject::connect(qApp, &QApplication::focusChanged, contents, [contents](auto*, auto* now) {
@@ -98,7 +113,7 @@ PageFrame::PageFrame(Page* page, QWidget* parent)
     headColumn->addWidget(m_description);
 
     auto* column = new QVBoxLayout(contents);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
+    column->setContentsMargins(WideMargin, WideMargin, WideMargin, WideMargin);
     column->setSpacing(0);
     column->addLayout(CreateRow(m_head));
     column->addSpacing(Gap);
@@ -124,14 +139,31 @@ void PageFrame::resizeEvent(QResizeEvent* event)
     // The head is wrapped for the view, whether scroll bars are shown or not: a page that becomes
     // wider or longer than the view does not move what is above it.
     const int barWidth = verticalScrollBar()->sizeHint().width();
-    m_head->setMaximumWidth(qMax(0, maximumViewportSize().width() - barWidth - 2 * Margin));
+    m_head->setMaximumWidth(qMax(0, maximumViewportSize().width() - barWidth - 2 * Margin()));
     FitPage();
+}
+
+int PageFrame::Margin() const
+{
+    return m_isCompact ? CompactMargin : WideMargin;
+}
+
+void PageFrame::SetCompact(bool isCompact)
+{
+    if (isCompact == m_isCompact) {
+        return;
+    }
+    m_isCompact = isCompact;
+    widget()->layout()->setContentsMargins(Margin(), Margin(), Margin(), Margin());
+    Util::ApplyWidgetStyle(
+        widget(), isCompact ? QStringLiteral("Compact") : QStringLiteral("Normal"), "SubStyle");
+    RestyleDescendants(*widget());
 }
 
 void PageFrame::FitPage()
 {
     const int headHeight = m_head->heightForWidth(m_head->maximumWidth());
-    m_page->SetRoom(maximumViewportSize().height() - headHeight - Gap - 2 * Margin);
+    m_page->SetRoom(maximumViewportSize().height() - headHeight - Gap - 2 * Margin());
 }
 
 } // namespace Zentor::Desktop

@@ -24,16 +24,21 @@ public:
     /// Shows title and description in the language in use.
     void Retranslate();
 
+    /// Makes everything on the page smaller, for a small window, or as large as it should be.
+    void SetCompact(bool isCompact);
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void FitPage();
+    int Margin() const;
 
     Page* m_page;
     QWidget* m_head = nullptr;
     QLabel* m_title = nullptr;
     QLabel* m_description = nullptr;
+    bool m_isCompact = false;
 };
 
 } // namespace Zentor::Desktop

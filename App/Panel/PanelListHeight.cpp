@@ -66,11 +66,8 @@ void PanelListHeight::Fit()
     if (m_leastRows < 0 || m_parts.stack->isHidden()) {
         return;
     }
-    const int rows = std::max(m_leastRows, RowsThatFit());
-    if (rows != m_parts.table->property(MaximumRows).toInt()) {
-        m_parts.table->setProperty(MaximumRows, rows);
-        UpdateTableHeight();
-    }
+    m_parts.table->setProperty(MaximumRows, std::max(m_leastRows, RowsThatFit()));
+    UpdateTableHeight();
 }
 
 /// By the table's own rule, which it follows only when a task comes or goes.

@@ -27,6 +27,10 @@ namespace Zentor::Desktop {
 namespace {
 
 constexpr QSize SmallestSize(480, 320);
+/// The least width that has room for the widest page and for the titles of the pages beside it.
+constexpr int WidthWithTitles = 1010;
+/// The same with icons instead of the titles.
+constexpr int WidthOfWidestPage = 864;
 constexpr QSize PageIconSize(20, 20);
 constexpr int MessageMilliseconds = 5000;
 /// The log has them all.
@@ -49,12 +53,15 @@ MainWindow::MainWindow(std::shared_ptr<PX::SettingsStore> store,
 {
     setObjectName(QStringLiteral("mainWindow"));
     BuildWidgets(lookAndFeel);
+    RestorePlace();
+    // Now that its room is known, each task is styled only once.
     m_schedulePage->Restore();
     Connect();
     ConnectPages();
     Retranslate();
     UpdateIcons();
-    RestorePlace();
+    m_pageList->setCurrentRow(0);
+    ShowPage(ApplicationSettingsIn(*m_store).page);
 }
 
 MainWindow::~MainWindow() = default;
@@ -79,16 +86,16 @@ void MainWindow::BuildWidgets(const std::shared_ptr<App::ILookAndFeelManager>& l
 
 QWidget* MainWindow::CreateSidebar(QWidget* parent)
 {
-    auto* sidebar = new QFrame(parent);
-    sidebar->setObjectName(QStringLiteral("sidebar"));
-    m_pageList = new QListWidget(sidebar);
+    m_sidebar = new QFrame(parent);
+    m_sidebar->setObjectName(QStringLiteral("sidebar"));
+    m_pageList = new QListWidget(m_sidebar);
     m_pageList->setObjectName(QStringLiteral("pageList"));
     m_pageList->setIconSize(PageIconSize);
     m_pageList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    auto* layout = new QVBoxLayout(sidebar);
+    auto* layout = new QVBoxLayout(m_sidebar);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_pageList);
-    return sidebar;
+    return m_sidebar;
 }
 
 QWidget* MainWindow::CreatePageColumn(QWidget* parent,
@@ -266,8 +273,15 @@ void MainWindow::RestorePlace()
         resize(FirstSize());
     }
     FitScreen();
-    m_pageList->setCurrentRow(0);
-    ShowPage(settings.page);
+    FitWidth();
+}
+
+void MainWindow::FitWidth()
+{
+    SetSidebarNarrow(width() < WidthWithTitles);
+    for (PageFrame* frame : qAsConst(m_frames)) {
+        frame->SetCompact(width() < WidthOfWidestPage);
+    }
 }
 
 void MainWindow::FitScreen()
@@ -337,10 +351,32 @@ void MainWindow::Retranslate()
     m_startButton->setText(tr("&Start recording"));
     m_saveProblemLabel->setOriginalText(m_store->SaveProblem());
     ShowNotices();
-    for (int index = 0; index < m_frames.size(); ++index) {
-        m_pageList->item(index)->setText(m_frames.at(index)->Content()->Title());
-        m_frames.at(index)->Retranslate();
+    ShowPageTitles();
+    for (PageFrame* frame : qAsConst(m_frames)) {
+        frame->Retranslate();
     }
+}
+
+void MainWindow::ShowPageTitles()
+{
+    for (int index = 0; index < m_frames.size(); ++index) {
+        const QString title = m_frames.at(index)->Content()->Title();
+        QListWidgetItem* entry = m_pageList->item(index);
+        entry->setText(m_isSidebarNarrow ? QString() : title);
+        entry->setToolTip(m_isSidebarNarrow ? title : QString());
+        entry->setData(Qt::AccessibleTextRole, title);
+    }
+}
+
+void MainWindow::SetSidebarNarrow(bool isNarrow)
+{
+    if (isNarrow == m_isSidebarNarrow) {
+        return;
+    }
+    m_isSidebarNarrow = isNarrow;
+    Util::ApplyWidgetStyle(
+        m_sidebar, isNarrow ? QStringLiteral("Narrow") : QStringLiteral("Normal"), "SubStyle");
+    ShowPageTitles();
 }
 
 void MainWindow::UpdateIcons()
@@ -404,6 +440,12 @@ void MainWindow::changeEvent(QEvent* event)
         UpdateIcons();
     }
     QMainWindow::changeEvent(event);
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    FitWidth();
+    QMainWindow::resizeEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

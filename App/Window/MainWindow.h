@@ -5,6 +5,7 @@
 #include <QList>
 #include <QMainWindow>
 
+class QFrame;
 class QListWidget;
 class QPushButton;
 class QStackedWidget;
@@ -64,6 +65,7 @@ protected:
     void changeEvent(QEvent* event) override;
     /// Asks before closing when input is unfinished and when the settings could not be saved.
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void BuildWidgets(const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel);
@@ -76,10 +78,15 @@ private:
     void ConnectPages();
     Page* CurrentPage() const;
     void RestorePlace();
+    /// Makes what is in the window as small as its width asks for.
+    void FitWidth();
     /// Makes the window no larger than its screen, and moves it there.
     void FitScreen();
     void RememberPlace();
     void Retranslate();
+    /// In the list of pages, or where that has only icons, in their tips.
+    void ShowPageTitles();
+    void SetSidebarNarrow(bool isNarrow);
     void UpdateIcons();
     /// Shows the page that is chosen in the list, unless unfinished input keeps the user here.
     void FollowPageList();
@@ -97,6 +104,7 @@ private:
     bool IsClosingWithoutSavingAccepted();
 
     std::shared_ptr<PX::SettingsStore> m_store;
+    QFrame* m_sidebar = nullptr;
     QListWidget* m_pageList = nullptr;
     QStackedWidget* m_pages = nullptr;
     /// In the order of the list.
@@ -111,6 +119,7 @@ private:
     QPushButton* m_startButton = nullptr;
     /// What the status line said last of settings that have not been changed since.
     QString m_readyMessage;
+    bool m_isSidebarNarrow = false;
     bool m_isAskingAboutInput = false;
 };
 

@@ -160,9 +160,8 @@ private Q_SLOTS:
         Findings findings;
         VisitAppScenes(size, [&](const QString& scene, const AppWindow& app) {
             findings.Add(scene, LayoutProblems());
-            if (size.isEmpty()) {
-                findings.Add(scene, SidewaysScrolling(app));
-            } else if (QApplication::activePopupWidget() == nullptr) {
+            findings.Add(scene, SidewaysScrolling(app));
+            if (!size.isEmpty() && QApplication::activePopupWidget() == nullptr) {
                 findings.Add(scene, UnreachableControls(*app.window));
             }
         });

@@ -433,8 +433,30 @@ private Q_SLOTS:
             QCOMPARE(widget->visibleRegion(), QRegion(widget->rect()));
         }
         auto* deleteButton = Find<QWidget>(Desktop::PanelPart::RowDeleteButton);
-        page->ensureWidgetVisible(deleteButton);
-        QCOMPARE(deleteButton->visibleRegion(), QRegion(deleteButton->rect()));
+        const auto regionInView = [&] {
+            page->ensureWidgetVisible(deleteButton);
+            return deleteButton->visibleRegion();
+        };
+        QTRY_COMPARE(regionInView(), QRegion(deleteButton->rect()));
+    }
+
+    void hasOnlyIconsBesideThePageWhenNarrow()
+    {
+        Open(Tasks(2));
+        const QListWidgetItem* entry = PageList()->item(1);
+        Window().resize(1009, 700);
+        QCOMPARE(entry->text(), QString());
+        QCOMPARE(entry->toolTip(), QStringLiteral("Files"));
+        QCOMPARE(entry->data(Qt::AccessibleTextRole).toString(), QStringLiteral("Files"));
+        QTRY_COMPARE(Find<QWidget>("sidebar")->width(), 62);
+        QCOMPARE(Find<QWidget>(Desktop::PanelPart::Table)->width(), 710);
+        Window().resize(863, 700);
+        QTRY_COMPARE(Find<QWidget>(Desktop::PanelPart::Table)->width(), 512);
+        Window().resize(1010, 700);
+        QTRY_COMPARE(Find<QWidget>(Desktop::PanelPart::Table)->width(), 710);
+        QCOMPARE(entry->text(), QStringLiteral("Files"));
+        QCOMPARE(entry->toolTip(), QString());
+        QTRY_COMPARE(Find<QWidget>("sidebar")->width(), 208);
     }
 
     void tellsWhenSavingFailsAndWhenItWorksAgain()

@@ -39,7 +39,7 @@ private Q_SLOTS:
     {
         const AppWindow app(20);
         QVERIFY(app.Show());
-        app.window->resize(640, 480);
+        app.window->resize(640, 360);
         QTRY_COMPARE(RowsInView(app), LeastRows);
     }
 
