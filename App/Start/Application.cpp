@@ -19,6 +19,7 @@
 #include "Application/LookAndFeelManager.h"
 #include "ApplicationSettings.h"
 #include "CommandLine.h"
+#include "CoreInt/Printable.h"
 #include "Instance.h"
 #include "Languages.h"
 #include "Log.h"
@@ -149,7 +150,7 @@ int RunWindow(MainWindow& window, const Instance& instance)
 int RunOn(const QString& file, const CommandLine& line, const Instance* instance)
 {
     LOG(INFO) << "Zentor::Desktop::RunOn: version=" << PX_VERSION
-              << "; settings=" << file.toStdString();
+              << "; settings=" << Util::Printable(file);
     const auto store = std::make_shared<PX::SettingsStore>(file);
     // Which language the user has chosen is not known before the settings are.
     std::optional<Translations> translations(std::in_place);
@@ -180,7 +181,7 @@ int RunOnCopy(const CommandLine& line)
         QFile source(original);
         if (!source.copy(copy)) {
             return Refuse(Text::tr("cannot copy the settings file %1: %2")
-                              .arg(original, source.errorString()));
+                              .arg(Util::PrintableText(original), source.errorString()));
         }
     }
     QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);

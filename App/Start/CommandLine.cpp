@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include "CoreInt/Printable.h"
 #include "Languages.h"
 #include "ThemeName.h"
 
@@ -59,7 +60,7 @@ CommandLine Refuse(const QString& reason)
 {
     CommandLine line;
     line.task = CommandLine::Task::Refuse;
-    line.message = Text::tr("%1: %2 (try --help)").arg(ProgramName(), reason);
+    line.message = Text::tr("%1: %2 (try --help)").arg(ProgramName(), Util::PrintableText(reason));
     return line;
 }
 

@@ -12,6 +12,8 @@
 #include <QPixmap>
 #include <QWindow>
 
+#include "CoreInt/Printable.h"
+
 namespace Zentor::Desktop {
 namespace {
 
@@ -214,7 +216,7 @@ void ScreenshotTour::Picture(const QString& name)
 void ScreenshotTour::Start()
 {
     if (!m_folder.mkpath(QStringLiteral("."))) {
-        End(tr("cannot create the folder %1").arg(m_folder.path()));
+        End(tr("cannot create the folder %1").arg(Util::PrintableText(m_folder.path())));
         return;
     }
     m_steps.push_front({QStringLiteral("the window"), [this] { return IsReady(); }});
@@ -265,7 +267,7 @@ bool ScreenshotTour::WritePicture(const QString& fileName)
     }
     painter.end();
     if (!picture.save(fileName)) {
-        m_problem = tr("cannot write %1").arg(fileName);
+        m_problem = tr("cannot write %1").arg(Util::PrintableText(fileName));
         return false;
     }
     return true;

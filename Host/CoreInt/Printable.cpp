@@ -40,7 +40,7 @@ QString Escaped(QChar character)
 
 } // namespace
 
-std::string Printable(const QString& text)
+QString PrintableText(const QString& text)
 {
     QString printable;
     printable.reserve(text.size());
@@ -51,7 +51,12 @@ std::string Printable(const QString& text)
             printable += character;
         }
     }
-    return printable.toStdString();
+    return printable;
+}
+
+std::string Printable(const QString& text)
+{
+    return PrintableText(text).toStdString();
 }
 
 } // namespace Zentor::Util

@@ -15,4 +15,7 @@ namespace Zentor::Util {
 /// Use it for all that comes from outside: paths, titles, content of files, messages of others.
 ZENTOR_HOST_API std::string Printable(const QString& text);
 
+/// The same for a message that goes to the user, too.
+ZENTOR_HOST_API QString PrintableText(const QString& text);
+
 } // namespace Zentor::Util

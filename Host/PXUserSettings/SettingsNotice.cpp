@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include "../CoreInt/Printable.h"
+
 namespace Zentor::PX {
 namespace {
 
@@ -34,8 +36,8 @@ QString SettingsNotice::Text() const
 {
     const QString text =
         QCoreApplication::translate("SettingsStore", TextOf(cause, droppedTasks > 0));
-    return droppedTasks > 0 ? text.arg(keptPath, QString::number(droppedTasks))
-                            : text.arg(keptPath);
+    const QString path = Util::PrintableText(keptPath);
+    return droppedTasks > 0 ? text.arg(path, QString::number(droppedTasks)) : text.arg(path);
 }
 
 } // namespace Zentor::PX

@@ -20,7 +20,8 @@ const QLatin1String LockSuffix(".lock");
 QString Text(const char* text, const QString& path, const QString& reason = {})
 {
     const QString translated = QCoreApplication::translate("SettingsStore", text);
-    return reason.isEmpty() ? translated.arg(path) : translated.arg(path, reason);
+    const QString printable = Util::PrintableText(path);
+    return reason.isEmpty() ? translated.arg(printable) : translated.arg(printable, reason);
 }
 
 /// A name beside \a path, with \a suffix and the time, that no file has.

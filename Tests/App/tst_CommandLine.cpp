@@ -105,6 +105,7 @@ private Q_SLOTS:
         row("extra argument", "settings.json", "settings.json");
         row("argument after options", "--theme|dark|more", "more");
         row("unknown theme", "--theme|Dark", "Dark");
+        row("control characters", "--theme|\x1b[2J", "\\x1b[2J");
         row("unknown language", "--language|tlh", "tlh");
         row("region that is not offered", "--language|de_AT", "de_AT");
         row("settings without value", "--settings", "settings");

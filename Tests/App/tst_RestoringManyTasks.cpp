@@ -1,6 +1,5 @@
 #include "Application/LookAndFeelManager.h"
 #include "Application/SettingsManager.h"
-#include "CpuTimer.h"
 #include "PanelParts.h"
 #include "PXUserSettings/StoredSettings.h"
 #include "RecordSchedulerWidget.h"
@@ -32,7 +31,8 @@ class tst_RestoringManyTasks : public WidgetTest {
 private Q_SLOTS:
     void initTestCase() { Desktop::RegisterResources(); }
 
-    void takesUnderASecondAndOneWrite()
+    /// The panel tells its host of each task that it is given back.
+    void writesNothingThatTheFileHolds()
     {
         constexpr int taskCount = 1000;
         const QTemporaryDir folder;
@@ -55,17 +55,12 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(&panel));
 
         const QSignalSpy saved(store.get(), &PX::SettingsStore::Saved);
-        const CpuTimer timer;
+        const QSignalSpy changed(store.get(), &PX::SettingsStore::Changed);
         panel.RestoreSettings();
-        QTRY_VERIFY(saved.count() > 0);
-        const auto elapsed = timer.Milliseconds();
-        qInfo("%d tasks restored, shown and saved in %.0f ms", taskCount, elapsed);
         QCOMPARE(panel.findChildren<QWidget*>(Desktop::PanelPart::Row).size(), taskCount);
         QVERIFY(store->Flush());
-        QCOMPARE(saved.count(), 1);
-#ifdef NDEBUG
-        QVERIFY(elapsed < 1000);
-#endif
+        QVERIFY(changed.count() > taskCount);
+        QCOMPARE(saved.count(), 0);
     }
 };
 

@@ -418,6 +418,13 @@ private Q_SLOTS:
         QVERIFY(!OpenError({}).isEmpty());
     }
 
+    void saysNothingThatControlsATerminal()
+    {
+        const QString error = OpenError(QStringLiteral("/dev/null/\x1b[2J\nsettings"));
+        QVERIFY2(error.contains(QLatin1String("/dev/null/\\x1b[2J\\x0asettings")),
+                 qPrintable(error));
+    }
+
     void devicesAreNoSettingsFiles() { QVERIFY(!OpenError(QStringLiteral("/dev/zero")).isEmpty()); }
 
     void unreadableFile()
