@@ -19,8 +19,8 @@ namespace {
 
 using Desktop::Instance;
 
-const QString desktopName = QStringLiteral("org.zentor.PxScheduler");
-const QString objectPath = QStringLiteral("/org/zentor/PxScheduler");
+const QString DesktopName = QStringLiteral("org.zentor.PxScheduler");
+const QString ObjectPath = QStringLiteral("/org/zentor/PxScheduler");
 
 /// The program, started anew. It is ended with this object.
 class Program {
@@ -60,7 +60,7 @@ bool IsOnBus(const QString& name)
 QDBusMessage Call(const QString& name, const char* method, const QVariantList& arguments)
 {
     auto message = QDBusMessage::createMethodCall(
-        name, objectPath, QStringLiteral("org.freedesktop.Application"), method);
+        name, ObjectPath, QStringLiteral("org.freedesktop.Application"), method);
     message.setArguments(arguments);
     // By another connection: a call to itself would not go over the bus.
     auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("other"));
@@ -154,7 +154,7 @@ private Q_SLOTS:
     {
         Program first({QStringLiteral("--settings"), SettingsFile()});
         QTRY_VERIFY(IsOnBus(Instance::BusName(SettingsFile())));
-        QVERIFY(!IsOnBus(desktopName));
+        QVERIFY(!IsOnBus(DesktopName));
         Program second({QStringLiteral("--settings"), SettingsFile()});
         QCOMPARE(second.ExitCode(), 0);
         const QString otherFile = m_folder->filePath(QStringLiteral("other.json"));
@@ -170,16 +170,16 @@ private Q_SLOTS:
     {
         Instance instance(DefaultFile(), DefaultFile());
         QVERIFY(instance.IsFirst({}));
-        QVERIFY(IsOnBus(desktopName));
+        QVERIFY(IsOnBus(DesktopName));
         QVERIFY(IsOnBus(Instance::BusName(DefaultFile())));
         const QSignalSpy activated(&instance, &Instance::Activated);
-        QCOMPARE(Call(desktopName, "Activate", {QVariantMap()}).type(), QDBusMessage::ReplyMessage);
+        QCOMPARE(Call(DesktopName, "Activate", {QVariantMap()}).type(), QDBusMessage::ReplyMessage);
         QCOMPARE(activated.count(), 1);
-        QCOMPARE(Call(desktopName, "Open", {QStringList{"file:///a"}, QVariantMap()}).type(),
+        QCOMPARE(Call(DesktopName, "Open", {QStringList{"file:///a"}, QVariantMap()}).type(),
                  QDBusMessage::ReplyMessage);
         QCOMPARE(activated.count(), 2);
         const auto answer =
-            Call(desktopName, "ActivateAction", {"none", QVariantList(), QVariantMap()});
+            Call(DesktopName, "ActivateAction", {"none", QVariantList(), QVariantMap()});
         QCOMPARE(answer.type(), QDBusMessage::ErrorMessage);
         QCOMPARE(answer.errorName(), QStringLiteral("org.freedesktop.DBus.Error.InvalidArgs"));
         QCOMPARE(activated.count(), 2);

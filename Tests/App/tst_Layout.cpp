@@ -15,15 +15,15 @@
 namespace Zentor::Tests {
 namespace {
 
-constexpr QSize smallSize(640, 480);
+constexpr QSize SmallSize(640, 480);
 
-const QString& nameEdit = Desktop::PanelPart::NameField;
-const QString& dateEdit = Desktop::PanelPart::DateField;
-const QString& startEdit = Desktop::PanelPart::StartField;
-const QString& addButton = Desktop::PanelPart::AddButton;
+const QString& NameEdit = Desktop::PanelPart::NameField;
+const QString& DateEdit = Desktop::PanelPart::DateField;
+const QString& StartEdit = Desktop::PanelPart::StartField;
+const QString& AddButton = Desktop::PanelPart::AddButton;
 
 /// A mode's button and its caption, from the top of the panel down.
-const std::pair<QString, QString> modes[] = {
+const std::pair<QString, QString> Modes[] = {
     {Desktop::PanelPart::OffModeButton, "disableScheduledCaptureLabel"},
     {Desktop::PanelPart::LimitedModeButton, "limitedCaptureDurationLabel"},
     {Desktop::PanelPart::ScheduledModeButton, "scheduledCaptureLabel"}};
@@ -72,7 +72,7 @@ QPoint StartOf(const AppWindow& app, const QString& objectName)
 QMap<QString, QPoint> StartsOfModes(const AppWindow& app)
 {
     QMap<QString, QPoint> starts;
-    for (const auto& [button, caption] : modes) {
+    for (const auto& [button, caption] : Modes) {
         starts[button] = StartOf(app, button);
         starts[caption] = StartOf(app, caption);
     }
@@ -152,7 +152,7 @@ private Q_SLOTS:
         WidgetTest::cleanup();
     }
 
-    void showsEverythingWhole_data() { AddRows({QSize(), smallSize}); }
+    void showsEverythingWhole_data() { AddRows({QSize(), SmallSize}); }
 
     void showsEverythingWhole()
     {
@@ -168,7 +168,7 @@ private Q_SLOTS:
         QVERIFY2(findings.Text().isEmpty(), qPrintable(findings.Text()));
     }
 
-    void showsWhatTabReaches_data() { AddRows({smallSize}); }
+    void showsWhatTabReaches_data() { AddRows({SmallSize}); }
 
     void showsWhatTabReaches()
     {
@@ -178,11 +178,11 @@ private Q_SLOTS:
             app.PageList()->setCurrentRow(page);
             QCOMPARE(HiddenStops(app).join(QLatin1Char('\n')), QString());
         }
-        app.Button(addButton)->click();
+        app.Button(AddButton)->click();
         QCOMPARE(HiddenStops(app).join(QLatin1Char('\n')), QString());
     }
 
-    void keepsModesInPlace_data() { AddRows({QSize(), smallSize}); }
+    void keepsModesInPlace_data() { AddRows({QSize(), SmallSize}); }
 
     void keepsModesInPlace()
     {
@@ -190,12 +190,12 @@ private Q_SLOTS:
         Open(app);
         const auto before = StartsOfModes(app);
         QStringList moved;
-        for (const auto& chosen : modes) {
+        for (const auto& chosen : Modes) {
             app.Button(chosen.first)->click();
             Settle();
             const auto after = StartsOfModes(app);
             bool isBelow = false;
-            for (const auto& [button, caption] : modes) {
+            for (const auto& [button, caption] : Modes) {
                 for (const QString& part : {button, caption}) {
                     const QPoint way = after[part] - before[part];
                     // Below the chosen mode stand its values.
@@ -209,17 +209,17 @@ private Q_SLOTS:
         QCOMPARE(moved.join(QLatin1Char(' ')), QString());
     }
 
-    void keepsTheFormInPlace_data() { AddRows({QSize(), smallSize}); }
+    void keepsTheFormInPlace_data() { AddRows({QSize(), SmallSize}); }
 
     void keepsTheFormInPlace()
     {
         const AppWindow app(1);
         Open(app);
-        app.Button(addButton)->click();
+        app.Button(AddButton)->click();
         Settle();
         const QWidget& form = *app.Find(Desktop::PanelPart::Form);
         const Places before = PlacesIn(form);
-        auto* name = app.Find<QLineEdit>(nameEdit);
+        auto* name = app.Find<QLineEdit>(NameEdit);
         const QString accepted = name->text();
         for (const QString& refused : {QString(), QStringLiteral("Task 1")}) {
             name->setText(refused);
@@ -228,8 +228,8 @@ private Q_SLOTS:
             name->setText(accepted);
             QCOMPARE(MovedSince(before, form), QString());
         }
-        auto* start = app.Find<QDateTimeEdit>(startEdit);
-        app.Find<QDateTimeEdit>(dateEdit)->setDate(QDate(2030, 3, 1));
+        auto* start = app.Find<QDateTimeEdit>(StartEdit);
+        app.Find<QDateTimeEdit>(DateEdit)->setDate(QDate(2030, 3, 1));
         start->setTime(QTime(1, 10));
         QVERIFY(IsMarked(*start));
         QCOMPARE(MovedSince(before, form), QString());
@@ -238,7 +238,7 @@ private Q_SLOTS:
         QCOMPARE(MovedSince(before, form), QString());
     }
 
-    void keepsTheFilesPageInPlace_data() { AddRows({QSize(), smallSize}); }
+    void keepsTheFilesPageInPlace_data() { AddRows({QSize(), SmallSize}); }
 
     void keepsTheFilesPageInPlace()
     {

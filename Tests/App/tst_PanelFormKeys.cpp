@@ -15,9 +15,9 @@
 namespace Zentor::Tests {
 namespace {
 
-const QString& addButton = Desktop::PanelPart::AddButton;
-const QString& nameEdit = Desktop::PanelPart::NameField;
-const QString& createButton = Desktop::PanelPart::CreateButton;
+const QString& AddButton = Desktop::PanelPart::AddButton;
+const QString& NameEdit = Desktop::PanelPart::NameField;
+const QString& CreateButton = Desktop::PanelPart::CreateButton;
 
 void NoteAnd(QMessageBox& box, QString& name, QMessageBox::StandardButton answer)
 {
@@ -56,13 +56,13 @@ private Q_SLOTS:
         QFETCH(int, key);
         const AppWindow app(1);
         QVERIFY(app.Show());
-        app.Focus(addButton);
+        app.Focus(AddButton);
         app.Press(static_cast<Qt::Key>(key));
         QVERIFY(app.IsFormOpen());
-        QCOMPARE(app.Focused(), nameEdit);
-        QVERIFY(!app.Find<QLineEdit>(nameEdit)->selectedText().isEmpty());
-        QCOMPARE(app.Find<QLineEdit>(nameEdit)->selectedText(),
-                 app.Find<QLineEdit>(nameEdit)->text());
+        QCOMPARE(app.Focused(), NameEdit);
+        QVERIFY(!app.Find<QLineEdit>(NameEdit)->selectedText().isEmpty());
+        QCOMPARE(app.Find<QLineEdit>(NameEdit)->selectedText(),
+                 app.Find<QLineEdit>(NameEdit)->text());
     }
 
     void doesNotStartAgainWhenTheFormIsOpen()
@@ -72,7 +72,7 @@ private Q_SLOTS:
         app.Press(Qt::Key_Insert);
         app.Type("Standup");
         app.Press(Qt::Key_Insert);
-        QCOMPARE(app.Find<QLineEdit>(nameEdit)->text(), QStringLiteral("Standup"));
+        QCOMPARE(app.Find<QLineEdit>(NameEdit)->text(), QStringLiteral("Standup"));
     }
 
     void createsTheTaskWithEnter_data()
@@ -80,13 +80,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("field");
         QTest::addColumn<int>("key");
         const std::pair<const char*, QString> fields[] = {
-            {"name", nameEdit},
+            {"name", NameEdit},
             {"date", Desktop::PanelPart::DateField},
             {"start", Desktop::PanelPart::StartField},
             {"duration", Desktop::PanelPart::DurationField},
             {"area", Desktop::PanelPart::SelectedAreaButton},
             {"action", Desktop::PanelPart::ActionBox},
-            {"button", createButton}};
+            {"button", CreateButton}};
         for (const auto& [row, field] : fields) {
             QTest::addRow("%s, Return", row) << field << int(Qt::Key_Return);
             QTest::addRow("%s, Enter", row) << field << int(Qt::Key_Enter);
@@ -106,7 +106,7 @@ private Q_SLOTS:
         app.Press(static_cast<Qt::Key>(key));
         QVERIFY(!app.IsFormOpen());
         QCOMPARE(app.Titles(), QStringLiteral("Standup,Task 1"));
-        QCOMPARE(app.Focused(), addButton);
+        QCOMPARE(app.Focused(), AddButton);
     }
 
     void createsWhatWasTypedIntoATimeEditor()
@@ -132,7 +132,7 @@ private Q_SLOTS:
         app.Press(Qt::Key_Return);
         QVERIFY(app.IsFormOpen());
         QCOMPARE(app.Titles(), QStringLiteral("Task 1"));
-        QCOMPARE(app.Focused(), nameEdit);
+        QCOMPARE(app.Focused(), NameEdit);
     }
 
     void createsOnceWhenEnterIsHeldDown()
@@ -156,7 +156,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("isOpen");
         QTest::addColumn<QString>("titles");
         for (const QString& field :
-             {nameEdit, Desktop::PanelPart::DateField, Desktop::PanelPart::StartField,
+             {NameEdit, Desktop::PanelPart::DateField, Desktop::PanelPart::StartField,
               Desktop::PanelPart::DurationField, Desktop::PanelPart::ActionBox}) {
             QTest::addRow("%s, add", qPrintable(field))
                 << field << QMessageBox::Yes << false << "New,Task 1";
@@ -185,7 +185,7 @@ private Q_SLOTS:
         QCOMPARE(asked, QStringLiteral("RecordSchedulerWidget_UnsavedRecordAlertBox"));
         QCOMPARE(app.IsFormOpen(), isOpen);
         QCOMPARE(app.Titles(), titles);
-        QCOMPARE(app.Focused(), isOpen ? field : addButton);
+        QCOMPARE(app.Focused(), isOpen ? field : AddButton);
     }
 
     void leavesEnterAndEscapeToPopups_data()

@@ -15,9 +15,9 @@
 namespace Zentor::Tests {
 namespace {
 
-const QString& addButton = Desktop::PanelPart::AddButton;
-const QString& nameEdit = Desktop::PanelPart::NameField;
-const QString& scheduleButton = Desktop::PanelPart::ScheduledModeButton;
+const QString& AddButton = Desktop::PanelPart::AddButton;
+const QString& NameEdit = Desktop::PanelPart::NameField;
+const QString& ScheduleButton = Desktop::PanelPart::ScheduledModeButton;
 
 } // namespace
 } // namespace Zentor::Tests
@@ -43,7 +43,7 @@ private Q_SLOTS:
         app.Focus("pageList");
         app.Press(Qt::Key_Insert);
         QVERIFY(app.IsFormOpen());
-        QCOMPARE(app.Focused(), nameEdit);
+        QCOMPARE(app.Focused(), NameEdit);
     }
 
     void opensNoFormWhereNoListIsShown_data()
@@ -52,7 +52,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("page");
         QTest::newRow("nothing") << Desktop::PanelPart::OffModeButton << 0;
         QTest::newRow("limited") << Desktop::PanelPart::LimitedModeButton << 0;
-        QTest::newRow("other page") << scheduleButton << 1;
+        QTest::newRow("other page") << ScheduleButton << 1;
     }
 
     void opensNoFormWhereNoListIsShown()
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QTest::addColumn<QMessageBox::StandardButton>("answer");
         QTest::addColumn<QString>("titles");
         QTest::addColumn<QString>("focused");
-        const auto& add = addButton;
+        const auto& add = AddButton;
         for (const auto& [name, key] :
              {std::pair("Delete", Qt::Key_Delete), std::pair("Space", Qt::Key_Space),
               std::pair("Return", Qt::Key_Return)}) {
@@ -136,7 +136,7 @@ private Q_SLOTS:
             app.window->activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(app.window.get()));
         }
-        QCOMPARE(app.Focused(), addButton);
+        QCOMPARE(app.Focused(), AddButton);
     }
 
     void leavesTheFocusInTheListWhenTheMouseDeletes()
@@ -155,7 +155,7 @@ private Q_SLOTS:
     {
         const AppWindow app(1);
         QVERIFY(app.Show());
-        for (const QString& name : {scheduleButton, Desktop::PanelPart::List, addButton}) {
+        for (const QString& name : {ScheduleButton, Desktop::PanelPart::List, AddButton}) {
             app.Focus(name);
             app.Press(Qt::Key_Delete);
             QCOMPARE(app.Titles(), QStringLiteral("Task 1"));
@@ -202,7 +202,7 @@ private Q_SLOTS:
             QCOMPARE(button->visibleRegion(), QRegion(button->rect()));
             app.Press(Qt::Key_Down);
         }
-        app.Focus(addButton);
+        app.Focus(AddButton);
         app.Press(Qt::Key_Backtab, Qt::ShiftModifier);
         QVERIFY(rows.constLast()->hasFocus());
         QCOMPARE(rows.constLast()->visibleRegion(), QRegion(rows.constLast()->rect()));
@@ -231,12 +231,12 @@ private Q_SLOTS:
         app.Type("Standup");
         app.Press(Qt::Key_Return);
         const QStringList expected{QStringLiteral("pageList"),
-                                   scheduleButton,
+                                   ScheduleButton,
                                    Desktop::PanelPart::List,
                                    QStringLiteral("Delete Standup"),
                                    QStringLiteral("Delete Task 1"),
                                    QStringLiteral("Delete Task 2"),
-                                   addButton,
+                                   AddButton,
                                    QStringLiteral("startRecordingButton")};
         QTRY_COMPARE(app.TabStops(), expected);
     }

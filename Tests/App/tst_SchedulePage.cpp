@@ -15,8 +15,8 @@
 namespace Zentor::Tests {
 namespace {
 
-const QString& addButton = Desktop::PanelPart::AddButton;
-const QString& scheduleButton = Desktop::PanelPart::ScheduledModeButton;
+const QString& AddButton = Desktop::PanelPart::AddButton;
+const QString& ScheduleButton = Desktop::PanelPart::ScheduledModeButton;
 
 } // namespace
 class tst_SchedulePage : public WidgetTest {
@@ -41,7 +41,7 @@ private Q_SLOTS:
             QVERIFY(app.Button(qPrintable(app.Focused()))->isChecked());
         }
         QCOMPARE(stops,
-                 (QStringList{Desktop::PanelPart::LimitedModeButton, scheduleButton,
+                 (QStringList{Desktop::PanelPart::LimitedModeButton, ScheduleButton,
                               Desktop::PanelPart::LimitedModeButton,
                               Desktop::PanelPart::OffModeButton}));
     }
@@ -52,27 +52,27 @@ private Q_SLOTS:
         QVERIFY(app.Show());
         app.Focus("pageList");
         app.Press(Qt::Key_Tab);
-        QCOMPARE(app.Focused(), scheduleButton);
+        QCOMPARE(app.Focused(), ScheduleButton);
     }
 
     void staysOnTheModeThatStays()
     {
         const AppWindow app(1);
         QVERIFY(app.Show());
-        app.Focus(scheduleButton);
+        app.Focus(ScheduleButton);
         {
             const ExpectedBox box(QMessageBox::Cancel);
             app.Press(Qt::Key_Up);
             QVERIFY(box.Came());
         }
-        QVERIFY(app.Button(scheduleButton)->isChecked());
-        QTRY_COMPARE(app.Focused(), scheduleButton);
+        QVERIFY(app.Button(ScheduleButton)->isChecked());
+        QTRY_COMPARE(app.Focused(), ScheduleButton);
         {
             const ExpectedBox box(QMessageBox::Cancel);
             QTest::mouseClick(app.Button(Desktop::PanelPart::OffModeButton), Qt::LeftButton);
             QVERIFY(box.Came());
         }
-        QTRY_COMPARE(app.Focused(), scheduleButton);
+        QTRY_COMPARE(app.Focused(), ScheduleButton);
     }
 
     void tabsInReadingOrder_data()
@@ -90,10 +90,10 @@ private Q_SLOTS:
                                     "limitedCaptureDurationSettingsActionOnFinishBox "
                                     "startRecordingButton";
         QTest::newRow("empty schedule")
-            << 0 << scheduleButton << false
+            << 0 << ScheduleButton << false
             << "pageList scheduledCaptureRadioButton recordTableScrollArea "
                "scheduledCaptureSettingsAddRecordButton startRecordingButton";
-        QTest::newRow("form") << 0 << scheduleButton << true
+        QTest::newRow("form") << 0 << ScheduleButton << true
                               << "pageList scheduledCaptureRadioButton "
                                  "scheduledCaptureSettingsNameLineEdit "
                                  "scheduledCaptureSettingsDate scheduledCaptureSettingsStartTime "
@@ -118,7 +118,7 @@ private Q_SLOTS:
         app.Button(qPrintable(mode))->click();
         app.PageList()->setCurrentRow(page);
         if (withForm) {
-            app.Button(addButton)->click();
+            app.Button(AddButton)->click();
         }
         QCOMPARE(app.TabStops().join(QLatin1Char(' ')), stops);
     }

@@ -83,7 +83,7 @@ QList<Rule> RulesOf(QString sheet)
 }
 
 /// Texts and what they lie on; a row for each place where the two come from different rules.
-const std::pair<const char*, const char*> textOnGround[] = {
+const std::pair<const char*, const char*> TextOnGround[] = {
     {"text", "window"},
     {"text", "sidebar"},
     {"text", "surface"},
@@ -103,7 +103,7 @@ const std::pair<const char*, const char*> textOnGround[] = {
 };
 
 /// Lines and shapes that have to be told from what they lie on.
-const std::pair<const char*, const char*> shapeOnGround[] = {
+const std::pair<const char*, const char*> ShapeOnGround[] = {
     {"border", "surface"}, {"border", "window"},     {"borderHover", "surface"},
     {"accent", "surface"}, {"accent", "accentSoft"}, {"accent", "dangerSoft"},
     {"danger", "surface"}, {"danger", "dangerSoft"},
@@ -218,13 +218,13 @@ private Q_SLOTS:
             const QString text = colors.value(QLatin1String(name));
             return QColor(text.isEmpty() ? QStringLiteral("invalid") : text);
         };
-        for (const auto& [text, ground] : textOnGround) {
+        for (const auto& [text, ground] : TextOnGround) {
             QVERIFY2(Contrast(color(text), color(ground)) >= 4.5,
                      qPrintable(QStringLiteral("%1 on %2: %3")
                                     .arg(QLatin1String(text), QLatin1String(ground))
                                     .arg(Contrast(color(text), color(ground)))));
         }
-        for (const auto& [shape, ground] : shapeOnGround) {
+        for (const auto& [shape, ground] : ShapeOnGround) {
             QVERIFY2(Contrast(color(shape), color(ground)) >= 3.0,
                      qPrintable(QStringLiteral("%1 on %2: %3")
                                     .arg(QLatin1String(shape), QLatin1String(ground))

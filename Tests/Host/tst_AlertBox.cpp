@@ -18,12 +18,12 @@ Q_DECLARE_METATYPE(Zentor::Util::AlertBox::Level)
 
 namespace {
 
-constexpr auto okCancel = QMessageBox::Ok | QMessageBox::Cancel;
-constexpr auto boxFlags = Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint;
+constexpr auto OkCancel = QMessageBox::Ok | QMessageBox::Cancel;
+constexpr auto BoxFlags = Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint;
 
 struct OkCancelBox : AlertBox {
     explicit OkCancelBox(QWidget* parent = nullptr)
-        : AlertBox(Information, {}, QStringLiteral("Sure?"), okCancel, parent, boxFlags)
+        : AlertBox(Information, {}, QStringLiteral("Sure?"), OkCancel, parent, BoxFlags)
     {
     }
 };
@@ -75,13 +75,13 @@ private Q_SLOTS:
     void levels()
     {
         QFETCH(AlertBox::Level, level);
-        const AlertBox box(level, QStringLiteral("Title"), QStringLiteral("Text"), okCancel,
-                           nullptr, boxFlags);
+        const AlertBox box(level, QStringLiteral("Title"), QStringLiteral("Text"), OkCancel,
+                           nullptr, BoxFlags);
         QTEST(int(level), "number");
         QTEST(box.icon(), "icon");
         QCOMPARE(box.windowTitle(), QStringLiteral("Title"));
         QCOMPARE(box.text(), QStringLiteral("Text"));
-        QCOMPARE(box.standardButtons(), okCancel);
+        QCOMPARE(box.standardButtons(), OkCancel);
         QVERIFY(box.windowFlags().testFlag(Qt::MSWindowsFixedSizeDialogHint));
     }
 
@@ -98,7 +98,7 @@ private Q_SLOTS:
         QFETCH(QMessageBox::StandardButton, button);
         QWidget window;
         AlertBox box(AlertBox::Question, {}, QStringLiteral("Add?"),
-                     QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, &window, boxFlags);
+                     QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, &window, BoxFlags);
         const ExpectedBox expected(button);
         QCOMPARE(box.Exec(), button);
         QVERIFY(expected.Came());
@@ -108,7 +108,7 @@ private Q_SLOTS:
     void answersWithNoStandardButton()
     {
         AlertBox box(AlertBox::Question, {}, QStringLiteral("Add?"), QMessageBox::Cancel, nullptr,
-                     boxFlags);
+                     BoxFlags);
         auto* other = box.addButton(QStringLiteral("Other"), QMessageBox::ActionRole);
         const ExpectedBox expected([other](QMessageBox&) { other->click(); });
         QCOMPARE(box.Exec(), QMessageBox::NoButton);
@@ -118,7 +118,7 @@ private Q_SLOTS:
     void leavingAnswersCancel_data()
     {
         QTest::addColumn<int>("buttons");
-        QTest::newRow("ok, cancel") << int(okCancel);
+        QTest::newRow("ok, cancel") << int(OkCancel);
         QTest::newRow("ok") << int(QMessageBox::Ok);
         QTest::newRow("yes, no") << int(QMessageBox::Yes | QMessageBox::No);
         QTest::newRow("yes") << int(QMessageBox::Yes);
@@ -135,7 +135,7 @@ private Q_SLOTS:
         };
         for (const auto& way : ways) {
             AlertBox box(AlertBox::Question, {}, QStringLiteral("?"),
-                         QMessageBox::StandardButtons(buttons), nullptr, boxFlags);
+                         QMessageBox::StandardButtons(buttons), nullptr, BoxFlags);
             const ExpectedBox expected(way);
             QCOMPARE(box.Exec(), QMessageBox::Cancel);
             QVERIFY(expected.Came());
@@ -235,7 +235,7 @@ private Q_SLOTS:
     void languageChange()
     {
         QFETCH(bool, whileOpen);
-        AlertBox box(AlertBox::Question, {}, QStringLiteral("?"), okCancel, nullptr, boxFlags);
+        AlertBox box(AlertBox::Question, {}, QStringLiteral("?"), OkCancel, nullptr, BoxFlags);
         auto* ok = box.button(QMessageBox::Ok);
         auto* cancel = box.button(QMessageBox::Cancel);
         ok->setText(QStringLiteral("Delete"));

@@ -7,7 +7,7 @@ using namespace Zentor;
 
 namespace {
 
-constexpr const char* subStyle = "SubStyle";
+constexpr const char* SubStyle = "SubStyle";
 
 /// Counts what a widget hears of a new style.
 class StyleEvents final : public QObject {
@@ -45,10 +45,10 @@ private Q_SLOTS:
         auto* label = new QLabel(QStringLiteral("text"), &window);
         window.show();
         QCOMPARE(label->palette().color(QPalette::WindowText), QColor(Qt::black));
-        Util::ApplyWidgetStyle(label, QStringLiteral("Hover"), subStyle);
-        QCOMPARE(label->property(subStyle).toString(), QStringLiteral("Hover"));
+        Util::ApplyWidgetStyle(label, QStringLiteral("Hover"), SubStyle);
+        QCOMPARE(label->property(SubStyle).toString(), QStringLiteral("Hover"));
         QCOMPARE(label->palette().color(QPalette::WindowText), QColor(Qt::red));
-        Util::ApplyWidgetStyle(label, QStringLiteral("Normal"), subStyle);
+        Util::ApplyWidgetStyle(label, QStringLiteral("Normal"), SubStyle);
         QCOMPARE(label->palette().color(QPalette::WindowText), QColor(Qt::black));
     }
 
@@ -59,14 +59,14 @@ private Q_SLOTS:
         auto* label = new QLabel(QStringLiteral("text"), &window);
         window.show();
         const QSize plain = label->sizeHint();
-        Util::ApplyWidgetStyle(label, QStringLiteral("Wide"), subStyle);
+        Util::ApplyWidgetStyle(label, QStringLiteral("Wide"), SubStyle);
         QLabel padded(label->text());
         padded.setStyleSheet(QStringLiteral("padding: 7px;"));
         padded.ensurePolished();
         QVERIFY(padded.sizeHint() != plain);
         QCOMPARE(label->sizeHint(), padded.sizeHint());
         QCOMPARE(label->contentsMargins(), padded.contentsMargins());
-        Util::ApplyWidgetStyle(label, QStringLiteral("Normal"), subStyle);
+        Util::ApplyWidgetStyle(label, QStringLiteral("Normal"), SubStyle);
         QCOMPARE(label->sizeHint(), plain);
     }
 
@@ -77,24 +77,24 @@ private Q_SLOTS:
         auto* label = new QLabel(QStringLiteral("text"), &window);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        Util::ApplyWidgetStyle(label, QStringLiteral("Hover"), subStyle);
+        Util::ApplyWidgetStyle(label, QStringLiteral("Hover"), SubStyle);
         QTRY_VERIFY(!label->testAttribute(Qt::WA_PendingUpdate));
         QCoreApplication::sendPostedEvents();
 
         const auto* events = new StyleEvents(label);
-        Util::ApplyWidgetStyle(label, QStringLiteral("Hover"), subStyle);
+        Util::ApplyWidgetStyle(label, QStringLiteral("Hover"), SubStyle);
         QCoreApplication::sendPostedEvents();
         QCOMPARE(events->count, 0);
-        Util::ApplyWidgetStyle(label, QStringLiteral("Normal"), subStyle);
+        Util::ApplyWidgetStyle(label, QStringLiteral("Normal"), SubStyle);
         QVERIFY(events->count > 0);
     }
 
     void firstEmptyStyleIsSet()
     {
         QWidget widget;
-        QVERIFY(!widget.property(subStyle).isValid());
-        Util::ApplyWidgetStyle(&widget, {}, subStyle);
-        QVERIFY(widget.property(subStyle).isValid());
+        QVERIFY(!widget.property(SubStyle).isValid());
+        Util::ApplyWidgetStyle(&widget, {}, SubStyle);
+        QVERIFY(widget.property(SubStyle).isValid());
     }
 };
 

@@ -15,7 +15,7 @@ Q_DECLARE_METATYPE(QMessageBox::StandardButton)
 
 namespace {
 
-constexpr auto okCancel = QMessageBox::Ok | QMessageBox::Cancel;
+constexpr auto OkCancel = QMessageBox::Ok | QMessageBox::Cancel;
 
 QString Id()
 {
@@ -23,7 +23,7 @@ QString Id()
 }
 
 struct Question {
-    explicit Question(QMessageBox::StandardButtons buttons = okCancel, QWidget* parent = nullptr)
+    explicit Question(QMessageBox::StandardButtons buttons = OkCancel, QWidget* parent = nullptr)
         : box(new ConfirmationAlertBox(manager, Util::AlertBox::Question, {},
                                        QStringLiteral("Sure?"), buttons, parent, Qt::Dialog))
     {
@@ -102,7 +102,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("buttons");
         QTest::addColumn<QMessageBox::StandardButton>("answer");
-        QTest::newRow("ok, cancel") << int(okCancel) << QMessageBox::Ok;
+        QTest::newRow("ok, cancel") << int(OkCancel) << QMessageBox::Ok;
         QTest::newRow("yes, no") << int(QMessageBox::Yes | QMessageBox::No) << QMessageBox::Yes;
         QTest::newRow("discard, save")
             << int(QMessageBox::Discard | QMessageBox::Save) << QMessageBox::Save;
@@ -151,7 +151,7 @@ private Q_SLOTS:
     {
         const auto manager = std::make_shared<Tests::FakeSettingsManager>();
         ConfirmationAlertBox box(manager, Util::AlertBox::Question, {}, QStringLiteral("?"),
-                                 okCancel, nullptr, Qt::Dialog);
+                                 OkCancel, nullptr, Qt::Dialog);
         box.SetConfirmationId(Id());
         const ExpectedBox expected(QMessageBox::Ok);
         QCOMPARE(box.Exec(), QMessageBox::Ok);
@@ -163,7 +163,7 @@ private Q_SLOTS:
     {
         auto* window = new QWidget;
         window->show();
-        const Question question(okCancel, window);
+        const Question question(OkCancel, window);
         const ExpectedBox expected([window](QMessageBox& box) {
             box.checkBox()->setChecked(true);
             delete window;

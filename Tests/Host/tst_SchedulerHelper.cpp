@@ -10,7 +10,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto longest = std::chrono::microseconds::max();
+constexpr auto Longest = std::chrono::microseconds::max();
 
 QStringList Titles(const PX::SchedulerHelper& schedule)
 {
@@ -229,10 +229,10 @@ private Q_SLOTS:
     {
         using TimePoint = Time::IClock::time_point;
         PX::SchedulerHelper schedule;
-        QCOMPARE(schedule.AddRecord(Record("endless", "12:00", longest)), 0);
-        QVERIFY(schedule.DoesCaptureTimeIntersected(Record({}, TimePoint::max() - 1s, longest)));
+        QCOMPARE(schedule.AddRecord(Record("endless", "12:00", Longest)), 0);
+        QVERIFY(schedule.DoesCaptureTimeIntersected(Record({}, TimePoint::max() - 1s, Longest)));
         QVERIFY(!schedule.DoesCaptureTimeIntersected(Record({}, TimePoint::min(), 1h)));
-        QVERIFY(schedule.DoesCaptureTimeIntersected(Record({}, At("11:00"), longest)));
+        QVERIFY(schedule.DoesCaptureTimeIntersected(Record({}, At("11:00"), Longest)));
         QCOMPARE(schedule.AddRecord(Record(QStringLiteral("first"), TimePoint::min(), 1h)), 0);
     }
 

@@ -27,8 +27,8 @@ using PX::UserSettings;
 namespace {
 
 // What this program does as the other process, when it is started with one of these.
-constexpr const char* saveMany = "--save-many";
-constexpr const char* holdFile = "--hold-file";
+constexpr const char* SaveManyOption = "--save-many";
+constexpr const char* HoldFileOption = "--hold-file";
 
 /// Collects the log lines of the store.
 class Log final : public google::LogSink {
@@ -112,15 +112,15 @@ public:
     {
         const uid_t user = geteuid();
         const bool isOwner = seteuid(getuid()) == 0;
-        return QFile::setPermissions(m_folder.path(), everything) && isOwner && seteuid(user) == 0;
+        return QFile::setPermissions(m_folder.path(), Everything) && isOwner && seteuid(user) == 0;
     }
 
-    ~Place() { QFile::setPermissions(m_folder.path(), everything); }
+    ~Place() { QFile::setPermissions(m_folder.path(), Everything); }
 
-    static constexpr QFile::Permissions reading = QFile::ReadOwner | QFile::ExeOwner
+    static constexpr QFile::Permissions Reading = QFile::ReadOwner | QFile::ExeOwner
         | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
-    static constexpr QFile::Permissions everything =
-        reading | QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    static constexpr QFile::Permissions Everything =
+        Reading | QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
 
 private:
     QTemporaryDir m_folder;
@@ -180,7 +180,7 @@ void SetPage(SettingsStore& store, const QString& page)
     store.Change([&page](UserSettings& settings) { SetFields(settings, page, {}); });
 }
 
-/// Settings in which everything tells the same number.
+/// Settings in which Everything tells the same number.
 UserSettings State(int number)
 {
     UserSettings settings;
@@ -431,7 +431,7 @@ private Q_SLOTS:
     {
         const Place place;
         QVERIFY(place.Write("{\"version\": 1}"));
-        QVERIFY(place.Protect(Place::everything, {}));
+        QVERIFY(place.Protect(Place::Everything, {}));
         const OrdinaryUser user;
         QVERIFY(user.IsOrdinary());
         const QString error = OpenError(place.Path());
@@ -476,7 +476,7 @@ private Q_SLOTS:
     {
         const Place place;
         QVERIFY(place.Write("{\"version\": 1, \"appearance\": {\"page\": \"old\"}}"));
-        QVERIFY(place.Protect(Place::reading, Place::reading));
+        QVERIFY(place.Protect(Place::Reading, Place::Reading));
         const OrdinaryUser user;
         QVERIFY(user.IsOrdinary());
 
@@ -502,7 +502,7 @@ private Q_SLOTS:
         const Place place;
         const QByteArray damaged = "{\"version\": 1, \"appearance\": {\"page\": \"ol";
         QVERIFY(place.Write(damaged));
-        QVERIFY(place.Protect(Place::reading, Place::reading));
+        QVERIFY(place.Protect(Place::Reading, Place::Reading));
         const OrdinaryUser user;
         QVERIFY(user.IsOrdinary());
         {
@@ -714,7 +714,7 @@ private Q_SLOTS:
         QCOMPARE(utime(lock.constData(), &longAgo), 0);
         const QString error = OpenError(place.Path());
         QVERIFY2(error.contains(place.Path()), qPrintable(error));
-        OtherProcess other(holdFile, place.Path());
+        OtherProcess other(HoldFileOption, place.Path());
         QCOMPARE(other.ReadLine(), QByteArray("refused"));
     }
 
@@ -809,7 +809,7 @@ private Q_SLOTS:
     void fileOfAnotherProcessIsRefused()
     {
         const Place place;
-        OtherProcess other(holdFile, place.Path());
+        OtherProcess other(HoldFileOption, place.Path());
         QCOMPARE(other.ReadLine(), QByteArray("open"));
         const QString error = OpenError(place.Path());
         QVERIFY2(error.contains(place.Path()), qPrintable(error));
@@ -821,7 +821,7 @@ private Q_SLOTS:
     {
         const Place place;
         QVERIFY(place.Write("{\"version\": 1}"));
-        QVERIFY(place.Protect(Place::everything, Place::reading));
+        QVERIFY(place.Protect(Place::Everything, Place::Reading));
         const OrdinaryUser user;
         QVERIFY(user.IsOrdinary());
         SettingsStore store(place.Path());
@@ -1032,7 +1032,7 @@ private Q_SLOTS:
         QFETCH(bool, isChanged);
         const Place place;
         QVERIFY(place.Write("{\"version\": 1}"));
-        QVERIFY(place.Protect(Place::reading, Place::everything));
+        QVERIFY(place.Protect(Place::Reading, Place::Everything));
         const OrdinaryUser user;
         QVERIFY(user.IsOrdinary());
         SettingsStore store(place.Path());
@@ -1051,7 +1051,7 @@ private Q_SLOTS:
     {
         const Place place;
         QVERIFY(place.Write("{\"version\": 1}"));
-        QVERIFY(place.Protect(Place::reading, Place::everything));
+        QVERIFY(place.Protect(Place::Reading, Place::Everything));
         std::optional<SettingsStore> store;
         {
             const OrdinaryUser user;
@@ -1235,7 +1235,7 @@ private Q_SLOTS:
     {
         const Place place;
         for (int round = 0; round < 20; ++round) {
-            OtherProcess other(saveMany, place.Path());
+            OtherProcess other(SaveManyOption, place.Path());
             int number = -1;
             // Every round is killed at another moment of another save.
             for (int line = 0; line <= round * 3; ++line) {
@@ -1265,10 +1265,10 @@ int main(int argc, char** argv)
     const TestEnvironment environment;
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == QLatin1String(saveMany)) {
+    if (arguments.value(1) == QLatin1String(SaveManyOption)) {
         return SaveMany(arguments.value(2));
     }
-    if (arguments.value(1) == QLatin1String(holdFile)) {
+    if (arguments.value(1) == QLatin1String(HoldFileOption)) {
         return HoldFile(arguments.value(2));
     }
     tst_SettingsStore test;

@@ -133,7 +133,7 @@ QWidget* FirstDeleteButton(const Scene& scene)
     return scene.DeleteButton(0);
 }
 
-const Question leaveSchedule{
+const Question LeaveSchedule{
     "leaving the schedule",
     [](Scene&) {},
     [](const Scene& scene) -> QWidget* { return scene.panel.Limited(); },
@@ -151,7 +151,7 @@ const Question leaveSchedule{
     "scheduled+stack  table",
 };
 
-const Question deleteTask{
+const Question DeleteTask{
     "deleting a task",
     [](Scene&) {},
     FirstDeleteButton,
@@ -165,7 +165,7 @@ const Question deleteTask{
     "scheduled+stack B table",
 };
 
-const Question unsavedTask{
+const Question UnsavedTask{
     "unsaved task",
     [](Scene& scene) { scene.panel.FillForm(QStringLiteral("C"), QTime(12, 0)); },
     BackButton,
@@ -179,7 +179,7 @@ const Question unsavedTask{
     "scheduled+stack A,B,C table",
 };
 
-const Question diskSpace{
+const Question DiskSpace{
     "disk space",
     [](Scene&) { s_freeBytes = 0; },
     StartButton,
@@ -247,7 +247,7 @@ void AskAgain(Scene& scene, const Question& question, QMessageBox& box)
     Expect(scene, again.Came() && isAnother, "not asked again");
 }
 
-const Disturbance disturbances[] = {
+const Disturbance Disturbances[] = {
     {"panel deleted", [](Scene& scene, const Question&, QMessageBox&) { delete scene.widget; },
      true},
     {"window deleted",
@@ -328,8 +328,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("moment");
         QTest::addColumn<QString>("input");
         QTest::addColumn<bool>("accept");
-        for (const auto* question : {&leaveSchedule, &deleteTask, &unsavedTask, &diskSpace}) {
-            for (const auto& disturbance : disturbances) {
+        for (const auto* question : {&LeaveSchedule, &DeleteTask, &UnsavedTask, &DiskSpace}) {
+            for (const auto& disturbance : Disturbances) {
                 AddRows(*question, disturbance);
             }
         }

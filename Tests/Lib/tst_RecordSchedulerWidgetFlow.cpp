@@ -141,10 +141,10 @@ bool IsInvalid(const QWidget* field)
     return field->property("SubStyle").toString() == QLatin1String("Invalid");
 }
 
-const QStringList threeTasks{"Alpha 01.03.2030 10:00:00 00:30:00",
+const QStringList ThreeTasks{"Alpha 01.03.2030 10:00:00 00:30:00",
                              "Gamma 01.03.2030 11:00:00 01:00:00",
                              "Beta 01.03.2030 12:00:00 00:00:05"};
-const QStringList twoTasks{threeTasks.at(0), threeTasks.at(2)};
+const QStringList TwoTasks{ThreeTasks.at(0), ThreeTasks.at(2)};
 
 } // namespace
 
@@ -204,13 +204,13 @@ private:
         session.AddTask("Alpha", "100000", "003000");
         session.AddTask("Beta", "120000", "000005");
         session.AddTask("Gamma", "110000", "010000");
-        QCOMPARE(session.Rows(), threeTasks);
+        QCOMPARE(session.Rows(), ThreeTasks);
     }
 
     void TryADuplicate(const Session& session)
     {
         QCOMPARE(session.panel.Mode(), QString("scheduled+stack"));
-        QCOMPARE(session.Rows(), threeTasks);
+        QCOMPARE(session.Rows(), ThreeTasks);
         LanguageSwitch language;
         session.EnterTask("Alpha", "150000", "000100");
         QVERIFY(IsInvalid(session.panel.Name()));
@@ -227,7 +227,7 @@ private:
         UserInput::Click(session.panel.Back());
         QVERIFY(box.Came());
         QVERIFY(!session.panel.IsFormOpen());
-        QCOMPARE(session.Rows(), threeTasks);
+        QCOMPARE(session.Rows(), ThreeTasks);
     }
 
     void TryAnOverlap(const Session& session)
@@ -245,7 +245,7 @@ private:
         const ExpectedBox box(ByMouse(QMessageBox::No));
         UserInput::Click(session.panel.Back());
         QVERIFY(box.Came());
-        QCOMPARE(session.Rows(), threeTasks);
+        QCOMPARE(session.Rows(), ThreeTasks);
     }
 
     void DeleteTheSecond(const Session& session)
@@ -255,12 +255,12 @@ private:
             session.DeleteTask(1);
             QVERIFY(box.Came());
         }
-        QCOMPARE(session.Rows(), threeTasks);
+        QCOMPARE(session.Rows(), ThreeTasks);
         const ExpectedBox box(ByMouse(QMessageBox::Ok));
         session.DeleteTask(1);
         QVERIFY(box.Came());
         QCoreApplication::sendPostedEvents();
-        QCOMPARE(session.Rows(), twoTasks);
+        QCOMPARE(session.Rows(), TwoTasks);
     }
 
     void RefuseToLeave(const Session& session)
@@ -269,7 +269,7 @@ private:
         UserInput::Click(session.panel.Limited());
         QVERIFY(box.Came());
         QCOMPARE(session.panel.Mode(), QString("scheduled+stack"));
-        QCOMPARE(session.Rows(), twoTasks);
+        QCOMPARE(session.Rows(), TwoTasks);
     }
 
     void Leave(const Session& session)

@@ -80,15 +80,15 @@ QString Verdict(const Panel& panel)
     return marks.join(QLatin1String(", "));
 }
 
-const QString emptyName = QStringLiteral("name: Need select task name");
-const QString duplicate = QStringLiteral("name: Task with this title already exist");
-const QString overlap =
+const QString EmptyName = QStringLiteral("name: Need select task name");
+const QString Duplicate = QStringLiteral("name: Task with this title already exist");
+const QString Overlap =
     QStringLiteral("start: Curent capture time intersect with other capture time in the list");
-const QString fine = QStringLiteral("fine");
+const QString Fine = QStringLiteral("fine");
 
-const QString unsavedText = QStringLiteral(
+const QString UnsavedText = QStringLiteral(
     "The task hasn't been saved. Would you like to add this task to the recording schedule?");
-const QString diskText = QStringLiteral(
+const QString DiskText = QStringLiteral(
     "Could not start recording because there is not enough disk space. Free more disk space and "
     "try again. Or set a different disk drive for storing output videos in "
     "<a href='pxz://ShowSettingsDialog/Files'>File Preferences</a>. ");
@@ -118,7 +118,7 @@ private Q_SLOTS:
         QVERIFY(panel.Form()->IsFullScreen());
         QCOMPARE(nameChanges.count(), 0);
         QVERIFY(!panel.Form()->signalsBlocked());
-        QCOMPARE(Verdict(panel), fine);
+        QCOMPARE(Verdict(panel), Fine);
         QCOMPARE(panel.watcher->TakeCalls(), QStringList());
     }
 
@@ -130,9 +130,9 @@ private Q_SLOTS:
         panel.Add()->click();
         QVERIFY(panel.IsFormOpen());
         QCOMPARE(panel.Name()->text(), QString());
-        QCOMPARE(Verdict(panel), emptyName);
+        QCOMPARE(Verdict(panel), EmptyName);
         QTest::keyClicks(panel.Name(), QStringLiteral("x"));
-        QCOMPARE(Verdict(panel), fine);
+        QCOMPARE(Verdict(panel), Fine);
     }
 
     void validates_data()
@@ -144,23 +144,23 @@ private Q_SLOTS:
         // Scheduled are A from 10:00 and B from 11:00, for a minute each.
         const QTime free(12, 0);
         const QTime minute(0, 1);
-        QTest::newRow("valid") << "C" << free << minute << fine;
-        QTest::newRow("empty") << "" << free << minute << emptyName;
-        QTest::newRow("blanks") << "   " << free << minute << emptyName;
-        QTest::newRow("empty comes before overlap") << " " << QTime(10, 0) << minute << emptyName;
-        QTest::newRow("duplicate in a free span") << "A" << free << minute << duplicate;
-        QTest::newRow("duplicate with blanks around") << " A " << free << minute << duplicate;
+        QTest::newRow("valid") << "C" << free << minute << Fine;
+        QTest::newRow("empty") << "" << free << minute << EmptyName;
+        QTest::newRow("blanks") << "   " << free << minute << EmptyName;
+        QTest::newRow("empty comes before overlap") << " " << QTime(10, 0) << minute << EmptyName;
+        QTest::newRow("duplicate in a free span") << "A" << free << minute << Duplicate;
+        QTest::newRow("duplicate with blanks around") << " A " << free << minute << Duplicate;
         QTest::newRow("duplicate comes before overlap")
-            << "A" << QTime(11, 0) << minute << duplicate;
-        QTest::newRow("other case is another title") << "a" << free << minute << fine;
-        QTest::newRow("overlap") << "C" << QTime(10, 0, 30) << minute << overlap;
-        QTest::newRow("same start") << "C" << QTime(10, 0) << minute << overlap;
-        QTest::newRow("contains") << "C" << QTime(9, 0) << QTime(4, 0) << overlap;
-        QTest::newRow("ends when another starts") << "C" << QTime(9, 59) << minute << fine;
-        QTest::newRow("ends a second later") << "C" << QTime(9, 59) << QTime(0, 1, 1) << overlap;
-        QTest::newRow("starts when another ends") << "C" << QTime(10, 1) << minute << fine;
+            << "A" << QTime(11, 0) << minute << Duplicate;
+        QTest::newRow("other case is another title") << "a" << free << minute << Fine;
+        QTest::newRow("overlap") << "C" << QTime(10, 0, 30) << minute << Overlap;
+        QTest::newRow("same start") << "C" << QTime(10, 0) << minute << Overlap;
+        QTest::newRow("contains") << "C" << QTime(9, 0) << QTime(4, 0) << Overlap;
+        QTest::newRow("ends when another starts") << "C" << QTime(9, 59) << minute << Fine;
+        QTest::newRow("ends a second later") << "C" << QTime(9, 59) << QTime(0, 1, 1) << Overlap;
+        QTest::newRow("starts when another ends") << "C" << QTime(10, 1) << minute << Fine;
         QTest::newRow("milliseconds are dropped")
-            << "C" << QTime(10, 0, 59, 999) << minute << overlap;
+            << "C" << QTime(10, 0, 59, 999) << minute << Overlap;
     }
 
     void validates()
@@ -182,23 +182,23 @@ private Q_SLOTS:
         panel.RestoreScheduled({"A"});
         panel.window->show();
         panel.FillForm(QStringLiteral("C"), QTime(12, 0));
-        QCOMPARE(Verdict(panel), fine);
+        QCOMPARE(Verdict(panel), Fine);
         panel.Name()->setText(QStringLiteral("A"));
-        QCOMPARE(Verdict(panel), duplicate);
+        QCOMPARE(Verdict(panel), Duplicate);
         panel.Name()->setText(QStringLiteral("B"));
-        QCOMPARE(Verdict(panel), fine);
+        QCOMPARE(Verdict(panel), Fine);
         panel.StartTime()->setTime(QTime(10, 0));
-        QCOMPARE(Verdict(panel), overlap);
+        QCOMPARE(Verdict(panel), Overlap);
         panel.Date()->setDate(QDate(2030, 3, 2));
-        QCOMPARE(Verdict(panel), fine);
+        QCOMPARE(Verdict(panel), Fine);
         panel.Date()->setDate(QDate(2030, 3, 1));
-        QCOMPARE(Verdict(panel), overlap);
+        QCOMPARE(Verdict(panel), Overlap);
         panel.StartTime()->setTime(QTime(9, 0));
-        QCOMPARE(Verdict(panel), fine);
+        QCOMPARE(Verdict(panel), Fine);
         panel.FormDuration()->setTime(QTime(1, 0, 1));
-        QCOMPARE(Verdict(panel), overlap);
+        QCOMPARE(Verdict(panel), Overlap);
         panel.FormDuration()->setTime(QTime(1, 0));
-        QCOMPARE(Verdict(panel), fine);
+        QCOMPARE(Verdict(panel), Fine);
     }
 
     void judgesAgainWhenTheFormComesBack()
@@ -207,13 +207,13 @@ private Q_SLOTS:
         panel.RestoreScheduled({"A"});
         panel.window->show();
         panel.FillForm(QStringLiteral("A"), QTime(12, 0));
-        QCOMPARE(Verdict(panel), duplicate);
+        QCOMPARE(Verdict(panel), Duplicate);
         const ExpectedBox box(QMessageBox::Ok);
         panel.Limited()->click();
         QVERIFY(box.Came());
         panel.Scheduled()->click();
         QVERIFY(panel.IsFormOpen());
-        QCOMPARE(Verdict(panel), fine);
+        QCOMPARE(Verdict(panel), Fine);
     }
 
     void schedulesATask_data()
@@ -259,7 +259,7 @@ private Q_SLOTS:
         const QSignalBlocker noClamp(panel.FormDuration());
         panel.FormDuration()->setTime(QTime(0, 0));
         Q_EMIT panel.Form()->TaskNameChanged();
-        QCOMPARE(Verdict(panel), fine);
+        QCOMPARE(Verdict(panel), Fine);
         panel.Create()->click();
         QVERIFY(panel.Table()->GetPreparedSchedule().at(1).duration
                 == std::chrono::microseconds::zero());
@@ -311,7 +311,7 @@ private Q_SLOTS:
         panel.FillForm(QStringLiteral("B"), QTime(12, 0));
         ExpectedBox box([&](QMessageBox& question) {
             QCOMPARE(question.objectName(), QString("RecordSchedulerWidget_UnsavedRecordAlertBox"));
-            QCOMPARE(question.text(), unsavedText);
+            QCOMPARE(question.text(), UnsavedText);
             QCOMPARE(question.windowTitle(), QString());
             QCOMPARE(question.standardButtons(),
                      QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
@@ -375,7 +375,7 @@ private Q_SLOTS:
         panel.RestoreScheduled({"A"});
         panel.window->show();
         panel.FillForm(QStringLiteral("B"), QTime(12, 0));
-        QCOMPARE(Verdict(panel), fine);
+        QCOMPARE(Verdict(panel), Fine);
         ExpectedBox box([&](QMessageBox& question) {
             panel.Table()->AddRecord(Record("B", "15:00"));
             question.button(QMessageBox::Yes)->click();
@@ -383,7 +383,7 @@ private Q_SLOTS:
         QVERIFY(!panel.widget->ValidateSettings());
         QVERIFY(box.Came());
         QVERIFY(panel.IsFormOpen());
-        QCOMPARE(Verdict(panel), duplicate);
+        QCOMPARE(Verdict(panel), Duplicate);
         QCOMPARE(TheDisk().queriedPaths, QStringList());
     }
 
@@ -466,7 +466,7 @@ private Q_SLOTS:
         panel.RestoreScheduled({"A"});
         TheDisk().freeBytes = 0;
         ExpectedBox box([&](QMessageBox& alert) {
-            QCOMPARE(alert.text(), diskText);
+            QCOMPARE(alert.text(), DiskText);
             QCOMPARE(alert.windowTitle(), QString());
             QCOMPARE(alert.standardButtons(), QMessageBox::Ok | QMessageBox::Cancel);
             QCOMPARE(alert.button(QMessageBox::Ok)->text(), QString("File Preferences"));

@@ -86,7 +86,7 @@ void EnterATask(const Scene& scene)
     }
 }
 
-const Question questions[] = {
+const Question Questions[] = {
     {"leave",
      [](const Scene& scene) {
          scene.panel.Scheduled()->setChecked(true);
@@ -118,7 +118,7 @@ struct Event {
 
 using OpenBoxes = std::vector<QPointer<QMessageBox>>;
 
-const Event events[] = {
+const Event Events[] = {
     {"nothing", [](Scene&, const OpenBoxes&) {}},
     {"panel deleted", [](Scene& scene, const OpenBoxes&) { delete scene.widget; }, true},
     {"window deleted", [](Scene& scene, const OpenBoxes&) { scene.panel.window.reset(); }, true},
@@ -148,7 +148,7 @@ QAbstractButton* AcceptingButton(const QMessageBox& box)
     return yes != nullptr ? yes : box.button(QMessageBox::Ok);
 }
 
-/// Asks questions on top of each other, then lets something happen, then answers those still open
+/// Asks Questions on top of each other, then lets something happen, then answers those still open
 /// from the last to the first.
 class Stack {
 public:
@@ -231,7 +231,7 @@ private Q_SLOTS:
             for (const auto* question : stacked) {
                 names << question->name;
             }
-            for (const auto& event : events) {
+            for (const auto& event : Events) {
                 for (const bool accept : {false, true}) {
                     if (accept && event.endsAll) {
                         continue;
@@ -242,14 +242,14 @@ private Q_SLOTS:
                 }
             }
         };
-        constexpr std::size_t count = std::size(questions);
+        constexpr std::size_t count = std::size(Questions);
         for (std::size_t i = 0; i < count; ++i) {
-            for (const auto& second : questions) {
-                add({&questions[i], &second});
+            for (const auto& second : Questions) {
+                add({&Questions[i], &second});
             }
-            add({&questions[i], &questions[i], &questions[i]});
-            add({&questions[i], &questions[(i + 1) % count], &questions[i]});
-            add({&questions[i], &questions[(i + 2) % count], &questions[(i + 4) % count]});
+            add({&Questions[i], &Questions[i], &Questions[i]});
+            add({&Questions[i], &Questions[(i + 1) % count], &Questions[i]});
+            add({&Questions[i], &Questions[(i + 2) % count], &Questions[(i + 4) % count]});
         }
     }
 

@@ -18,16 +18,16 @@
 namespace Zentor::Tests {
 namespace {
 
-const QString& nothingButton = Desktop::PanelPart::OffModeButton;
-const QString& limitedButton = Desktop::PanelPart::LimitedModeButton;
-const QString& scheduleButton = Desktop::PanelPart::ScheduledModeButton;
-const QString& addButton = Desktop::PanelPart::AddButton;
-const QString& nameEdit = Desktop::PanelPart::NameField;
-const QString& startEdit = Desktop::PanelPart::StartField;
-constexpr const char* folderEdit = "resultsFolderEdit";
+const QString& NothingButton = Desktop::PanelPart::OffModeButton;
+const QString& LimitedButton = Desktop::PanelPart::LimitedModeButton;
+const QString& ScheduleButton = Desktop::PanelPart::ScheduledModeButton;
+const QString& AddButton = Desktop::PanelPart::AddButton;
+const QString& NameEdit = Desktop::PanelPart::NameField;
+const QString& StartEdit = Desktop::PanelPart::StartField;
+constexpr const char* FolderEdit = "resultsFolderEdit";
 
 /// More than the list shows without scrolling.
-constexpr int manyTasks = 8;
+constexpr int ManyTasks = 8;
 
 QString LongTitle()
 {
@@ -135,7 +135,7 @@ public:
 
     void EnterFolder(const QString& folder) const
     {
-        auto* edit = Find<QLineEdit>(folderEdit);
+        auto* edit = Find<QLineEdit>(FolderEdit);
         edit->setText(folder);
         Q_EMIT edit->editingFinished();
     }
@@ -179,15 +179,15 @@ void ShowPages(const Stage& stage)
 
 void ShowModes(const Stage& stage)
 {
-    stage.Click(limitedButton);
+    stage.Click(LimitedButton);
     stage.Show(QStringLiteral("limited duration"),
                stage.App().Find(Desktop::PanelPart::LimitedSettings)->isVisible());
     ShowListsOfPage(stage, QStringLiteral("limited duration"));
-    stage.Click(scheduleButton);
+    stage.Click(ScheduleButton);
     stage.Show(QStringLiteral("empty schedule"),
                stage.App().Find(Desktop::PanelPart::PlaceholderRow)->isVisible());
-    stage.Click(nothingButton);
-    stage.Show(QStringLiteral("nothing scheduled"), stage.App().Button(nothingButton)->isChecked());
+    stage.Click(NothingButton);
+    stage.Show(QStringLiteral("nothing scheduled"), stage.App().Button(NothingButton)->isChecked());
 }
 
 void ShowFolderProblems(const Stage& stage)
@@ -203,7 +203,7 @@ void ShowFolderProblems(const Stage& stage)
         stage.Show(QLatin1String(scene), stage.App().Find("folderProblemLabel")->isVisible());
     }
     stage.EnterFolder(stage.App().folder.filePath(QStringLiteral("not yet")));
-    stage.Show(QStringLiteral("folder that will be created"), !stage.IsMarked(folderEdit));
+    stage.Show(QStringLiteral("folder that will be created"), !stage.IsMarked(FolderEdit));
     stage.EnterFolder(stage.App().folder.path());
     stage.ShowPage(0);
 }
@@ -263,15 +263,15 @@ void ShowScreens(const Stage& stage)
 
 void ShowForm(const Stage& stage)
 {
-    stage.Click(scheduleButton);
-    stage.Click(addButton);
+    stage.Click(ScheduleButton);
+    stage.Click(AddButton);
     stage.Show(QStringLiteral("form"), stage.App().IsFormOpen());
     ShowAreaTip(stage);
     ShowCalendar(stage);
     ShowListsOfPage(stage, QStringLiteral("form"));
     ShowScreens(stage);
-    stage.Find<QLineEdit>(nameEdit)->clear();
-    stage.Show(QStringLiteral("form without name"), stage.IsMarked(nameEdit));
+    stage.Find<QLineEdit>(NameEdit)->clear();
+    stage.Show(QStringLiteral("form without name"), stage.IsMarked(NameEdit));
     stage.ClickInBox(Desktop::PanelPart::BackButton, QMessageBox::No);
 }
 
@@ -315,16 +315,16 @@ void ShowClosingQuestion(const Stage& stage)
 
 void ShowRefusedTasks(const Stage& stage)
 {
-    stage.Click(addButton);
-    stage.Find<QLineEdit>(nameEdit)->setText(QStringLiteral("Task 1"));
-    stage.Show(QStringLiteral("form with a name that is taken"), stage.IsMarked(nameEdit));
-    stage.Find<QLineEdit>(nameEdit)->setText(LongTitle());
+    stage.Click(AddButton);
+    stage.Find<QLineEdit>(NameEdit)->setText(QStringLiteral("Task 1"));
+    stage.Show(QStringLiteral("form with a name that is taken"), stage.IsMarked(NameEdit));
+    stage.Find<QLineEdit>(NameEdit)->setText(LongTitle());
     stage.Find<QDateTimeEdit>(Desktop::PanelPart::DateField)->setDate(QDate(2030, 3, 1));
-    auto* start = stage.Find<QTimeEdit>(startEdit);
+    auto* start = stage.Find<QTimeEdit>(StartEdit);
     start->setTime(QTime(1, 10));
-    stage.Show(QStringLiteral("form with a time that is taken"), stage.IsMarked(startEdit));
+    stage.Show(QStringLiteral("form with a time that is taken"), stage.IsMarked(StartEdit));
     start->setTime(QTime(20, 0));
-    stage.Show(QStringLiteral("form without problem"), !stage.IsMarked(startEdit));
+    stage.Show(QStringLiteral("form without problem"), !stage.IsMarked(StartEdit));
     stage.ShowBox(QStringLiteral("question about an unsaved task"), QMessageBox::Yes,
                   [&] { stage.Click(Desktop::PanelPart::BackButton); });
     stage.Show(QStringLiteral("long title"), stage.App().Titles().endsWith(LongTitle()));
@@ -347,11 +347,11 @@ void ShowSchedule(const Stage& stage)
     ShowRefusedTasks(stage);
     ShowRecordingStart(stage);
     stage.ShowBox(QStringLiteral("question about leaving the schedule"), QMessageBox::Cancel,
-                  [&] { stage.Click(nothingButton); });
+                  [&] { stage.Click(NothingButton); });
     stage.ShowBox(QStringLiteral("question about deleting"), QMessageBox::Ok,
                   [&] { stage.Click(Desktop::PanelPart::RowDeleteButton); });
     stage.Show(QStringLiteral("deleted task"), !stage.App().StatusText().isEmpty());
-    stage.ClickInBox(nothingButton, QMessageBox::Ok);
+    stage.ClickInBox(NothingButton, QMessageBox::Ok);
     stage.Show(QStringLiteral("deleted schedule"), stage.App().Titles().isEmpty());
 }
 
@@ -390,7 +390,7 @@ void VisitAppScenes(const QSize& size, const SceneVisitor& visit)
                            {ShowPages, ShowModes, ShowFolderProblems, ShowGeneralPage, ShowForm,
                             ShowSaveProblems, ShowNotices, ShowClosingQuestion}},
                           {2, {ShowSchedule}},
-                          {manyTasks, {ShowLongSchedule}}};
+                          {ManyTasks, {ShowLongSchedule}}};
     for (const Part& part : parts) {
         const Stage stage(part.taskCount, size, visit);
         for (const Play play : part.plays) {
@@ -406,7 +406,7 @@ QStringList TextsOfTheUser(const AppWindow& app)
 {
     QStringList texts{app.folder.filePath(QStringLiteral("settings.json")), app.folder.path(),
                       LongTitle(), SecondScreen(), ReasonNotToSave()};
-    for (int number = 1; number <= manyTasks; ++number) {
+    for (int number = 1; number <= ManyTasks; ++number) {
         texts << QStringLiteral("Task %1").arg(number);
     }
     const auto screens = QGuiApplication::screens();

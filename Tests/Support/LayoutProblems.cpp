@@ -34,7 +34,7 @@ struct TextRoom {
 using TextRooms = std::vector<TextRoom>;
 
 /// What a line edit keeps free on each side of its text.
-constexpr int lineEditMargin = 2;
+constexpr int LineEditMargin = 2;
 
 QString NameOf(const QWidget& widget)
 {
@@ -170,14 +170,14 @@ TextRooms RoomsOf(const QAbstractSpinBox& editor)
 {
     const auto* field = editor.findChild<QLineEdit*>();
     const QString text = Widest(editor.text(), field->fontMetrics());
-    const QSize room = field->contentsRect().adjusted(lineEditMargin, 0, -lineEditMargin, 0).size();
+    const QSize room = field->contentsRect().adjusted(LineEditMargin, 0, -LineEditMargin, 0).size();
     return {{text, SizeOf(text, *field), room}};
 }
 
 TextRooms RoomsOf(const QLineEdit& field)
 {
     const QString text = field.placeholderText();
-    const QSize room = field.contentsRect().adjusted(lineEditMargin, 0, -lineEditMargin, 0).size();
+    const QSize room = field.contentsRect().adjusted(LineEditMargin, 0, -LineEditMargin, 0).size();
     return text.isEmpty() ? TextRooms() : TextRooms{{text, SizeOf(text, field), room}};
 }
 
