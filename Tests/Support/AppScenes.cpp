@@ -409,6 +409,9 @@ QStringList TextsOfTheUser(const AppWindow& app)
     for (int number = 1; number <= ManyTasks; ++number) {
         texts << QStringLiteral("Task %1").arg(number);
     }
+    for (const PX::SettingsNotice& notice : app.store->Notices()) {
+        texts.prepend(notice.keptPath);
+    }
     const auto screens = QGuiApplication::screens();
     for (const QScreen* screen : screens) {
         texts << screen->name();
