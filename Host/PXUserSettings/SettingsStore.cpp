@@ -1,5 +1,7 @@
 #include "SettingsStore.h"
 
+#include <cerrno>
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
@@ -34,6 +36,20 @@ QString FreePath(const QString& path, const QString& suffix)
         candidate = QStringLiteral("%1-%2").arg(stem).arg(number);
     }
     return candidate;
+}
+
+QString LockProblem(QLockFile::LockError error)
+{
+    switch (error) {
+    case QLockFile::LockFailedError:
+        return QCoreApplication::translate("SettingsStore",
+                                           "The file is in use by another process");
+    case QLockFile::PermissionError:
+        return QCoreApplication::translate("SettingsStore", "The folder cannot be written to");
+    default:
+        // What Qt names as the cause when the lock can be created but not written.
+        return qt_error_string(ENOSPC);
+    }
 }
 
 /// The problems in one line, the first few of them in words.
@@ -258,9 +274,7 @@ bool SettingsStore::Flush()
 QString SettingsStore::Write(const QByteArray& content)
 {
     if (!m_lock->isLocked() && !TryLock()) {
-        return m_lock->error() == QLockFile::LockFailedError
-            ? QCoreApplication::translate("SettingsStore", "The file is in use by another process")
-            : QCoreApplication::translate("SettingsStore", "The folder cannot be written to");
+        return LockProblem(m_lock->error());
     }
     const QString failure = KeepChanged();
     return failure.isEmpty() ? Util::ReplaceFile(m_realPath, content, m_known) : failure;

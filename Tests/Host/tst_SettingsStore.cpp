@@ -703,6 +703,23 @@ private Q_SLOTS:
         QVERIFY(place.Read().contains("\"late\""));
     }
 
+    void diskThatIsFullFromTheStart()
+    {
+        const Place place;
+        QVERIFY(place.Write("{\"version\": 1}"));
+        SettingsStore store(place.Path());
+        {
+            const FullDisk disk(0);
+            QVERIFY(Open(store));
+            SetPage(store, QStringLiteral("a"));
+            QVERIFY(!store.Flush());
+            QVERIFY2(store.SaveProblem().startsWith(QLatin1String("No space left on device")),
+                     qPrintable(store.SaveProblem()));
+        }
+        QVERIFY(store.Flush());
+        QVERIFY(place.Read().contains("\"a\""));
+    }
+
     void secondWriterIsRefused()
     {
         const Place place;
