@@ -18,7 +18,7 @@ ZENTOR_HOST_API QString DefaultResultsFolderPath();
 struct UserSettings {
     bool limitedCaptureEnabled = false;
     /// At least ShortestCaptureDuration and below CaptureDurationLimit.
-    std::chrono::microseconds limitedCaptureDuration{ShortestCaptureDuration};
+    std::chrono::microseconds limitedCaptureDuration{std::chrono::hours(1)};
     bool scheduledCaptureEnabled = false;
     /// In display order.
     std::vector<RecordTime> schedule;

@@ -112,7 +112,7 @@ private Q_SLOTS:
     {
         const PX::UserSettings settings;
         QVERIFY(!settings.limitedCaptureEnabled);
-        QVERIFY(settings.limitedCaptureDuration == 5s);
+        QVERIFY(settings.limitedCaptureDuration == 1h);
         QVERIFY(!settings.scheduledCaptureEnabled);
         QVERIFY(settings.schedule.empty());
         QCOMPARE(settings.captureFinishAction, PX::DoNothing);

@@ -36,7 +36,7 @@ private Q_SLOTS:
         QVERIFY2(stored.isOpen, qPrintable(stored.error));
         QVERIFY(!stored.scheduler.IsLimitedCaptureEnabled());
         QVERIFY(!stored.scheduler.IsScheduledCaptureEnabled());
-        QVERIFY(stored.scheduler.GetLimitedCaptureDuration() == 5s);
+        QVERIFY(stored.scheduler.GetLimitedCaptureDuration() == 1h);
         QVERIFY(stored.scheduler.GetSchedule().empty());
         QCOMPARE(stored.finishAction.GetCaptureFinishAction(), PX::DoNothing);
 
