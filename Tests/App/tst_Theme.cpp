@@ -209,6 +209,26 @@ private Q_SLOTS:
         }
     }
 
+    void spreadsNoIconThatIsParsedForEachTask_data() { AddThemes(); }
+    void spreadsNoIconThatIsParsedForEachTask()
+    {
+        QFETCH(Theme, theme);
+        int count = 0;
+        const auto rules = RulesOf(Desktop::StyleSheetOf(theme));
+        for (const Rule& rule : rules) {
+            const QString image = rule.declarations.value(QStringLiteral("image"));
+            if (image.isEmpty() || !rule.selectors.contains(QLatin1String("#deleteToolButton"))) {
+                continue;
+            }
+            const QImage picture(image.mid(4).chopped(1));
+            QVERIFY2(image.endsWith(QLatin1String(".png)")), qPrintable(image));
+            // Sharp on a screen of four times the usual resolution.
+            QCOMPARE(picture.size(), QSize(64, 64));
+            ++count;
+        }
+        QCOMPARE(count, 2);
+    }
+
     void isReadable_data() { AddThemes(); }
     void isReadable()
     {
