@@ -126,7 +126,8 @@
     </message>
     <message>
         <source>Selected area tooltip</source>
-        <translation>تختار منطقة الشاشة عند بدء التسجيل.</translation>
+        <translation>تسجّل المنطقة المختارة في الإعدادات، أو الشاشة الأولى كاملة إن لم تُختر أي منطقة.
+هذا الإصدار لا يسجّل بعد.</translation>
     </message>
     <message>
         <source>Fullscreen</source>

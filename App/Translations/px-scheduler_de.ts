@@ -126,7 +126,8 @@
     </message>
     <message>
         <source>Selected area tooltip</source>
-        <translation>Den Bereich auf dem Bildschirm wählen Sie beim Start der Aufnahme aus.</translation>
+        <translation>Nimmt den in den Einstellungen gewählten Bereich auf; wo keiner gewählt ist, den ganzen ersten Bildschirm.
+Diese Version nimmt noch nicht auf.</translation>
     </message>
     <message>
         <source>Fullscreen</source>

@@ -126,7 +126,8 @@
     </message>
     <message>
         <source>Selected area tooltip</source>
-        <translation>You choose the area on the screen when the recording starts.</translation>
+        <translation>Records the area chosen in the settings; where none has been chosen, the whole of the first screen.
+This version does not record yet.</translation>
     </message>
     <message>
         <source>Fullscreen</source>

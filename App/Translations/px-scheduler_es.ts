@@ -126,7 +126,8 @@
     </message>
     <message>
         <source>Selected area tooltip</source>
-        <translation>El área de la pantalla se elige al iniciar la grabación.</translation>
+        <translation>Graba el área elegida en los ajustes; si no se ha elegido ninguna, toda la primera pantalla.
+Esta versión todavía no graba.</translation>
     </message>
     <message>
         <source>Fullscreen</source>

@@ -126,7 +126,8 @@
     </message>
     <message>
         <source>Selected area tooltip</source>
-        <translation>Vous choisissez la zone de l’écran au démarrage de l’enregistrement.</translation>
+        <translation>Enregistre la zone choisie dans les réglages ou, si aucune n’a été choisie, tout le premier écran.
+Cette version n’enregistre pas encore.</translation>
     </message>
     <message>
         <source>Fullscreen</source>

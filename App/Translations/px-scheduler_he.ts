@@ -126,7 +126,8 @@
     </message>
     <message>
         <source>Selected area tooltip</source>
-        <translation>בוחרים את האזור במסך כשההקלטה מתחילה.</translation>
+        <translation>מקליטה את האזור שנבחר בהגדרות, ואם לא נבחר אזור – את כל המסך הראשון.
+גרסה זו עדיין אינה מקליטה.</translation>
     </message>
     <message>
         <source>Fullscreen</source>

@@ -126,7 +126,8 @@
     </message>
     <message>
         <source>Selected area tooltip</source>
-        <translation>L’area dello schermo si sceglie all’avvio della registrazione.</translation>
+        <translation>Registra l’area scelta nelle impostazioni; se non ne è stata scelta nessuna, tutto il primo schermo.
+Questa versione non registra ancora.</translation>
     </message>
     <message>
         <source>Fullscreen</source>

@@ -126,7 +126,8 @@
     </message>
     <message>
         <source>Selected area tooltip</source>
-        <translation>画面上の範囲は、録画の開始時に選択します。</translation>
+        <translation>設定で選択した範囲を録画します。選択していない場合は、最初の画面全体を録画します。
+このバージョンではまだ録画できません。</translation>
     </message>
     <message>
         <source>Fullscreen</source>

@@ -126,7 +126,8 @@
     </message>
     <message>
         <source>Selected area tooltip</source>
-        <translation>화면 영역은 녹화가 시작될 때 선택합니다.</translation>
+        <translation>설정에서 선택한 영역을 녹화합니다. 선택하지 않았으면 첫 번째 화면 전체를 녹화합니다.
+이 버전은 아직 녹화하지 않습니다.</translation>
     </message>
     <message>
         <source>Fullscreen</source>

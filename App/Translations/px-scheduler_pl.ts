@@ -126,7 +126,8 @@
     </message>
     <message>
         <source>Selected area tooltip</source>
-        <translation>Obszar ekranu wybiera się w chwili rozpoczęcia nagrywania.</translation>
+        <translation>Nagrywa obszar wybrany w ustawieniach, a jeśli żadnego nie wybrano, cały pierwszy ekran.
+Ta wersja jeszcze nie nagrywa.</translation>
     </message>
     <message>
         <source>Fullscreen</source>

@@ -126,7 +126,8 @@
     </message>
     <message>
         <source>Selected area tooltip</source>
-        <translation>Você escolhe a área da tela quando a gravação começa.</translation>
+        <translation>Grava a área escolhida nas configurações; se nenhuma foi escolhida, a primeira tela inteira.
+Esta versão ainda não grava.</translation>
     </message>
     <message>
         <source>Fullscreen</source>

@@ -126,7 +126,8 @@
     </message>
     <message>
         <source>Selected area tooltip</source>
-        <translation>Область экрана выбирается в момент начала записи.</translation>
+        <translation>Записывает область, выбранную в настройках, а если она не выбрана, весь первый экран.
+Эта версия пока не записывает.</translation>
     </message>
     <message>
         <source>Fullscreen</source>

@@ -126,7 +126,8 @@
     </message>
     <message>
         <source>Selected area tooltip</source>
-        <translation>Ekrandaki alanı kayıt başladığında seçersiniz.</translation>
+        <translation>Ayarlarda seçilen alanı, seçilmemişse ilk ekranın tamamını kaydeder.
+Bu sürüm henüz kayıt yapmıyor.</translation>
     </message>
     <message>
         <source>Fullscreen</source>

@@ -126,7 +126,8 @@
     </message>
     <message>
         <source>Selected area tooltip</source>
-        <translation>录制开始时再选择屏幕上的区域。</translation>
+        <translation>录制设置中选择的区域；未选择时，录制整个第一个屏幕。
+此版本尚不能录制。</translation>
     </message>
     <message>
         <source>Fullscreen</source>
