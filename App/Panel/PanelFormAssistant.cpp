@@ -1,5 +1,8 @@
 #include "PanelFormAssistant.h"
 
+#include <cstdint>
+#include <limits>
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -14,6 +17,12 @@ namespace Zentor::Desktop {
 namespace {
 
 using std::chrono::milliseconds;
+
+/// The last second that a start can have.
+QDateTime LastStart()
+{
+    return QDateTime::fromSecsSinceEpoch(std::numeric_limits<std::uint32_t>::max());
+}
 
 QLineEdit& TextOf(const QDateTimeEdit& editor)
 {
@@ -75,9 +84,22 @@ PanelFormAssistant::PanelFormAssistant(QWidget* panel, std::shared_ptr<PX::Setti
     // The panel reacts to the click first: the form is open and filled by then.
     connect(m_parts.addButton, &QAbstractButton::clicked, this,
             &PanelFormAssistant::MoveToFreeStart);
+    connect(m_parts.startField, &QDateTimeEdit::dateTimeChanged, this,
+            &PanelFormAssistant::LimitStart);
+    // While the form moves the start to another day, it lets no other moment in.
+    connect(m_parts.dateField, &QDateTimeEdit::dateChanged, this, &PanelFormAssistant::LimitStart);
+    m_parts.dateField->setMaximumDate(LastStart().date());
 }
 
 PanelFormAssistant::~PanelFormAssistant() = default;
+
+void PanelFormAssistant::LimitStart()
+{
+    const QDateTime last = LastStart();
+    if (m_parts.startField->dateTime() > last) {
+        m_parts.startField->setTime(last.time());
+    }
+}
 
 void PanelFormAssistant::MoveToFreeStart()
 {

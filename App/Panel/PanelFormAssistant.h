@@ -19,6 +19,8 @@ namespace Zentor::Desktop {
 /// A form that opens at a moment that is taken starts at the first free one behind it, so that it
 /// does not open with an error. A click into a time or date selects the section that was hit, so
 /// that typing replaces it; a whole reading may be typed, or pasted, over the whole text.
+///
+/// Dates end on 7 February 2106: the panel counts the seconds to a start in 32 bits.
 class PanelFormAssistant final : public QObject {
     Q_OBJECT
 
@@ -31,6 +33,7 @@ public:
 
 private:
     void MoveToFreeStart();
+    void LimitStart();
 
     std::shared_ptr<PX::SettingsStore> m_store;
     const PanelParts m_parts;

@@ -4,6 +4,7 @@
 
 #include "AppWindow.h"
 #include "FreeStart.h"
+#include "Languages.h"
 #include "PanelParts.h"
 #include "Resources.h"
 #include "Theme.h"
@@ -151,6 +152,41 @@ private Q_SLOTS:
         QGuiApplication::clipboard()->setText(QStringLiteral("2031-12-24"));
         app.Press(Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(date->date(), QDate(2031, 12, 24));
+    }
+
+    void endsWhereStartsCanBeStored()
+    {
+        const AppWindow app;
+        QVERIFY(app.Show());
+        app.Button(Desktop::PanelPart::ScheduledModeButton)->click();
+        app.Button(Desktop::PanelPart::AddButton)->click();
+        auto* date = app.Find<QDateTimeEdit>(Desktop::PanelPart::DateField);
+        auto* start = app.Find<QTimeEdit>(Desktop::PanelPart::StartField);
+        const QDate last(2106, 2, 7);
+        QCOMPARE(date->maximumDate(), last);
+        date->setDate(QDate(2200, 1, 1));
+        QCOMPARE(date->date(), last);
+        // A language brings another format.
+        Desktop::Translations translations;
+        for (const auto* language : {"de", "ja", "en"}) {
+            translations.Use(QLatin1String(language));
+            QCoreApplication::sendPostedEvents();
+            QCOMPARE(date->maximumDate(), last);
+        }
+        QLocale::setDefault(QLocale::c());
+        const QDateTime lastStart(last, QTime(6, 28, 15));
+        date->setDate(last.addDays(-1));
+        start->setTime(QTime(23, 0));
+        QCOMPARE(start->dateTime(), QDateTime(last.addDays(-1), QTime(23, 0)));
+        date->setDate(last);
+        QCOMPARE(start->dateTime(), lastStart);
+        start->setTime(QTime(6, 28, 14));
+        QCOMPARE(start->dateTime(), lastStart.addSecs(-1));
+        start->setTime(QTime(6, 28, 16));
+        QCOMPARE(start->dateTime(), lastStart);
+        app.Button(Desktop::PanelPart::CreateButton)->click();
+        QCOMPARE(app.store->Settings().schedule.size(), std::size_t(1));
+        QVERIFY(app.store->Settings().schedule.front().start == At(lastStart));
     }
 
 private:
