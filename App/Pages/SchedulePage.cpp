@@ -1,16 +1,14 @@
 #include "SchedulePage.h"
 
-#include <QApplication>
-#include <QCalendarWidget>
 #include <QDateTimeEdit>
 #include <QEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QTextCharFormat>
 #include <QVBoxLayout>
 
 #include "Application/SettingsManager.h"
+#include "CalendarLook.h"
 #include "Controls.h"
 #include "PanelAnnouncer.h"
 #include "PanelFormAssistant.h"
@@ -22,7 +20,6 @@
 #include "PXUserSettings/StoredSettings.h"
 #include "RadioGroupTabStop.h"
 #include "RecordSchedulerWidget.h"
-#include "Theme.h"
 
 namespace Zentor::Desktop {
 
@@ -98,6 +95,7 @@ void SchedulePage::AssistPanel()
     new RadioGroupTabStop(m_parts->modeGroup);
     new RadioGroupTabStop(m_parts->areaGroup);
     new PanelMouse(m_panel);
+    m_calendarLook = new CalendarLook(m_parts->dateField->calendarWidget());
     m_announcer = new PanelAnnouncer(m_panel, m_store);
     connect(m_announcer, &PanelAnnouncer::Announced, this, &SchedulePage::Announced);
     connect(m_announcer, &PanelAnnouncer::ProblemChanged, this, &SchedulePage::ProblemChanged);
@@ -144,21 +142,7 @@ void SchedulePage::RetranslatePanel()
 {
     m_parts->list->setAccessibleName(tr("Recording schedule"));
     // Which days are the weekend is a matter of the language, too.
-    ColorCalendar();
-}
-
-void SchedulePage::ColorCalendar()
-{
-    QTextCharFormat weekendFormat;
-    weekendFormat.setForeground(
-        QColor(ColorsOf(ThemeOf(QApplication::palette())).value(QStringLiteral("danger"))));
-    const auto workdays = QLocale().weekdays();
-    auto* calendar = m_parts->dateField->calendarWidget();
-    for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
-        const auto weekday = static_cast<Qt::DayOfWeek>(day);
-        calendar->setWeekdayTextFormat(
-            weekday, workdays.contains(weekday) ? QTextCharFormat() : weekendFormat);
-    }
+    m_calendarLook->Update();
 }
 
 void SchedulePage::SetRoom(int height)
@@ -211,7 +195,7 @@ void SchedulePage::changeEvent(QEvent* event)
         }
     }
     if (IsBuilt() && event->type() == QEvent::PaletteChange) {
-        ColorCalendar();
+        m_calendarLook->Update();
     }
     Page::changeEvent(event);
 }

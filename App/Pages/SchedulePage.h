@@ -22,6 +22,7 @@ class RecordSchedulerWidget;
 
 namespace Zentor::Desktop {
 
+class CalendarLook;
 class PanelFormMemory;
 class PanelListHeight;
 
@@ -82,7 +83,6 @@ private:
     void RebuildPanel();
     void OrderTabs();
     void RetranslatePanel();
-    void ColorCalendar();
     bool IsBuilt() const { return !m_announcer.isNull(); }
 
     std::shared_ptr<PX::SettingsStore> m_store;
@@ -90,6 +90,7 @@ private:
     PX::Scheduler::UI::RecordSchedulerWidget* m_panel = nullptr;
     std::unique_ptr<PanelParts> m_parts;
     QPointer<PanelAnnouncer> m_announcer;
+    CalendarLook* m_calendarLook = nullptr;
     PanelFormMemory* m_formMemory = nullptr;
     PanelListHeight* m_listHeight = nullptr;
     int m_room = 0;

@@ -1,6 +1,7 @@
 #include "PanelFormKeys.h"
 
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QDateTimeEdit>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -15,7 +16,9 @@ PanelFormKeys::PanelFormKeys(QWidget* panel)
     : QObject(panel)
     , m_panel(panel)
     , m_parts(*panel)
+    , m_calendarPopup(m_parts.dateField->calendarWidget()->window())
 {
+    m_calendarPopup->installEventFilter(this);
     panel->installEventFilter(this);
     m_parts.dateField->installEventFilter(this);
     // The panel reacts to the click first: the form is filled by then.
@@ -32,6 +35,10 @@ void PanelFormKeys::FocusNameField()
 
 bool PanelFormKeys::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_calendarPopup) {
+        HandleCalendarEvent(event);
+        return false;
+    }
     if (event->type() != QEvent::KeyPress || QApplication::activePopupWidget() != nullptr) {
         return QObject::eventFilter(watched, event);
     }
@@ -81,6 +88,17 @@ bool PanelFormKeys::OpenCalendar(const QKeyEvent& event)
         QCoreApplication::sendEvent(field, &press);
     }
     return isWanted;
+}
+
+/// The field follows each move in the calendar at once; by itself it would keep the last one.
+void PanelFormKeys::HandleCalendarEvent(QEvent* event)
+{
+    if (event->type() == QEvent::Show) {
+        m_dateBefore = m_parts.dateField->date();
+    } else if (event->type() == QEvent::KeyPress
+               && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel)) {
+        m_parts.dateField->setDate(m_dateBefore);
+    }
 }
 
 } // namespace Zentor::Desktop

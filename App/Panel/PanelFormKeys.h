@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QObject>
 
 #include "PanelParts.h"
@@ -12,7 +13,8 @@ namespace Zentor::Desktop {
 ///
 /// Enter presses the button that has the focus, and elsewhere creates the task when it can be
 /// created. Escape goes back, with the panel's question about the unsaved task. In the date field,
-/// F4 and Alt+Down open the calendar. When the form opens, the focus goes into the name field.
+/// F4 and Alt+Down open the calendar, which Escape closes with the date as it was. When the form
+/// opens, the focus goes into the name field.
 class PanelFormKeys final : public QObject {
     Q_OBJECT
 
@@ -28,9 +30,13 @@ private:
     bool HandlePanelKey(const QKeyEvent& event);
     void PressEnter();
     bool OpenCalendar(const QKeyEvent& event);
+    void HandleCalendarEvent(QEvent* event);
 
     QWidget* m_panel;
     const PanelParts m_parts;
+    QWidget* m_calendarPopup;
+    /// What the field showed when the calendar was opened.
+    QDate m_dateBefore;
 };
 
 } // namespace Zentor::Desktop

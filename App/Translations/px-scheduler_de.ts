@@ -327,6 +327,13 @@ Diese Version nimmt noch nicht auf.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::CalendarLook</name>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::FilesPage</name>
     <message>
         <source>&amp;Folder for recordings:</source>

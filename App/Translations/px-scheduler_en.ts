@@ -327,6 +327,13 @@ This version does not record yet.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::CalendarLook</name>
+    <message>
+        <source>Today</source>
+        <translation>Today</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::FilesPage</name>
     <message>
         <source>&amp;Folder for recordings:</source>

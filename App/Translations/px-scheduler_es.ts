@@ -327,6 +327,13 @@ Esta versión todavía no graba.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::CalendarLook</name>
+    <message>
+        <source>Today</source>
+        <translation>Hoy</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::FilesPage</name>
     <message>
         <source>&amp;Folder for recordings:</source>

@@ -327,6 +327,13 @@ Cette version n’enregistre pas encore.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::CalendarLook</name>
+    <message>
+        <source>Today</source>
+        <translation>Aujourd’hui</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::FilesPage</name>
     <message>
         <source>&amp;Folder for recordings:</source>

@@ -327,6 +327,13 @@ Questa versione non registra ancora.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::CalendarLook</name>
+    <message>
+        <source>Today</source>
+        <translation>Oggi</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::FilesPage</name>
     <message>
         <source>&amp;Folder for recordings:</source>

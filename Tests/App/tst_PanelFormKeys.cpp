@@ -257,6 +257,39 @@ private Q_SLOTS:
             QVERIFY(app.IsFormOpen());
         }
     }
+
+    void choosesADayByKeyboard_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("days");
+        QTest::newRow("Return") << int(Qt::Key_Return) << 8;
+        QTest::newRow("Enter") << int(Qt::Key_Enter) << 8;
+        QTest::newRow("Escape") << int(Qt::Key_Escape) << 0;
+    }
+
+    void choosesADayByKeyboard()
+    {
+        QFETCH(int, key);
+        QFETCH(int, days);
+        AllowWarning(QStringLiteral("grabbing"));
+        const AppWindow app(1);
+        QVERIFY(app.Show());
+        app.Press(Qt::Key_Insert);
+        auto* date = app.Find<QDateTimeEdit>(Desktop::PanelPart::DateField);
+        date->setDate(QDate(2031, 3, 12));
+        app.Focus(Desktop::PanelPart::DateField);
+        app.Press(Qt::Key_F4);
+        QVERIFY(date->calendarWidget()->isVisible());
+        app.Press(Qt::Key_Right);
+        app.Press(Qt::Key_Down);
+        QCOMPARE(date->calendarWidget()->selectedDate(), QDate(2031, 3, 20));
+        app.Press(static_cast<Qt::Key>(key));
+        QTRY_VERIFY(!date->calendarWidget()->isVisible());
+        QCOMPARE(date->date(), QDate(2031, 3, 12).addDays(days));
+        QVERIFY(date->hasFocus());
+        QVERIFY(app.IsFormOpen());
+        QVERIFY(!IsBoxOpen());
+    }
 };
 
 } // namespace Zentor::Tests
