@@ -17,6 +17,7 @@
 #include "PanelListHeight.h"
 #include "PanelListKeys.h"
 #include "PanelMouse.h"
+#include "PanelNameGuard.h"
 #include "PXUserSettings/StoredSettings.h"
 #include "RadioGroupTabStop.h"
 #include "RecordSchedulerWidget.h"
@@ -99,6 +100,8 @@ void SchedulePage::AssistPanel()
     m_announcer = new PanelAnnouncer(m_panel, m_store);
     connect(m_announcer, &PanelAnnouncer::Announced, this, &SchedulePage::Announced);
     connect(m_announcer, &PanelAnnouncer::ProblemChanged, this, &SchedulePage::ProblemChanged);
+    const auto* nameGuard = new PanelNameGuard(m_panel);
+    connect(nameGuard, &PanelNameGuard::RefusalChanged, m_announcer, &PanelAnnouncer::SetRefusal);
 }
 
 void SchedulePage::RebuildPanel()

@@ -58,6 +58,12 @@ void PanelAnnouncer::CompareSchedule()
     }
 }
 
+void PanelAnnouncer::SetRefusal(const QString& reason)
+{
+    m_refusal = reason;
+    UpdateProblem();
+}
+
 bool PanelAnnouncer::eventFilter(QObject* watched, QEvent* event)
 {
     const auto type = event->type();
@@ -89,6 +95,9 @@ QString PanelAnnouncer::ShownProblem() const
 {
     if (!m_parts.nameField->isVisible()) {
         return {};
+    }
+    if (!m_refusal.isEmpty()) {
+        return m_refusal;
     }
     const QString ofName = m_parts.nameField->toolTip();
     return ofName.isEmpty() ? m_parts.startField->toolTip() : ofName;

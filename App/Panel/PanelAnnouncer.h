@@ -24,6 +24,10 @@ public:
     PanelAnnouncer(QWidget* panel, std::shared_ptr<PX::SettingsStore> store);
     ~PanelAnnouncer() override;
 
+    /// The form has refused what was entered last for \a reason, which comes before other
+    /// problems; empty when it has not.
+    void SetRefusal(const QString& reason);
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
@@ -40,6 +44,7 @@ private:
 
     std::shared_ptr<PX::SettingsStore> m_store;
     const PanelParts m_parts;
+    QString m_refusal;
     QString m_problem;
     QStringList m_titles;
 };

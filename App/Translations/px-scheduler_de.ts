@@ -521,6 +521,17 @@ Diese Version nimmt noch nicht auf.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelNameGuard</name>
+    <message>
+        <source>A name cannot contain line breaks or other control characters.</source>
+        <translation>Ein Name kann weder Zeilenumbrüche noch andere Steuerzeichen enthalten.</translation>
+    </message>
+    <message>
+        <source>A name cannot contain: %1</source>
+        <translation>Ein Name kann Folgendes nicht enthalten: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

@@ -521,6 +521,17 @@ This version does not record yet.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelNameGuard</name>
+    <message>
+        <source>A name cannot contain line breaks or other control characters.</source>
+        <translation>A name cannot contain line breaks or other control characters.</translation>
+    </message>
+    <message>
+        <source>A name cannot contain: %1</source>
+        <translation>A name cannot contain: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

@@ -521,6 +521,17 @@ Esta versión todavía no graba.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelNameGuard</name>
+    <message>
+        <source>A name cannot contain line breaks or other control characters.</source>
+        <translation>Un nombre no puede contener saltos de línea ni otros caracteres de control.</translation>
+    </message>
+    <message>
+        <source>A name cannot contain: %1</source>
+        <translation>Un nombre no puede contener: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

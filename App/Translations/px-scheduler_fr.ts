@@ -521,6 +521,17 @@ Cette version n’enregistre pas encore.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelNameGuard</name>
+    <message>
+        <source>A name cannot contain line breaks or other control characters.</source>
+        <translation>Un nom ne peut contenir ni sauts de ligne ni autres caractères de contrôle.</translation>
+    </message>
+    <message>
+        <source>A name cannot contain: %1</source>
+        <translation>Un nom ne peut pas contenir : %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

@@ -521,6 +521,17 @@ Questa versione non registra ancora.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelNameGuard</name>
+    <message>
+        <source>A name cannot contain line breaks or other control characters.</source>
+        <translation>Un nome non può contenere interruzioni di riga né altri caratteri di controllo.</translation>
+    </message>
+    <message>
+        <source>A name cannot contain: %1</source>
+        <translation>Un nome non può contenere: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

@@ -521,6 +521,17 @@
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelNameGuard</name>
+    <message>
+        <source>A name cannot contain line breaks or other control characters.</source>
+        <translation>名前に改行などの制御文字は使用できません。</translation>
+    </message>
+    <message>
+        <source>A name cannot contain: %1</source>
+        <translation>名前に使用できない文字：%1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

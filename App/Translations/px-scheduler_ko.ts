@@ -521,6 +521,17 @@
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelNameGuard</name>
+    <message>
+        <source>A name cannot contain line breaks or other control characters.</source>
+        <translation>이름에는 줄 바꿈이나 다른 제어 문자를 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>A name cannot contain: %1</source>
+        <translation>이름에 사용할 수 없는 문자: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

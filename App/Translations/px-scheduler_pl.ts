@@ -521,6 +521,17 @@ Ta wersja jeszcze nie nagrywa.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelNameGuard</name>
+    <message>
+        <source>A name cannot contain line breaks or other control characters.</source>
+        <translation>Nazwa nie może zawierać znaków końca wiersza ani innych znaków sterujących.</translation>
+    </message>
+    <message>
+        <source>A name cannot contain: %1</source>
+        <translation>Nazwa nie może zawierać: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

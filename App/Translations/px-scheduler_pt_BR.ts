@@ -521,6 +521,17 @@ Esta versão ainda não grava.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelNameGuard</name>
+    <message>
+        <source>A name cannot contain line breaks or other control characters.</source>
+        <translation>Um nome não pode conter quebras de linha nem outros caracteres de controle.</translation>
+    </message>
+    <message>
+        <source>A name cannot contain: %1</source>
+        <translation>Um nome não pode conter: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

@@ -521,6 +521,17 @@
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelNameGuard</name>
+    <message>
+        <source>A name cannot contain line breaks or other control characters.</source>
+        <translation>Имя не может содержать переносы строк и другие управляющие символы.</translation>
+    </message>
+    <message>
+        <source>A name cannot contain: %1</source>
+        <translation>Имя не может содержать: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

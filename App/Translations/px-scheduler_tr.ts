@@ -521,6 +521,17 @@ Bu sürüm henüz kayıt yapmıyor.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelNameGuard</name>
+    <message>
+        <source>A name cannot contain line breaks or other control characters.</source>
+        <translation>Bir ad, satır sonu veya başka denetim karakterleri içeremez.</translation>
+    </message>
+    <message>
+        <source>A name cannot contain: %1</source>
+        <translation>Bir ad şunları içeremez: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

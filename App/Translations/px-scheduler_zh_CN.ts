@@ -521,6 +521,17 @@
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelNameGuard</name>
+    <message>
+        <source>A name cannot contain line breaks or other control characters.</source>
+        <translation>名称不能包含换行符或其他控制字符。</translation>
+    </message>
+    <message>
+        <source>A name cannot contain: %1</source>
+        <translation>名称不能包含：%1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

@@ -1,6 +1,7 @@
 #include "AppScenes.h"
 
 #include <QCalendarWidget>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLabel>
@@ -252,6 +253,17 @@ void ShowAreaTip(const Stage& stage)
     QToolTip::hideText();
 }
 
+void ShowRefusedCharacters(const Stage& stage)
+{
+    auto* name = stage.Find<QLineEdit>(NameEdit);
+    QTest::keyClicks(name, QStringLiteral(":"));
+    stage.Show(QStringLiteral("tip about a character"), QToolTip::isVisible());
+    QGuiApplication::clipboard()->setText(QStringLiteral("1\n"));
+    QTest::keyClick(name, Qt::Key_V, Qt::ControlModifier);
+    stage.Show(QStringLiteral("tip about a line break"), QToolTip::isVisible());
+    QToolTip::hideText();
+}
+
 void ShowScreens(const Stage& stage)
 {
     FakeScreen* screen = Plug(SecondScreen());
@@ -267,6 +279,7 @@ void ShowForm(const Stage& stage)
     stage.Click(AddButton);
     stage.Show(QStringLiteral("form"), stage.App().IsFormOpen());
     ShowAreaTip(stage);
+    ShowRefusedCharacters(stage);
     ShowCalendar(stage);
     ShowListsOfPage(stage, QStringLiteral("form"));
     ShowScreens(stage);
