@@ -18,6 +18,7 @@
 #include "PanelListKeys.h"
 #include "PanelMouse.h"
 #include "PanelNameGuard.h"
+#include "PanelTaskDetails.h"
 #include "PXUserSettings/StoredSettings.h"
 #include "RadioGroupTabStop.h"
 #include "RecordSchedulerWidget.h"
@@ -90,6 +91,7 @@ void SchedulePage::Restore()
 void SchedulePage::AssistPanel()
 {
     new PanelListKeys(m_panel);
+    new PanelTaskDetails(m_panel, m_store);
     new PanelFormAssistant(m_panel, m_store);
     new PanelFormKeys(m_panel);
     m_formMemory = new PanelFormMemory(m_panel, m_store);

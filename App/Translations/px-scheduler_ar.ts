@@ -532,6 +532,33 @@
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelTaskDetails</name>
+    <message>
+        <source>This task is over.</source>
+        <translation>انقضى وقت هذه المهمة.</translation>
+    </message>
+    <message>
+        <source>Afterwards: %1</source>
+        <translation>بعد ذلك: %1</translation>
+    </message>
+    <message>
+        <source>Ends at %1</source>
+        <translation>تنتهي في %1</translation>
+    </message>
+    <message>
+        <source>Ends on the next day at %1</source>
+        <translation>تنتهي في اليوم التالي في %1</translation>
+    </message>
+    <message>
+        <source>Records screen %1, which is not connected</source>
+        <translation>تسجّل الشاشة %1، وهي غير متصلة</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>تسجّل: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

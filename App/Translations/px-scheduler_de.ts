@@ -532,6 +532,33 @@ Diese Version nimmt noch nicht auf.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelTaskDetails</name>
+    <message>
+        <source>This task is over.</source>
+        <translation>Diese Aufgabe ist vorbei.</translation>
+    </message>
+    <message>
+        <source>Afterwards: %1</source>
+        <translation>Danach: %1</translation>
+    </message>
+    <message>
+        <source>Ends at %1</source>
+        <translation>Endet um %1</translation>
+    </message>
+    <message>
+        <source>Ends on the next day at %1</source>
+        <translation>Endet am nächsten Tag um %1</translation>
+    </message>
+    <message>
+        <source>Records screen %1, which is not connected</source>
+        <translation>Nimmt Bildschirm %1 auf, der nicht angeschlossen ist</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>Nimmt auf: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

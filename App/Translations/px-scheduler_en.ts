@@ -532,6 +532,33 @@ This version does not record yet.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelTaskDetails</name>
+    <message>
+        <source>This task is over.</source>
+        <translation>This task is over.</translation>
+    </message>
+    <message>
+        <source>Afterwards: %1</source>
+        <translation>Afterwards: %1</translation>
+    </message>
+    <message>
+        <source>Ends at %1</source>
+        <translation>Ends at %1</translation>
+    </message>
+    <message>
+        <source>Ends on the next day at %1</source>
+        <translation>Ends on the next day at %1</translation>
+    </message>
+    <message>
+        <source>Records screen %1, which is not connected</source>
+        <translation>Records screen %1, which is not connected</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>Records: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

@@ -532,6 +532,33 @@ Esta versión todavía no graba.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelTaskDetails</name>
+    <message>
+        <source>This task is over.</source>
+        <translation>Esta tarea ya ha pasado.</translation>
+    </message>
+    <message>
+        <source>Afterwards: %1</source>
+        <translation>Después: %1</translation>
+    </message>
+    <message>
+        <source>Ends at %1</source>
+        <translation>Termina a las %1</translation>
+    </message>
+    <message>
+        <source>Ends on the next day at %1</source>
+        <translation>Termina al día siguiente a las %1</translation>
+    </message>
+    <message>
+        <source>Records screen %1, which is not connected</source>
+        <translation>Graba la pantalla %1, que no está conectada</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>Graba: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

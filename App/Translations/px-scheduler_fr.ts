@@ -532,6 +532,33 @@ Cette version n’enregistre pas encore.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelTaskDetails</name>
+    <message>
+        <source>This task is over.</source>
+        <translation>Cette tâche est passée.</translation>
+    </message>
+    <message>
+        <source>Afterwards: %1</source>
+        <translation>Ensuite : %1</translation>
+    </message>
+    <message>
+        <source>Ends at %1</source>
+        <translation>Se termine à %1</translation>
+    </message>
+    <message>
+        <source>Ends on the next day at %1</source>
+        <translation>Se termine le lendemain à %1</translation>
+    </message>
+    <message>
+        <source>Records screen %1, which is not connected</source>
+        <translation>Enregistre l’écran %1, qui n’est pas connecté</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>Enregistre : %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

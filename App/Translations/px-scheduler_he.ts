@@ -532,6 +532,33 @@
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelTaskDetails</name>
+    <message>
+        <source>This task is over.</source>
+        <translation>זמנה של משימה זו חלף.</translation>
+    </message>
+    <message>
+        <source>Afterwards: %1</source>
+        <translation>לאחר מכן: %1</translation>
+    </message>
+    <message>
+        <source>Ends at %1</source>
+        <translation>מסתיימת בשעה %1</translation>
+    </message>
+    <message>
+        <source>Ends on the next day at %1</source>
+        <translation>מסתיימת למחרת בשעה %1</translation>
+    </message>
+    <message>
+        <source>Records screen %1, which is not connected</source>
+        <translation>מקליטה את מסך %1, שאינו מחובר</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>מקליטה: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

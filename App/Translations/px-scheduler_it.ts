@@ -532,6 +532,33 @@ Questa versione non registra ancora.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelTaskDetails</name>
+    <message>
+        <source>This task is over.</source>
+        <translation>Questa attività è passata.</translation>
+    </message>
+    <message>
+        <source>Afterwards: %1</source>
+        <translation>Poi: %1</translation>
+    </message>
+    <message>
+        <source>Ends at %1</source>
+        <translation>Termina alle %1</translation>
+    </message>
+    <message>
+        <source>Ends on the next day at %1</source>
+        <translation>Termina il giorno dopo alle %1</translation>
+    </message>
+    <message>
+        <source>Records screen %1, which is not connected</source>
+        <translation>Registra lo schermo %1, che non è collegato</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>Registra: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

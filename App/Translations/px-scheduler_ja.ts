@@ -532,6 +532,33 @@
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelTaskDetails</name>
+    <message>
+        <source>This task is over.</source>
+        <translation>このタスクは終了しています。</translation>
+    </message>
+    <message>
+        <source>Afterwards: %1</source>
+        <translation>終了後：%1</translation>
+    </message>
+    <message>
+        <source>Ends at %1</source>
+        <translation>%1 に終了</translation>
+    </message>
+    <message>
+        <source>Ends on the next day at %1</source>
+        <translation>翌日 %1 に終了</translation>
+    </message>
+    <message>
+        <source>Records screen %1, which is not connected</source>
+        <translation>接続されていない画面 %1 を録画</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>録画する範囲：%1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

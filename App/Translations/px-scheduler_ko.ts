@@ -532,6 +532,33 @@
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelTaskDetails</name>
+    <message>
+        <source>This task is over.</source>
+        <translation>이 작업의 시간이 지났습니다.</translation>
+    </message>
+    <message>
+        <source>Afterwards: %1</source>
+        <translation>종료 후: %1</translation>
+    </message>
+    <message>
+        <source>Ends at %1</source>
+        <translation>%1에 종료</translation>
+    </message>
+    <message>
+        <source>Ends on the next day at %1</source>
+        <translation>다음 날 %1에 종료</translation>
+    </message>
+    <message>
+        <source>Records screen %1, which is not connected</source>
+        <translation>연결되지 않은 화면 %1 녹화</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>녹화 대상: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

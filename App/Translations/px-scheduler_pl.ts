@@ -532,6 +532,33 @@ Ta wersja jeszcze nie nagrywa.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelTaskDetails</name>
+    <message>
+        <source>This task is over.</source>
+        <translation>To zadanie już minęło.</translation>
+    </message>
+    <message>
+        <source>Afterwards: %1</source>
+        <translation>Potem: %1</translation>
+    </message>
+    <message>
+        <source>Ends at %1</source>
+        <translation>Koniec o %1</translation>
+    </message>
+    <message>
+        <source>Ends on the next day at %1</source>
+        <translation>Koniec następnego dnia o %1</translation>
+    </message>
+    <message>
+        <source>Records screen %1, which is not connected</source>
+        <translation>Nagrywa ekran %1, który nie jest podłączony</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>Nagrywa: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

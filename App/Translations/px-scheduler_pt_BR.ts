@@ -532,6 +532,33 @@ Esta versão ainda não grava.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelTaskDetails</name>
+    <message>
+        <source>This task is over.</source>
+        <translation>Esta tarefa já passou.</translation>
+    </message>
+    <message>
+        <source>Afterwards: %1</source>
+        <translation>Depois: %1</translation>
+    </message>
+    <message>
+        <source>Ends at %1</source>
+        <translation>Termina às %1</translation>
+    </message>
+    <message>
+        <source>Ends on the next day at %1</source>
+        <translation>Termina no dia seguinte às %1</translation>
+    </message>
+    <message>
+        <source>Records screen %1, which is not connected</source>
+        <translation>Grava a tela %1, que não está conectada</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>Grava: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

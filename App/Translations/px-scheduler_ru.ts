@@ -532,6 +532,33 @@
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelTaskDetails</name>
+    <message>
+        <source>This task is over.</source>
+        <translation>Время этой задачи прошло.</translation>
+    </message>
+    <message>
+        <source>Afterwards: %1</source>
+        <translation>Затем: %1</translation>
+    </message>
+    <message>
+        <source>Ends at %1</source>
+        <translation>Окончание в %1</translation>
+    </message>
+    <message>
+        <source>Ends on the next day at %1</source>
+        <translation>Окончание на следующий день в %1</translation>
+    </message>
+    <message>
+        <source>Records screen %1, which is not connected</source>
+        <translation>Записывает экран %1, который не подключён</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>Записывает: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

@@ -532,6 +532,33 @@ Bu sürüm henüz kayıt yapmıyor.</translation>
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelTaskDetails</name>
+    <message>
+        <source>This task is over.</source>
+        <translation>Bu görevin zamanı geçti.</translation>
+    </message>
+    <message>
+        <source>Afterwards: %1</source>
+        <translation>Sonra: %1</translation>
+    </message>
+    <message>
+        <source>Ends at %1</source>
+        <translation>Bitiş: %1</translation>
+    </message>
+    <message>
+        <source>Ends on the next day at %1</source>
+        <translation>Bitiş: ertesi gün %1</translation>
+    </message>
+    <message>
+        <source>Records screen %1, which is not connected</source>
+        <translation>Bağlı olmayan %1. ekranı kaydeder</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>Kaydedilen: %1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>

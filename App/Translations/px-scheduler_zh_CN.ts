@@ -532,6 +532,33 @@
     </message>
 </context>
 <context>
+    <name>Zentor::Desktop::PanelTaskDetails</name>
+    <message>
+        <source>This task is over.</source>
+        <translation>此任务的时间已过。</translation>
+    </message>
+    <message>
+        <source>Afterwards: %1</source>
+        <translation>之后：%1</translation>
+    </message>
+    <message>
+        <source>Ends at %1</source>
+        <translation>%1 结束</translation>
+    </message>
+    <message>
+        <source>Ends on the next day at %1</source>
+        <translation>次日 %1 结束</translation>
+    </message>
+    <message>
+        <source>Records screen %1, which is not connected</source>
+        <translation>录制未连接的屏幕 %1</translation>
+    </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>录制：%1</translation>
+    </message>
+</context>
+<context>
     <name>Zentor::Desktop::SchedulePage</name>
     <message>
         <source>Schedule</source>
