@@ -18,6 +18,7 @@
 #include "PanelListKeys.h"
 #include "PanelMouse.h"
 #include "PanelNameGuard.h"
+#include "PanelQuestions.h"
 #include "PanelTaskDetails.h"
 #include "PXUserSettings/StoredSettings.h"
 #include "RadioGroupTabStop.h"
@@ -90,7 +91,9 @@ void SchedulePage::Restore()
 
 void SchedulePage::AssistPanel()
 {
-    new PanelListKeys(m_panel);
+    const auto* listKeys = new PanelListKeys(m_panel);
+    const auto* questions = new PanelQuestions(m_panel);
+    connect(listKeys, &PanelListKeys::DeleteButtonReleased, questions, &PanelQuestions::Expect);
     new PanelTaskDetails(m_panel, m_store);
     new PanelFormAssistant(m_panel, m_store);
     new PanelFormKeys(m_panel);

@@ -78,6 +78,8 @@ void PanelListKeys::WatchRow(QWidget* row)
     connect(button, &QAbstractButton::pressed, this, [this, row, button] {
         m_pressedRow = FocusWidget() == button ? m_parts.rows->layout()->indexOf(row) : -1;
     });
+    connect(button, &QAbstractButton::released, this,
+            [this, row] { Q_EMIT DeleteButtonReleased(row); });
     // The list reacts to the click first: the question has been answered by then.
     connect(button, &QAbstractButton::clicked, this, [this, row] { FocusAfterDeletion(row); });
 }

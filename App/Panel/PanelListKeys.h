@@ -28,6 +28,10 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+Q_SIGNALS:
+    /// The delete button of \a row was let go. If that makes a click, it comes next.
+    void DeleteButtonReleased(QWidget* row);
+
 private:
     void WatchRows();
     void ConnectAddButton();
