@@ -2,12 +2,44 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QLayout>
 #include <QRegularExpression>
 #include <QSet>
 #include <QStyleFactory>
+#include <QWidget>
 
 namespace Zentor::Desktop {
 namespace {
+
+/// While it lives, no layout of the application follows its widgets: they change one by one, and
+/// all that counts is how they are in the end.
+class LayoutPause {
+public:
+    LayoutPause()
+    {
+        const auto windows = QApplication::topLevelWidgets();
+        for (const QWidget* window : windows) {
+            const auto layouts = window->findChildren<QLayout*>();
+            for (QLayout* layout : layouts) {
+                if (layout->isEnabled()) {
+                    layout->setEnabled(false);
+                    m_paused << layout;
+                }
+            }
+        }
+    }
+    ~LayoutPause()
+    {
+        for (QLayout* layout : qAsConst(m_paused)) {
+            layout->setEnabled(true);
+            layout->invalidate();
+        }
+    }
+    Q_DISABLE_COPY(LayoutPause)
+
+private:
+    QList<QLayout*> m_paused;
+};
 
 QString ReadResource(const QString& path)
 {
@@ -123,6 +155,7 @@ void ApplyTheme(Theme theme)
         // The same base style on every desktop, so that the style sheet meets what it was made for.
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     }
+    const LayoutPause pause;
     QApplication::setPalette(PaletteOf(theme));
     // Qt applies a sheet that replaces another to each widget once for each of its ancestors.
     qApp->setStyleSheet(QString());
