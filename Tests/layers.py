@@ -28,6 +28,7 @@ LAYERS = [
     ([LIBRARY], CONTRACT),
     (CORE, DATA),
     (HOST, CONTRACT + CORE),
+    (["Capture"], []),
     (["App/Support"], SUPPORT),
     (["App/Appearance"], SUPPORT),
     (["App/Panel"], SUPPORT),
@@ -43,7 +44,7 @@ SEARCHED = {folder: "Host" for folder in CORE + HOST}
 def headers():
     """Returns the path of each header, and fails for one in a folder of no layer."""
     found = []
-    for top in ("Lib", "Host", "App"):
+    for top in ("Lib", "Host", "Capture", "App"):
         for folder, _, names in os.walk(os.path.join(ROOT, top)):
             found += [os.path.relpath(os.path.join(folder, name), ROOT)
                       for name in names if name.endswith(".h")]

@@ -4,24 +4,31 @@
 #                                   there are none
 
 # To build the application and run it: compiler and libraries; what compiles the translations; Qt's
-# plugins for SVG icons and for Wayland; Qt's own translations; fonts for every language.
+# plugins for SVG icons and for Wayland; Qt's own translations; fonts for every language. For the
+# recorder: GStreamer with what captures X11, PipeWire and sound, and what encodes it.
 packages_to_run=(
     g++ cmake ninja-build
     qtbase5-dev libboost-dev libgoogle-glog-dev
     qttools5-dev qttools5-dev-tools
     libqt5svg5 qtwayland5 qttranslations5-l10n
-    fonts-dejavu-core fonts-noto-core fonts-noto-cjk)
+    fonts-dejavu-core fonts-noto-core fonts-noto-cjk
+    pkg-config libgstreamer1.0-dev libgstreamer-plugins-base1.0-dev
+    libx11-dev libxcb1-dev libxcb-randr0-dev
+    gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-plugins-ugly
+    gstreamer1.0-x gstreamer1.0-pulseaudio gstreamer1.0-pipewire)
 
 # To test it, in addition: linters; Qt's private headers, for stand-ins of a screen; a display that
 # nobody sees, with what works a window on it; the accessibility bus; what checks the files that the
-# application installs.
+# application installs; what judges recordings; a sound server that no device belongs to.
 packages_to_test=(
     clang-format-14 clang-tidy-14 git python3
     qtbase5-private-dev
     xvfb xauth xdotool openbox
     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils
     dbus at-spi2-core python3-gi gir1.2-atspi-2.0
-    appstream desktop-file-utils man-db)
+    appstream desktop-file-utils man-db
+    ffmpeg
+    pipewire pipewire-bin pipewire-pulse wireplumber pulseaudio-utils)
 
 missing_packages() {
     local package

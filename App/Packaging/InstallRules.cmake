@@ -18,3 +18,7 @@ install(FILES Packaging/org.zentor.PxScheduler.metainfo.xml
 install(FILES Packaging/px-scheduler.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 install(FILES Icons/px-scheduler.svg
     DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
+
+if(TARGET px-recorder)
+    install(TARGETS px-recorder RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+endif()

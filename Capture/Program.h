@@ -1,0 +1,8 @@
+#pragma once
+
+namespace Zentor::Capture {
+
+/// The program px-recorder: from its command line to its exit code.
+int RunRecorder(int argc, char** argv);
+
+} // namespace Zentor::Capture

@@ -1,0 +1,42 @@
+#include "SoundDevices.h"
+
+#include "GstHandle.h"
+
+namespace Zentor::Capture {
+namespace {
+
+using ProviderHandle = std::unique_ptr<GstDeviceProvider, ReleaseObject>;
+
+QString NameOf(GstDevice* device)
+{
+    // The name is not among a device's properties; the element made of it has it.
+    const ElementHandle element(
+        static_cast<GstElement*>(gst_object_ref_sink(gst_device_create_element(device, nullptr))));
+    gchar* name = nullptr;
+    g_object_get(element.get(), "device", &name, nullptr);
+    const TextHandle owned(name);
+    return QString::fromUtf8(name);
+}
+
+} // namespace
+
+std::optional<QStringList> CurrentSoundDevices()
+{
+    const ProviderHandle provider(gst_device_provider_factory_get_by_name("pulsedeviceprovider"));
+    if (provider == nullptr || gst_device_provider_start(provider.get()) == FALSE) {
+        return std::nullopt;
+    }
+    QStringList names;
+    GList* devices = gst_device_provider_get_devices(provider.get());
+    for (const GList* entry = devices; entry != nullptr; entry = entry->next) {
+        auto* device = static_cast<GstDevice*>(entry->data);
+        if (gst_device_has_classes(device, "Audio/Source") != FALSE) {
+            names << NameOf(device);
+        }
+    }
+    g_list_free_full(devices, gst_object_unref);
+    gst_device_provider_stop(provider.get());
+    return names;
+}
+
+} // namespace Zentor::Capture

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+
+#include <QObject>
+#include <QString>
+
+#include "SoundTimeline.h"
+
+typedef struct _GstAppSink GstAppSink; // NOLINT(modernize-use-using): as GStreamer declares it
+
+namespace Zentor::Capture {
+
+class Pipeline;
+
+/// Records one device of the sound server, and no other one: when it is absent or goes away, there
+/// is silence from then on.
+class SoundTrack final : public QObject {
+    Q_OBJECT
+
+public:
+    SoundTrack(QString device, const RecordedTime& time);
+    ~SoundTrack() override;
+
+    /// Begins to record; \a isPresent: whether the sound server has the device.
+    void Open(bool isPresent);
+    const QString& Device() const { return m_device; }
+    SoundTimeline& Timeline() { return m_timeline; }
+
+Q_SIGNALS:
+    /// The device is silent from now on.
+    void Warned(const QString& text);
+
+private:
+    bool Connect();
+    void CheckDevice();
+    void Mute(const QString& reason);
+    static GstFlowReturn Keep(GstAppSink* sink, gpointer self);
+
+    const QString m_device;
+    SoundTimeline m_timeline;
+    std::unique_ptr<Pipeline> m_pipeline;
+    bool m_isMuted = false;
+    bool m_isChecked = false;
+};
+
+} // namespace Zentor::Capture
