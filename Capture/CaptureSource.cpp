@@ -126,6 +126,9 @@ GstFlowReturn CaptureSource::Keep(GstAppSink* sink, gpointer self)
     if (sample == nullptr) {
         return GST_FLOW_EOS;
     }
+    if (!source->IsFrameValid()) {
+        return GST_FLOW_OK;
+    }
     const std::lock_guard lock(source->m_mutex);
     if (!source->m_hasFormat.exchange(true)) {
         source->m_format.reset(gst_caps_copy(gst_sample_get_caps(sample.get())));

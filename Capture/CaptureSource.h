@@ -44,9 +44,15 @@ Q_SIGNALS:
     void Opened();
     /// It could not be opened, or cannot go on.
     void Failed(const Failure& failure);
+    /// It goes on, but not with the picture that it should have.
+    void Warned(const QString& text);
 
 protected:
     explicit CaptureSource(int framesPerSecond);
+
+    /// Whether the frame that has just been captured is a picture of the screen. Called from the
+    /// thread that captures.
+    virtual bool IsFrameValid() { return true; }
 
     int FramesPerSecond() const { return m_framesPerSecond; }
     /// The description of a pipeline that brings what \a source delivers to a size of its own,

@@ -36,7 +36,7 @@ int HangInPlaceOfExit(::Display* /*display*/)
     }
 }
 
-/// As when the screen shrinks while a part of it that is gone is read.
+/// As when the screen has shrunk and a part of it that is gone is read.
 int Ignore(::Display* /*display*/, XErrorEvent* /*error*/)
 {
     return 0;

@@ -147,6 +147,7 @@ void Recording::SetUpSource()
     }
     connect(m_source.get(), &CaptureSource::Opened, this, &Recording::SetUpWriter);
     connect(m_source.get(), &CaptureSource::Failed, this, &Recording::HandleSourceFailure);
+    connect(m_source.get(), &CaptureSource::Warned, this, &Recording::Warn);
     m_source->Open();
 }
 

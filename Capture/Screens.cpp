@@ -14,11 +14,6 @@ struct Free {
 };
 template <typename T> using Reply = std::unique_ptr<T, Free>;
 
-struct Disconnect {
-    void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
-};
-using Connection = std::unique_ptr<xcb_connection_t, Disconnect>;
-
 std::optional<Screen> ScreenOf(xcb_connection_t* connection, xcb_randr_output_t output)
 {
     const Reply<xcb_randr_get_output_info_reply_t> info(xcb_randr_get_output_info_reply(
@@ -68,15 +63,6 @@ const xcb_screen_t* RootOf(xcb_connection_t* connection, int number)
     return roots.data;
 }
 
-/// The screen may have been resized since the connection was made, whose figures stay the same.
-QRect GeometryOf(xcb_connection_t* connection, const xcb_screen_t& root)
-{
-    const Reply<xcb_get_geometry_reply_t> geometry(
-        xcb_get_geometry_reply(connection, xcb_get_geometry(connection, root.root), nullptr));
-    return geometry == nullptr ? QRect(0, 0, root.width_in_pixels, root.height_in_pixels)
-                               : QRect(0, 0, geometry->width, geometry->height);
-}
-
 bool HasRandR(xcb_connection_t* connection)
 {
     const auto* extension = xcb_get_extension_data(connection, &xcb_randr_id);
@@ -85,23 +71,47 @@ bool HasRandR(xcb_connection_t* connection)
 
 } // namespace
 
-std::optional<Display> CurrentDisplay()
+void DisplayConnection::Disconnect::operator()(xcb_connection_t* connection) const
 {
-    int number = 0;
-    const Connection connection(xcb_connect(nullptr, &number));
-    if (xcb_connection_has_error(connection.get()) != 0) {
+    xcb_disconnect(connection);
+}
+
+DisplayConnection::DisplayConnection()
+    : m_connection(xcb_connect(nullptr, &m_number))
+{
+}
+
+QRect DisplayConnection::Geometry() const
+{
+    if (xcb_connection_has_error(m_connection.get()) != 0) {
+        return {};
+    }
+    // The figures of the connection itself are those of the time when it was made.
+    const auto root = RootOf(m_connection.get(), m_number)->root;
+    const Reply<xcb_get_geometry_reply_t> geometry(xcb_get_geometry_reply(
+        m_connection.get(), xcb_get_geometry(m_connection.get(), root), nullptr));
+    return geometry == nullptr ? QRect() : QRect(0, 0, geometry->width, geometry->height);
+}
+
+std::optional<Display> DisplayConnection::Describe() const
+{
+    Display display;
+    display.geometry = Geometry();
+    if (display.geometry.isEmpty()) {
         return std::nullopt;
     }
-    const auto* root = RootOf(connection.get(), number);
-    Display display;
-    display.geometry = GeometryOf(connection.get(), *root);
-    if (HasRandR(connection.get())) {
-        display.screens = ScreensOf(connection.get(), root->root);
+    if (HasRandR(m_connection.get())) {
+        display.screens = ScreensOf(m_connection.get(), RootOf(m_connection.get(), m_number)->root);
     }
     if (display.screens.empty()) {
         display.screens.push_back({QStringLiteral("screen"), display.geometry});
     }
     return display;
+}
+
+std::optional<Display> CurrentDisplay()
+{
+    return DisplayConnection().Describe();
 }
 
 QRect RecordableArea(const QRect& area, const QRect& screen)

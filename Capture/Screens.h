@@ -1,10 +1,13 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <vector>
 
 #include <QRect>
 #include <QString>
+
+struct xcb_connection_t;
 
 namespace Zentor::Capture {
 
@@ -22,7 +25,25 @@ struct Display {
     QRect geometry;
 };
 
-/// Nothing when there is no display. Never ends the process, whatever the server does.
+/// A connection to the X display in DISPLAY that does not end the process with the display.
+class DisplayConnection {
+public:
+    DisplayConnection();
+
+    /// All of what can be recorded; null when the display is gone.
+    QRect Geometry() const;
+    /// Nothing when there is no display.
+    std::optional<Display> Describe() const;
+
+private:
+    struct Disconnect {
+        void operator()(xcb_connection_t* connection) const;
+    };
+
+    int m_number = 0;
+    std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
+};
+
 std::optional<Display> CurrentDisplay();
 
 /// The part of \a area that is within \a screen, with width and height rounded down to even

@@ -12,6 +12,7 @@ namespace Zentor::Capture {
 namespace {
 
 constexpr std::chrono::milliseconds CheckInterval(20);
+constexpr std::chrono::seconds OpeningLimit(10);
 
 } // namespace
 
@@ -20,8 +21,14 @@ X11Source::X11Source(const QRect& area, bool isPointerVisible, int framesPerSeco
     , m_place(area)
     , m_isPointerVisible(isPointerVisible)
     , m_earlierLosses(DisplayLoss::Count())
+    , m_isWholeDisplay(m_display.Geometry() == area)
 {
     connect(&m_loss, &DisplayLoss::Happened, this, &X11Source::NoteLoss);
+    connect(this, &CaptureSource::Opened, &m_openingLimit, &QTimer::stop);
+    connect(&m_openingLimit, &QTimer::timeout, this, [this] {
+        Q_EMIT Failed({Code::NoDisplay, tr("the display shows no picture")});
+    });
+    m_openingLimit.setSingleShot(true);
 }
 
 void X11Source::Open()
@@ -30,14 +37,18 @@ void X11Source::Open()
     if (!Create(QStringLiteral("ximagesrc name=screen use-damage=false"))) {
         return;
     }
-    // Where one of the ends is outside, ximagesrc captures the whole screen instead.
-    g_object_set(Elements().Element("screen"), "show-pointer", gboolean(m_isPointerVisible),
-                 "startx", guint(m_place.left()), "starty", guint(m_place.top()), "endx",
-                 guint(m_place.right()), "endy", guint(m_place.bottom()), nullptr);
+    auto* screen = Elements().Element("screen");
+    g_object_set(screen, "show-pointer", gboolean(m_isPointerVisible), nullptr);
+    if (!m_isWholeDisplay) {
+        // Where one of the ends is outside, ximagesrc captures the whole display instead.
+        g_object_set(screen, "startx", guint(m_place.left()), "starty", guint(m_place.top()),
+                     "endx", guint(m_place.right()), "endy", guint(m_place.bottom()), nullptr);
+    }
     const CapsHandle rate(gst_caps_new_simple("video/x-raw", "framerate", GST_TYPE_FRACTION,
                                               FramesPerSecond(), 1, nullptr));
     g_object_set(Elements().Element("rate"), "caps", rate.get(), nullptr);
     FixSize(m_place.size());
+    m_openingLimit.start(OpeningLimit);
     Play();
 }
 
@@ -63,6 +74,23 @@ void X11Source::Close()
     } else {
         Abandon();
     }
+}
+
+bool X11Source::IsFrameValid()
+{
+    // Beyond the screen ximagesrc delivers memory that somebody else has used.
+    const bool isValid = m_isWholeDisplay || m_display.Geometry().contains(m_place);
+    if (!isValid && !m_isPartMissing) {
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                Q_EMIT Warned(tr("a part of the area is not on the screen any more; the picture "
+                                 "stands still until it is"));
+            },
+            Qt::QueuedConnection);
+    }
+    m_isPartMissing = !isValid;
+    return isValid;
 }
 
 void X11Source::NoteLoss()

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <QTimer>
+
 #include "CaptureSource.h"
 #include "DisplayLoss.h"
+#include "Screens.h"
 
 namespace Zentor::Capture {
 
-/// A part of the X display in DISPLAY. It keeps its size when the screen is resized meanwhile.
+/// The X display in DISPLAY, or a part of it. When the display is resized meanwhile, all of it is
+/// scaled to the size of the first frame, and a part stands still while it is not all there.
 class X11Source final : public CaptureSource {
     Q_OBJECT
 
@@ -16,6 +20,9 @@ public:
     void Open() override;
     void Close() override;
 
+protected:
+    bool IsFrameValid() override;
+
 private:
     void NoteLoss();
 
@@ -23,6 +30,10 @@ private:
     const bool m_isPointerVisible;
     DisplayLoss m_loss;
     const int m_earlierLosses;
+    DisplayConnection m_display;
+    const bool m_isWholeDisplay;
+    bool m_isPartMissing = false;
+    QTimer m_openingLimit;
 };
 
 } // namespace Zentor::Capture
