@@ -61,6 +61,10 @@ ConsoleSession::ConsoleSession(const RecordingRequest& request, std::int64_t dur
     });
     connect(&m_recording, &Recording::Finished, this, [this] {
         ClearProgress();
+        const auto dropped = m_recording.CurrentProgress().frames.dropped;
+        if (dropped > 0) {
+            SayToUser(tr("warning: %1 frames were dropped").arg(dropped));
+        }
         Q_EMIT Ended(EXIT_SUCCESS);
     });
     connect(&m_recording, &Recording::Failed, this, [this](const Failure& failure) {

@@ -23,10 +23,13 @@ std::int64_t BitRateOf(const Encoding& encoding)
 
 QString X264(const Encoding& encoding)
 {
-    // pass=qual obeys the bit rate, too, whose default would make all qualities the same.
+    // pass=qual obeys the bit rate, too, whose default would make all qualities the same. The
+    // options make the parameter sets of both speeds the same, so that one can follow the other in
+    // a file.
     return QStringLiteral("x264enc speed-preset=%1 pass=qual quantizer=%2 bitrate=%3"
                           " vbv-buf-capacity=2000 bframes=0 key-int-max=%4 rc-lookahead=0"
-                          " sync-lookahead=0 ! video/x-h264")
+                          " sync-lookahead=0"
+                          " option-string=weightp=0:cabac=1:8x8dct=1 ! video/x-h264,profile=high")
         .arg(encoding.isFast ? QStringLiteral("ultrafast") : QStringLiteral("superfast"))
         .arg(QuantizerOf(encoding.quality))
         .arg(BitRateOf(encoding) / 1000)
@@ -108,6 +111,11 @@ QString EncoderDescription(const QString& name, const Encoding& encoding)
         return Vp9(encoding);
     }
     return name == QLatin1String("openh264enc") ? OpenH264(encoding) : Hardware(name, encoding);
+}
+
+bool HasFastMode(const QString& name)
+{
+    return name == QLatin1String("x264enc");
 }
 
 bool DoesEncoderWork(const QString& name)

@@ -24,6 +24,9 @@ QStringList EncoderNames();
 /// The part of a pipeline from frames to what a Matroska file takes.
 QString EncoderDescription(const QString& name, const Encoding& encoding);
 
+/// Whether Encoding::isFast makes a difference that can be made in the middle of a file.
+bool HasFastMode(const QString& name);
+
 /// Encodes a few frames, since an encoder that is there may need a device that is not. An encoder
 /// of which that is known in this process is not tried again.
 bool DoesEncoderWork(const QString& name);

@@ -15,23 +15,36 @@ namespace {
 constexpr guint64 QueueSeconds = 2;
 constexpr guint64 QueueBytes = 512U * 1024U * 1024U;
 
-QString Description(const QString& encoder, int soundTracks)
+/// The sound comes a little later than the picture, which is kept encoded meanwhile.
+const char* const Queue = "queue max-size-buffers=0 max-size-bytes=0 max-size-time=10000000000";
+
+QString Description(const QStringList& encoders, int soundTracks)
 {
-    // The sound comes a little later than the picture, which is kept encoded meanwhile.
-    const QString queue = QStringLiteral("queue max-size-buffers=0 max-size-bytes=0 "
-                                         "max-size-time=10000000000");
+    // Each encoder begins when the one before it has ended.
     QString description =
-        QStringLiteral("appsrc name=picture format=time block=false max-bytes=0 ! %1 ! %2 ! "
+        QStringLiteral("concat name=encoded adjust-base=false ! %1 ! "
                        "matroskamux name=mux offset-to-zero=true writing-app=px-recorder ! "
                        "filesink name=file buffer-mode=unbuffered sync=false async=false")
-            .arg(encoder, queue);
+            .arg(QLatin1String(Queue));
+    for (int index = 0; index < encoders.size(); ++index) {
+        description +=
+            QStringLiteral(" appsrc name=picture%1 format=time block=false max-bytes=0 ! "
+                           "%2 ! encoded.")
+                .arg(index)
+                .arg(encoders[index]);
+    }
     for (int track = 0; track < soundTracks; ++track) {
         description += QStringLiteral(" appsrc name=sound%1 format=time block=false max-bytes=0 ! "
                                       "opusenc bitrate=128000 ! %2 ! mux.")
                            .arg(track)
-                           .arg(queue);
+                           .arg(QLatin1String(Queue));
     }
     return description;
+}
+
+QByteArray Numbered(const char* name, int number)
+{
+    return QByteArray(name) + QByteArray::number(number);
 }
 
 void Push(GstElement* source, BufferHandle buffer)
@@ -44,11 +57,11 @@ void Push(GstElement* source, BufferHandle buffer)
 FileWriter::FileWriter() = default;
 FileWriter::~FileWriter() = default;
 
-std::optional<Failure> FileWriter::Open(const OutputFile& file, const QString& encoder,
+std::optional<Failure> FileWriter::Open(const OutputFile& file, const QStringList& encoders,
                                         const CapsHandle& format, int soundTracks)
 {
     QString error;
-    m_pipeline = Pipeline::Parse(Description(encoder, soundTracks), &error);
+    m_pipeline = Pipeline::Parse(Description(encoders, soundTracks), &error);
     if (m_pipeline == nullptr) {
         return Failure{Code::Pipeline, error};
     }
@@ -59,14 +72,18 @@ std::optional<Failure> FileWriter::Open(const OutputFile& file, const QString& e
             });
     g_object_set(m_pipeline->Element("file"), "location", file.Location().toUtf8().constData(),
                  nullptr);
-    SetUp(format, soundTracks);
+    for (int index = 0; index < encoders.size(); ++index) {
+        m_pictures.push_back(m_pipeline->Element(Numbered("picture", index).constData()));
+    }
+    SetUp(format);
+    SetUpSound(soundTracks);
     if (!m_pipeline->Play()) {
         return Failure{Code::Pipeline, tr("the file %1 cannot be written").arg(file.Path())};
     }
     return std::nullopt;
 }
 
-void FileWriter::SetUp(const CapsHandle& format, int soundTracks)
+void FileWriter::SetUp(const CapsHandle& format)
 {
     const GstStructure* structure = gst_caps_get_structure(format.get(), 0);
     int width = 1;
@@ -79,23 +96,32 @@ void FileWriter::SetUp(const CapsHandle& format, int soundTracks)
     const guint64 bytesOfFrame = static_cast<guint64>(width) * static_cast<guint64>(height) * 3 / 2;
     m_longestQueue = std::clamp<guint64>(QueueBytes / bytesOfFrame, 2,
                                          QueueSeconds * static_cast<guint64>(rate));
-    m_picture = m_pipeline->Element("picture");
-    g_object_set(m_picture, "caps", format.get(), nullptr);
+    for (auto* picture : m_pictures) {
+        g_object_set(picture, "caps", format.get(), nullptr);
+    }
+}
+
+void FileWriter::SetUpSound(int tracks)
+{
     const CapsHandle sound(
         gst_caps_from_string("audio/x-raw,format=S16LE,rate=48000,channels=2,layout=interleaved"));
-    for (int track = 0; track < soundTracks; ++track) {
-        const QByteArray name = QByteArrayLiteral("sound") + QByteArray::number(track);
-        m_sound.push_back(m_pipeline->Element(name.constData()));
+    for (int track = 0; track < tracks; ++track) {
+        m_sound.push_back(m_pipeline->Element(Numbered("sound", track).constData()));
         g_object_set(m_sound.back(), "caps", sound.get(), nullptr);
     }
 }
 
 bool FileWriter::PushFrame(BufferHandle frame)
 {
-    if (gst_app_src_get_current_level_buffers(GST_APP_SRC(m_picture)) >= m_longestQueue) {
+    const auto waiting = gst_app_src_get_current_level_buffers(GST_APP_SRC(m_pictures.front()));
+    if (waiting >= m_longestQueue / 2 && m_pictures.size() > 1) {
+        gst_app_src_end_of_stream(GST_APP_SRC(m_pictures.front()));
+        m_pictures.erase(m_pictures.begin());
+        QMetaObject::invokeMethod(this, &FileWriter::SteppedDown, Qt::QueuedConnection);
+    } else if (waiting >= m_longestQueue) {
         return false;
     }
-    Push(m_picture, std::move(frame));
+    Push(m_pictures.front(), std::move(frame));
     return true;
 }
 
@@ -106,7 +132,9 @@ void FileWriter::PushSound(int track, BufferHandle samples)
 
 void FileWriter::EndStreams()
 {
-    gst_app_src_end_of_stream(GST_APP_SRC(m_picture));
+    for (auto* picture : m_pictures) {
+        gst_app_src_end_of_stream(GST_APP_SRC(picture));
+    }
     for (auto* sound : m_sound) {
         gst_app_src_end_of_stream(GST_APP_SRC(sound));
     }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <QObject>
+#include <QStringList>
 
 #include "Failure.h"
 #include "GstHandle.h"
@@ -22,8 +23,9 @@ public:
     FileWriter();
     ~FileWriter() override;
 
-    /// \a encoder is the description of one; \a format the caps of all frames.
-    std::optional<Failure> Open(const OutputFile& file, const QString& encoder,
+    /// \a encoders are descriptions of one each, the slowest first: when it falls behind, the next
+    /// one takes over. \a format are the caps of all frames.
+    std::optional<Failure> Open(const OutputFile& file, const QStringList& encoders,
                                 const CapsHandle& format, int soundTracks);
 
     /// Takes a frame. False when the encoder is two seconds behind: the frame is lost. Safe to call
@@ -39,12 +41,16 @@ public:
 Q_SIGNALS:
     void Closed();
     void Failed(const Failure& failure);
+    /// The encoder was too slow for this machine, and a faster one has taken over.
+    void SteppedDown();
 
 private:
-    void SetUp(const CapsHandle& format, int soundTracks);
+    void SetUp(const CapsHandle& format);
+    void SetUpSound(int tracks);
 
     std::unique_ptr<Pipeline> m_pipeline;
-    GstElement* m_picture = nullptr;
+    /// One for each encoder; frames go to the first one.
+    std::vector<GstElement*> m_pictures;
     std::vector<GstElement*> m_sound;
     guint64 m_longestQueue = 0;
 };

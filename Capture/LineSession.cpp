@@ -12,6 +12,15 @@ namespace {
 
 constexpr int ProgressMilliseconds = 1000;
 
+void AddTo(QJsonObject& event, const Recording::Progress& progress)
+{
+    event.insert(QStringLiteral("ms"), qint64(progress.milliseconds));
+    event.insert(QStringLiteral("bytes"), qint64(progress.bytes));
+    event.insert(QStringLiteral("frames"), qint64(progress.frames.pushed));
+    event.insert(QStringLiteral("duplicated"), qint64(progress.frames.duplicated));
+    event.insert(QStringLiteral("dropped"), qint64(progress.frames.dropped));
+}
+
 } // namespace
 
 LineSession::LineSession()
@@ -113,8 +122,7 @@ void LineSession::Connect()
         auto event = EventOf(Event::Finished);
         event.insert(QStringLiteral("file"), m_recording->Request().file);
         event.insert(QStringLiteral("reason"), reason);
-        event.insert(QStringLiteral("ms"), qint64(progress.milliseconds));
-        event.insert(QStringLiteral("bytes"), qint64(progress.bytes));
+        AddTo(event, progress);
         Conclude(event);
     });
     connect(recording, &Recording::Failed, this, [this](const Failure& failure) {
@@ -155,12 +163,8 @@ void LineSession::SendProgress()
 {
     const auto progress = m_recording->CurrentProgress();
     auto event = EventOf(Event::Progress);
-    event.insert(QStringLiteral("ms"), qint64(progress.milliseconds));
-    event.insert(QStringLiteral("bytes"), qint64(progress.bytes));
     event.insert(QStringLiteral("free"), qint64(progress.free));
-    event.insert(QStringLiteral("frames"), qint64(progress.frames.pushed));
-    event.insert(QStringLiteral("duplicated"), qint64(progress.frames.duplicated));
-    event.insert(QStringLiteral("dropped"), qint64(progress.frames.dropped));
+    AddTo(event, progress);
     m_channel.Send(event);
 }
 

@@ -172,13 +172,7 @@ void Recording::SetUpWriter()
     auto failure = ChooseEncoder(&encoder);
     if (!failure) {
         SetUpSound();
-        m_writer = std::make_unique<FileWriter>();
-        connect(m_writer.get(), &FileWriter::Closed, this, &Recording::CloseFile);
-        connect(m_writer.get(), &FileWriter::Failed, this, &Recording::Fail);
-        const Encoding encoding{m_source->FrameSize(), m_request.framesPerSecond,
-                                m_request.quality};
-        failure = m_writer->Open(m_output, EncoderDescription(encoder, encoding),
-                                 m_source->Format(), m_sound->TrackCount());
+        failure = OpenWriter(encoder);
     }
     if (failure) {
         Fail(*failure);
@@ -191,6 +185,24 @@ void Recording::SetUpWriter()
     if (m_order && m_state == State::Ready) {
         StartPump(*m_order);
     }
+}
+
+std::optional<Failure> Recording::OpenWriter(const QString& encoder)
+{
+    Encoding encoding{m_source->FrameSize(), m_request.framesPerSecond, m_request.quality};
+    QStringList encoders{EncoderDescription(encoder, encoding)};
+    if (HasFastMode(encoder)) {
+        encoding.isFast = true;
+        encoders << EncoderDescription(encoder, encoding);
+    }
+    m_writer = std::make_unique<FileWriter>();
+    connect(m_writer.get(), &FileWriter::Closed, this, &Recording::CloseFile);
+    connect(m_writer.get(), &FileWriter::Failed, this, &Recording::Fail);
+    connect(m_writer.get(), &FileWriter::SteppedDown, this, [this] {
+        Warn(tr("this machine is too slow for the encoder, which does less from now on; the file "
+                "becomes larger"));
+    });
+    return m_writer->Open(m_output, encoders, m_source->Format(), m_sound->TrackCount());
 }
 
 void Recording::WatchDisk()

@@ -83,6 +83,7 @@ private:
     std::optional<Failure> ChooseEncoder(QString* name) const;
     void StartPump(const StartOrder& order);
     FramePump::Ports PumpPorts();
+    std::optional<Failure> OpenWriter(const QString& encoder);
     void WatchDisk();
     void Warn(const QString& text);
     void EndStreams(bool isComplete);
