@@ -130,10 +130,18 @@ bool DoesEncoderWork(const QString& name)
     return known.value(name);
 }
 
-QString BestEncoder()
+bool IsForMp4(const QString& name)
+{
+    // An MP4 needs to know more of VP9 than a Matroska file tells.
+    return name != QLatin1String("vp9enc");
+}
+
+QString BestEncoder(bool isForMp4)
 {
     const auto names = EncoderNames();
-    const auto best = std::find_if(names.begin(), names.end(), DoesEncoderWork);
+    const auto best = std::find_if(names.begin(), names.end(), [&](const QString& name) {
+        return (!isForMp4 || IsForMp4(name)) && DoesEncoderWork(name);
+    });
     return best == names.end() ? QString() : *best;
 }
 

@@ -31,8 +31,11 @@ bool HasFastMode(const QString& name);
 /// of which that is known in this process is not tried again.
 bool DoesEncoderWork(const QString& name);
 
-/// The first encoder that works; empty when none does.
-QString BestEncoder();
+/// Whether what it writes can be put into an MP4, too.
+bool IsForMp4(const QString& name);
+
+/// The first encoder that works, and that is for MP4 if that is wanted; empty when none does.
+QString BestEncoder(bool isForMp4);
 
 /// "works", "missing" or "fails" for each encoder.
 QJsonObject EncoderStates();

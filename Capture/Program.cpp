@@ -97,15 +97,11 @@ int ObeyLines()
 int Repair(const QString& file)
 {
     Remuxer remuxer(file, file);
-    QObject::connect(&remuxer, &Remuxer::Finished, QCoreApplication::instance(),
-                     &QCoreApplication::quit, Qt::QueuedConnection);
-    QObject::connect(
-        &remuxer, &Remuxer::Failed, QCoreApplication::instance(),
-        [](const Failure& failure) {
-            SayToUser(failure.text);
-            QCoreApplication::exit(EXIT_FAILURE);
-        },
-        Qt::QueuedConnection);
+    QObject::connect(&remuxer, &Remuxer::Finished, [] { QCoreApplication::exit(EXIT_SUCCESS); });
+    QObject::connect(&remuxer, &Remuxer::Failed, [](const Failure& failure) {
+        SayToUser(failure.text);
+        QCoreApplication::exit(EXIT_FAILURE);
+    });
     QTimer::singleShot(0, &remuxer, &Remuxer::Start);
     return QCoreApplication::exec();
 }

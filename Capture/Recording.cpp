@@ -153,12 +153,15 @@ void Recording::SetUpSource()
 
 std::optional<Failure> Recording::ChooseEncoder(QString* name) const
 {
-    *name = m_request.encoder.isEmpty() ? BestEncoder() : m_request.encoder;
+    *name = m_request.encoder.isEmpty() ? BestEncoder(IsMp4()) : m_request.encoder;
     if (name->isEmpty()) {
         return Failure{Code::NoEncoder, tr("no encoder works on this machine")};
     }
     if (!DoesEncoderWork(*name)) {
         return Failure{Code::NoEncoder, tr("the encoder %1 does not work here").arg(*name)};
+    }
+    if (IsMp4() && !IsForMp4(*name)) {
+        return Failure{Code::NoEncoder, tr("what %1 writes does not fit into an MP4").arg(*name)};
     }
     return std::nullopt;
 }

@@ -76,8 +76,6 @@ bool Remuxer::TakeName() const
 
 void Remuxer::Fail(const QString& reason)
 {
-    m_copy.reset();
-    m_check.reset();
     m_file.Remove();
     Q_EMIT Failed(
         {Code::Remux, tr("%1 could not be copied to %2: %3").arg(m_input, m_output, reason)});

@@ -116,7 +116,8 @@ std::optional<Display> CurrentDisplay()
 
 QRect RecordableArea(const QRect& area, const QRect& screen)
 {
-    const QRect part = area.intersected(screen);
+    // QRect takes a negative width for one to the left.
+    const QRect part = area.isValid() ? area.intersected(screen) : QRect();
     constexpr int even = ~1;
     const QRect rounded(part.topLeft(), QSize(part.width() & even, part.height() & even));
     return rounded.isEmpty() ? QRect() : rounded;

@@ -63,7 +63,7 @@ private Q_SLOTS:
                 .exitCode,
             0);
         QCOMPARE(MediaIn(file).Size(), QSize(80, 390));
-        QVERIFY(IsAbout(ColourAt(file, 0.5, {40, 100}), QColor(191, 0, 191)));
+        QVERIFY(IsAbout(ColourAt(file, 0.5, {40, 100}), Qt::magenta));
     }
 
     /// It sends one frame in half a minute.

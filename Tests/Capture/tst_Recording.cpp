@@ -61,9 +61,6 @@ private Q_SLOTS:
         QTest::newRow("x264 in MP4") << "x264enc"
                                      << "mp4"
                                      << "h264";
-        QTest::newRow("VP9 in MP4") << "vp9enc"
-                                    << "mp4"
-                                    << "vp9";
     }
 
     void encodesWithEachEncoderThatIsInstalled()
