@@ -225,7 +225,9 @@ void Recording::SetUpSound()
     }
     const auto devices = present ? m_request.sound : QStringList();
     for (const auto& device : devices) {
-        m_tracks.push_back(std::make_unique<SoundTrack>(device, m_time));
+        // A change waits for the source to capture it, and then for the pump: half a frame each.
+        const GstClockTime delay = GST_SECOND / static_cast<guint64>(m_request.framesPerSecond);
+        m_tracks.push_back(std::make_unique<SoundTrack>(device, m_time, delay));
         connect(m_tracks.back().get(), &SoundTrack::Warned, this, &Recording::Warn);
         m_tracks.back()->Open(present->contains(device));
         tracks.push_back(m_tracks.back().get());

@@ -15,8 +15,9 @@ constexpr const char* Description =
 
 } // namespace
 
-SoundTrack::SoundTrack(QString device, const RecordedTime& time)
+SoundTrack::SoundTrack(QString device, const RecordedTime& time, GstClockTime delay)
     : m_device(std::move(device))
+    , m_delay(delay)
     , m_timeline(time)
 {
 }
@@ -99,7 +100,8 @@ GstFlowReturn SoundTrack::Keep(GstAppSink* sink, gpointer self)
         QMetaObject::invokeMethod(track, &SoundTrack::CheckDevice, Qt::QueuedConnection);
     }
     constexpr gsize bytesOfFrame = SoundTimeline::Channels * sizeof(std::int16_t);
-    track->m_timeline.Add(GST_BUFFER_PTS(buffer), reinterpret_cast<const std::int16_t*>(map.data),
+    track->m_timeline.Add(GST_BUFFER_PTS(buffer) + track->m_delay,
+                          reinterpret_cast<const std::int16_t*>(map.data),
                           static_cast<std::int64_t>(map.size / bytesOfFrame));
     gst_buffer_unmap(buffer, &map);
     return GST_FLOW_OK;

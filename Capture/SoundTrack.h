@@ -19,7 +19,8 @@ class SoundTrack final : public QObject {
     Q_OBJECT
 
 public:
-    SoundTrack(QString device, const RecordedTime& time);
+    /// \a delay is how much later than its sound a picture is in the file.
+    SoundTrack(QString device, const RecordedTime& time, GstClockTime delay);
     ~SoundTrack() override;
 
     /// Begins to record; \a isPresent: whether the sound server has the device.
@@ -38,6 +39,7 @@ private:
     static GstFlowReturn Keep(GstAppSink* sink, gpointer self);
 
     const QString m_device;
+    const GstClockTime m_delay;
     SoundTimeline m_timeline;
     std::unique_ptr<Pipeline> m_pipeline;
     bool m_isMuted = false;

@@ -21,4 +21,7 @@ install(FILES Icons/px-scheduler.svg
 
 if(TARGET px-recorder)
     install(TARGETS px-recorder RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+    install(FILES ../Capture/Packaging/px-recorder.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+    install(FILES ../Capture/Packaging/px-recorder.bash
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME px-recorder)
 endif()

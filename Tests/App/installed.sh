@@ -12,6 +12,14 @@ test -s "$prefix/pictures/01-schedule.png"
 test -s "$prefix/share/icons/hicolor/scalable/apps/px-scheduler.svg"
 desktop-file-validate "$prefix/share/applications/org.zentor.PxScheduler.desktop"
 appstreamcli validate --no-net "$prefix/share/metainfo/org.zentor.PxScheduler.metainfo.xml"
-warnings=$(man --warnings --local-file "$prefix/share/man/man1/px-scheduler.1" 2>&1 >/dev/null)
-test -z "$warnings" || { echo "$warnings"; exit 1; }
+pages=("$prefix/share/man/man1/px-scheduler.1")
+if [[ -e "$prefix/bin/px-recorder" ]]; then
+    "$prefix/bin/px-recorder" --version
+    bash -n "$prefix/share/bash-completion/completions/px-recorder"
+    pages+=("$prefix/share/man/man1/px-recorder.1")
+fi
+for page in "${pages[@]}"; do
+    warnings=$(man --warnings --local-file "$page" 2>&1 >/dev/null)
+    test -z "$warnings" || { echo "$warnings"; exit 1; }
+done
 echo "The installed application is complete."
