@@ -1,7 +1,5 @@
 #include "CaptureSource.h"
 
-#include <gst/app/gstappsink.h>
-
 #include "Pipeline.h"
 #include "Protocol.h"
 #include "Screens.h"

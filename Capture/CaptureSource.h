@@ -9,10 +9,10 @@
 #include <QRect>
 #include <QSize>
 
+#include <gst/app/gstappsink.h>
+
 #include "Failure.h"
 #include "GstHandle.h"
-
-typedef struct _GstAppSink GstAppSink; // NOLINT(modernize-use-using): as GStreamer declares it
 
 namespace Zentor::Capture {
 

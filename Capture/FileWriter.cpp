@@ -13,7 +13,7 @@ namespace {
 
 /// What waits to be encoded takes memory, and time to encode when the file is to be closed.
 constexpr guint64 QueueSeconds = 2;
-constexpr guint64 QueueBytes = 512U * 1024U * 1024U;
+constexpr guint64 QueueBytes = 512'000'000;
 
 /// The sound comes a little later than the picture, which is kept encoded meanwhile.
 const char* const Queue = "queue max-size-buffers=0 max-size-bytes=0 max-size-time=10000000000";

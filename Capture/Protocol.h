@@ -15,65 +15,70 @@ constexpr int ProtocolVersion = 1;
 /// Bytes of the longest line that the recorder reads.
 constexpr int MaximumLineLength = 65536;
 
+template <int Size> constexpr QLatin1String Name(const char (&text)[Size])
+{
+    return QLatin1String(text, Size - 1);
+}
+
 namespace Command {
-constexpr QLatin1String Probe("probe");
-constexpr QLatin1String Prepare("prepare");
-constexpr QLatin1String Start("start");
-constexpr QLatin1String Stop("stop");
-constexpr QLatin1String Pause("pause");
-constexpr QLatin1String Resume("resume");
-constexpr QLatin1String Cancel("cancel");
-constexpr QLatin1String Quit("quit");
+constexpr QLatin1String Probe = Name("probe");
+constexpr QLatin1String Prepare = Name("prepare");
+constexpr QLatin1String Start = Name("start");
+constexpr QLatin1String Stop = Name("stop");
+constexpr QLatin1String Pause = Name("pause");
+constexpr QLatin1String Resume = Name("resume");
+constexpr QLatin1String Cancel = Name("cancel");
+constexpr QLatin1String Quit = Name("quit");
 } // namespace Command
 
 namespace Event {
-constexpr QLatin1String Hello("hello");
-constexpr QLatin1String Encoders("encoders");
-constexpr QLatin1String Ready("ready");
-constexpr QLatin1String Recording("recording");
-constexpr QLatin1String Progress("progress");
-constexpr QLatin1String Warning("warning");
-constexpr QLatin1String Finished("finished");
-constexpr QLatin1String Cancelled("cancelled");
-constexpr QLatin1String Failed("failed");
+constexpr QLatin1String Hello = Name("hello");
+constexpr QLatin1String Encoders = Name("encoders");
+constexpr QLatin1String Ready = Name("ready");
+constexpr QLatin1String Recording = Name("recording");
+constexpr QLatin1String Progress = Name("progress");
+constexpr QLatin1String Warning = Name("warning");
+constexpr QLatin1String Finished = Name("finished");
+constexpr QLatin1String Cancelled = Name("cancelled");
+constexpr QLatin1String Failed = Name("failed");
 } // namespace Event
 
 /// Why a recording ended whose file is complete: the member "reason" of "finished".
 namespace Reason {
-constexpr QLatin1String Duration("duration");
-constexpr QLatin1String Stopped("stopped");
-constexpr QLatin1String DiskLow("disk-low");
-constexpr QLatin1String NoDisplay("no-display");
-constexpr QLatin1String ClientGone("client-gone");
-constexpr QLatin1String Quit("quit");
+constexpr QLatin1String Duration = Name("duration");
+constexpr QLatin1String Stopped = Name("stopped");
+constexpr QLatin1String DiskLow = Name("disk-low");
+constexpr QLatin1String NoDisplay = Name("no-display");
+constexpr QLatin1String ClientGone = Name("client-gone");
+constexpr QLatin1String Quit = Name("quit");
 } // namespace Reason
 
 /// The member "code" of "failed".
 namespace Code {
 /// A second "prepare" while a recording is prepared or runs.
-constexpr QLatin1String Busy("busy");
+constexpr QLatin1String Busy = Name("busy");
 /// The file exists, or the one that an MP4 is made from.
-constexpr QLatin1String Exists("exists");
-constexpr QLatin1String NoFolder("no-folder");
-constexpr QLatin1String NotWritable("not-writable");
+constexpr QLatin1String Exists = Name("exists");
+constexpr QLatin1String NoFolder = Name("no-folder");
+constexpr QLatin1String NotWritable = Name("not-writable");
 /// Less space is free than is to be kept, or there was none left to write to.
-constexpr QLatin1String DiskFull("disk-full");
+constexpr QLatin1String DiskFull = Name("disk-full");
 /// There is no display, no such screen, or nothing of the area is on one.
-constexpr QLatin1String NoDisplay("no-display");
+constexpr QLatin1String NoDisplay = Name("no-display");
 /// The user or the desktop refused that the screen is recorded.
-constexpr QLatin1String Refused("refused");
+constexpr QLatin1String Refused = Name("refused");
 /// No encoder works here, or the chosen one does not.
-constexpr QLatin1String NoEncoder("no-encoder");
+constexpr QLatin1String NoEncoder = Name("no-encoder");
 /// A component failed in a way that has no code of its own.
-constexpr QLatin1String Pipeline("pipeline");
+constexpr QLatin1String Pipeline = Name("pipeline");
 /// The file could not be converted to MP4; what was recorded is in the Matroska file.
-constexpr QLatin1String Remux("remux");
+constexpr QLatin1String Remux = Name("remux");
 /// It was stopped before anything had been recorded.
-constexpr QLatin1String Nothing("nothing-recorded");
+constexpr QLatin1String Nothing = Name("nothing-recorded");
 /// The line is not one of the protocol. Nothing has changed.
-constexpr QLatin1String BadLine("bad-line");
+constexpr QLatin1String BadLine = Name("bad-line");
 /// The command is about a recording that does not exist, or not any longer. Nothing has changed.
-constexpr QLatin1String NoRecording("no-recording");
+constexpr QLatin1String NoRecording = Name("no-recording");
 } // namespace Code
 
 enum class Quality { Small, Normal, High };

@@ -1,7 +1,5 @@
 #include "SoundTrack.h"
 
-#include <gst/app/gstappsink.h>
-
 #include "Pipeline.h"
 
 namespace Zentor::Capture {

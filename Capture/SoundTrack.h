@@ -5,9 +5,9 @@
 #include <QObject>
 #include <QString>
 
-#include "SoundTimeline.h"
+#include <gst/app/gstappsink.h>
 
-typedef struct _GstAppSink GstAppSink; // NOLINT(modernize-use-using): as GStreamer declares it
+#include "SoundTimeline.h"
 
 namespace Zentor::Capture {
 
