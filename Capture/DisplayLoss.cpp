@@ -55,7 +55,10 @@ DisplayLoss::DisplayLoss()
 DisplayLoss::~DisplayLoss()
 {
     const QMutexLocker lock(&ListenerMutex());
-    listener = nullptr;
+    // The next one may have been created already.
+    if (listener == this) {
+        listener = nullptr;
+    }
 }
 
 int DisplayLoss::Count()

@@ -44,7 +44,6 @@ void FramePump::Stop()
 void FramePump::Pause()
 {
     const std::lock_guard lock(m_mutex);
-    m_isPaused = true;
     m_time.Pause(ClockNow());
     m_changed.notify_all();
 }
@@ -52,15 +51,8 @@ void FramePump::Pause()
 void FramePump::Resume()
 {
     const std::lock_guard lock(m_mutex);
-    m_isPaused = false;
     m_time.Resume(ClockNow());
     m_changed.notify_all();
-}
-
-bool FramePump::IsPaused() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_isPaused;
 }
 
 FramePump::Counts FramePump::CurrentCounts() const

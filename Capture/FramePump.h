@@ -48,7 +48,6 @@ public:
     void Pause();
     void Resume();
 
-    bool IsPaused() const;
     Counts CurrentCounts() const;
     /// How long the file is at the moment.
     GstClockTime Length() const;
@@ -69,11 +68,10 @@ private:
     std::atomic<std::int64_t> m_dropped = 0;
     std::atomic<std::int64_t> m_ticks = 0;
 
-    mutable std::mutex m_mutex;
+    std::mutex m_mutex;
     std::condition_variable m_changed;
     bool m_isStopped = false;
     bool m_isDiscarded = false;
-    bool m_isPaused = false;
     std::thread m_thread;
 };
 

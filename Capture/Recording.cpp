@@ -324,6 +324,7 @@ void Recording::Cancel()
     }
     m_state = State::Over;
     Release();
+    m_remuxer.reset();
     m_output.Remove();
     Q_EMIT Cancelled();
 }

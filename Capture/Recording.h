@@ -53,7 +53,6 @@ public:
     void Cancel();
 
     const RecordingRequest& Request() const { return m_request; }
-    bool IsPaused() const { return m_pump != nullptr && m_pump->IsPaused(); }
     Progress CurrentProgress() const;
 
 Q_SIGNALS:

@@ -20,7 +20,13 @@ Remuxer::Remuxer(QString input, QString output)
 {
 }
 
-Remuxer::~Remuxer() = default;
+Remuxer::~Remuxer()
+{
+    m_copy.reset();
+    m_check.reset();
+    // Nothing is there any more once it has got its name.
+    m_file.Remove();
+}
 
 void Remuxer::Start()
 {

@@ -19,6 +19,7 @@ public:
     /// The ending of \a output decides about the format. It may be \a input, whose place it takes;
     /// any other existing file is left alone.
     Remuxer(QString input, QString output);
+    /// Leaves nothing behind when it has not finished.
     ~Remuxer() override;
 
     void Start();

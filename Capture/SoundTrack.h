@@ -25,7 +25,6 @@ public:
 
     /// Begins to record; \a isPresent: whether the sound server has the device.
     void Open(bool isPresent);
-    const QString& Device() const { return m_device; }
     SoundTimeline& Timeline() { return m_timeline; }
 
 Q_SIGNALS:

@@ -98,8 +98,6 @@ private Q_SLOTS:
         QTest::newRow("a file as folder") << "file/a.mkv" << QStringList();
         QTest::newRow("reserve") << "a.mkv" << QStringList{"--reserve", "9000000000000000"};
         QTest::newRow("VP9 as MP4") << "a.mp4" << QStringList{"--encoder", "vp9enc"};
-        QTest::newRow("encoder that is not there")
-            << "a.mkv" << QStringList{"--encoder", "vah264enc"};
     }
 
     void failsWhereItCannotWrite()

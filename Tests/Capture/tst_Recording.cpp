@@ -9,6 +9,22 @@ QStringList TestPicture(const QString& file, const QStringList& more)
     return QStringList{"--source", "test", "--file", file} + more;
 }
 
+/// Has GStreamer see all of its plugins but these.
+void LeavePluginsOut(Surroundings& surroundings, const QStringList& names)
+{
+    const QString folder = surroundings.Path("plugins");
+    QDir().mkpath(folder);
+    const QDir installed(PX_PLUGINS);
+    const auto plugins = installed.entryList({"*.so"}, QDir::Files);
+    for (const auto& plugin : plugins) {
+        if (!names.contains(plugin)) {
+            QFile::link(installed.filePath(plugin), folder + "/" + plugin);
+        }
+    }
+    surroundings.Set("GST_PLUGIN_SYSTEM_PATH_1_0", folder);
+    surroundings.Set("GST_REGISTRY_1_0", surroundings.Path("registry"));
+}
+
 } // namespace
 
 class tst_Recording : public WidgetTest {
@@ -80,6 +96,35 @@ private Q_SLOTS:
         QCOMPARE(media.streams.front().codec, codec);
         QCOMPARE(media.Frames(), 15);
         QCOMPARE(DecodingErrors(file), QString());
+    }
+
+    void takesTheEncoderThatIsLeft()
+    {
+        Surroundings surroundings;
+        LeavePluginsOut(surroundings, {"libgstx264.so", "libgstva.so", "libgstopenh264.so"});
+        const QString file = surroundings.Path("a.mkv");
+        QCOMPARE(Record(surroundings, TestPicture(file, {"--duration", "0.5"})).exitCode, 0);
+        QCOMPARE(MediaIn(file).streams.front().codec, QStringLiteral("vp9"));
+        for (const QStringList& options :
+             {QStringList{"--encoder", "x264enc"}, QStringList{"--duration", "0.5"}}) {
+            // None is left for an MP4.
+            const QString name = surroundings.Path(options.contains("x264enc") ? "b.mkv" : "b.mp4");
+            const auto outcome = Record(surroundings, TestPicture(name, options));
+            QCOMPARE(outcome.exitCode, 1);
+            QCOMPARE(outcome.errorLines.size(), 1);
+            QVERIFY(!QFile::exists(name));
+        }
+    }
+
+    void showsProgressOnATerminal()
+    {
+        const Surroundings surroundings;
+        const QString command =
+            PX_RECORDER " --source test --duration 2.5 --file " + surroundings.Path("a.mkv");
+        const QByteArray output =
+            surroundings.Run("script", {"--quiet", "--return", "--command", command, "/dev/null"});
+        QVERIFY2(output.contains("0:00:01"), output.constData());
+        QVERIFY2(output.contains("frames"), output.constData());
     }
 
     /// Several times what a machine can encode.

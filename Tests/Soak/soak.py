@@ -94,7 +94,9 @@ def record_sound(program, seconds=600):
             "gst-launch-1.0", "-q", "videotestsrc", "pattern=blink", "timestamp-offset=1000000000",
             "!", "video/x-raw,width=320,height=240,framerate=1/1", "!", "videoconvert", "!",
             "ximagesink", "audiotestsrc", "wave=ticks", "tick-interval=2000000000", "volume=0.8",
-            "!", "audio/x-raw,rate=48000", "!", "pulsesink", "device=speakers")
+            "!", "audio/x-raw,rate=48000", "!", "pulsesink", "device=speakers",
+            # Sound that is played late because the machine is busy would be late in the file, too.
+            "buffer-time=1000000")
         time.sleep(5)
         file = surroundings.path("sound.mkv")
         recorder = Recorder(program, surroundings)
@@ -108,6 +110,7 @@ def record_sound(program, seconds=600):
         recorder.close()
         frames = frames_in(file)
         offsets = offsets_in(file)
+    print("offsets: " + " ".join("%.0f" % offset for offset in offsets), flush=True)
     part = max(1, len(offsets) // 10)
     return [("%d s with sound" % seconds, "%d of %d frames, %d duplicated, %d dropped"
              % (frames, seconds * FRAMES_A_SECOND, line["duplicated"], line["dropped"])),
