@@ -98,8 +98,8 @@ GstFlowReturn SoundTrack::Keep(GstAppSink* sink, gpointer self)
         QMetaObject::invokeMethod(track, &SoundTrack::CheckDevice, Qt::QueuedConnection);
     }
     constexpr gsize bytesOfFrame = SoundTimeline::Channels * sizeof(std::int16_t);
-    track->m_timeline.Add(GST_BUFFER_PTS(buffer) + track->m_delay,
-                          reinterpret_cast<const std::int16_t*>(map.data),
+    const GstClockTime moment = track->m_clock.Correct(GST_BUFFER_PTS(buffer), ClockNow());
+    track->m_timeline.Add(moment + track->m_delay, reinterpret_cast<const std::int16_t*>(map.data),
                           static_cast<std::int64_t>(map.size / bytesOfFrame));
     gst_buffer_unmap(buffer, &map);
     return GST_FLOW_OK;

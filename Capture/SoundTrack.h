@@ -7,6 +7,7 @@
 
 #include <gst/app/gstappsink.h>
 
+#include "SoundClock.h"
 #include "SoundTimeline.h"
 
 namespace Zentor::Capture {
@@ -40,6 +41,7 @@ private:
     const QString m_device;
     const GstClockTime m_delay;
     SoundTimeline m_timeline;
+    SoundClock m_clock;
     std::unique_ptr<Pipeline> m_pipeline;
     bool m_isMuted = false;
     bool m_isChecked = false;
