@@ -118,6 +118,8 @@ int Run(const RecorderOptions& options)
         break;
     }
     gst_init(nullptr, nullptr);
+    // Displays are looked at more than once, with no client in between that would stay.
+    const DisplayConnection presence;
     switch (options.task) {
     case RecorderOptions::Task::Lines:
         return ObeyLines();

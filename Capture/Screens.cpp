@@ -1,7 +1,9 @@
 #include "Screens.h"
 
+#include <chrono>
 #include <cstdlib>
 #include <memory>
+#include <thread>
 
 #include <xcb/randr.h>
 #include <xcb/xcb.h>
@@ -69,6 +71,14 @@ bool HasRandR(xcb_connection_t* connection)
     return extension != nullptr && extension->present != 0;
 }
 
+/// Whether the server answers.
+bool IsAnswered(xcb_connection_t* connection)
+{
+    const Reply<xcb_get_input_focus_reply_t> answer(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    return answer != nullptr;
+}
+
 } // namespace
 
 void DisplayConnection::Disconnect::operator()(xcb_connection_t* connection) const
@@ -77,8 +87,19 @@ void DisplayConnection::Disconnect::operator()(xcb_connection_t* connection) con
 }
 
 DisplayConnection::DisplayConnection()
-    : m_connection(xcb_connect(nullptr, &m_number))
 {
+    // A server that its last client has left starts anew, and drops who has come meanwhile.
+    constexpr int mostAttempts = 5;
+    constexpr std::chrono::milliseconds untilItIsBack(50);
+    for (int attempt = 1;; ++attempt) {
+        m_connection.reset(xcb_connect(nullptr, &m_number));
+        const int error = xcb_connection_has_error(m_connection.get());
+        const bool isNamed = error != XCB_CONN_CLOSED_PARSE_ERR;
+        if ((error == 0 && IsAnswered(m_connection.get())) || !isNamed || attempt == mostAttempts) {
+            break;
+        }
+        std::this_thread::sleep_for(untilItIsBack);
+    }
 }
 
 QRect DisplayConnection::Geometry() const

@@ -25,7 +25,8 @@ struct Display {
     QRect geometry;
 };
 
-/// A connection to the X display in DISPLAY that does not end the process with the display.
+/// A connection to the X display in DISPLAY that does not end the process with the display. While
+/// it lasts, the server does not start anew because others leave it.
 class DisplayConnection {
 public:
     DisplayConnection();

@@ -31,7 +31,9 @@ void Handle(int signal, void (*handler)(int))
 {
     struct sigaction action { };
     sigaction(signal, nullptr, &action);
-    if (action.sa_handler != SIG_IGN) {
+    // Who is to outlive the terminal has been told so; the others a shell has programs in the
+    // background ignore, where they are nevertheless how a recording is ended.
+    if (signal != SIGHUP || action.sa_handler != SIG_IGN) {
         action.sa_handler = handler;
         action.sa_flags = SA_RESTART;
         sigaction(signal, &action, nullptr);

@@ -82,11 +82,11 @@ QByteArray Surroundings::Run(const QString& program, const QStringList& argument
     return process.readAllStandardOutput();
 }
 
-QProcess* StartDisplay(Surroundings& surroundings, const QString& size)
+QProcess* StartDisplay(Surroundings& surroundings, const QString& size, const QStringList& options)
 {
     auto& server = surroundings.Start(
         QStringLiteral("Xvfb"),
-        {"-displayfd", "1", "-screen", "0", size + "x24", "-nolisten", "tcp", "-noreset"});
+        QStringList{"-displayfd", "1", "-screen", "0", size + "x24", "-nolisten", "tcp"} + options);
     if (!CanBeRead(server)) {
         return nullptr;
     }

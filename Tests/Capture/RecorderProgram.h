@@ -40,9 +40,10 @@ private:
 };
 
 /// Starts an X server that nobody sees with one screen, and puts it into the surroundings. It can
-/// be resized to 640x480.
-QProcess* StartDisplay(Surroundings& surroundings,
-                       const QString& size = QStringLiteral("1280x720"));
+/// be resized to 640x480. Usually an X server starts anew when its last client leaves; this one
+/// stays as it is, unless \a options say otherwise.
+QProcess* StartDisplay(Surroundings& surroundings, const QString& size = QStringLiteral("1280x720"),
+                       const QStringList& options = {QStringLiteral("-noreset")});
 void PaintDisplay(const Surroundings& surroundings, const QString& colour);
 void ResizeDisplay(const Surroundings& surroundings, const QString& mode);
 

@@ -158,21 +158,42 @@ private Q_SLOTS:
         }
     }
 
+    /// Each time that the recorder has left it, such a display starts anew.
+    void recordsOnADisplayThatNobodyElseUses()
+    {
+        Surroundings surroundings;
+        QVERIFY(StartDisplay(surroundings, QStringLiteral("640x480"), {}) != nullptr);
+        for (int round = 0; round < 10; ++round) {
+            const QString file = surroundings.Path(QStringLiteral("%1.mkv").arg(round));
+            const auto outcome =
+                Record(surroundings, {"--file", file, "--duration", "0.1", "--fps", "30"});
+            QCOMPARE(outcome.errorLines, QStringList());
+            QCOMPARE(outcome.exitCode, 0);
+            QCOMPARE(MediaIn(file).Frames(), 3);
+        }
+    }
+
     void endsCompleteBySignal_data()
     {
         QTest::addColumn<int>("signal");
-        QTest::newRow("SIGINT") << SIGINT;
-        QTest::newRow("SIGTERM") << SIGTERM;
+        QTest::addColumn<bool>("isInBackground");
+        QTest::newRow("SIGINT") << SIGINT << false;
+        QTest::newRow("SIGTERM") << SIGTERM << false;
+        QTest::newRow("SIGINT in the background") << SIGINT << true;
     }
 
     void endsCompleteBySignal()
     {
         QFETCH(int, signal);
+        QFETCH(bool, isInBackground);
         Surroundings surroundings;
         QVERIFY(StartDisplay(surroundings) != nullptr);
         const QString file = surroundings.Path("a.mkv");
         QProcess recorder;
+        // As a shell does it.
+        const auto before = std::signal(SIGINT, isInBackground ? SIG_IGN : SIG_DFL);
         StartRecorder(surroundings, recorder, {"--file", file});
+        std::signal(SIGINT, before);
         QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(file).size() > 0, Patience);
         kill(static_cast<pid_t>(recorder.processId()), signal);
         const auto outcome = EndOf(recorder);
