@@ -39,11 +39,13 @@ void SetHandler(int signal, void (*handler)(int))
     sigaction(signal, &action, nullptr);
 }
 
-bool IsIgnored(int signal)
+/// Who is to outlive the terminal has been told so. The others a shell has programs in the
+/// background ignore, which must end by them nevertheless.
+bool IsToBeIgnored(int signal)
 {
     struct sigaction action { };
     sigaction(signal, nullptr, &action);
-    return action.sa_handler == SIG_IGN;
+    return signal == SIGHUP && action.sa_handler == SIG_IGN;
 }
 
 } // namespace
@@ -63,7 +65,7 @@ TerminationSignals::TerminationSignals()
         }
     });
     for (const int signal : Signals) {
-        if (!IsIgnored(signal)) {
+        if (!IsToBeIgnored(signal)) {
             SetHandler(signal, Note);
         }
     }
@@ -72,7 +74,7 @@ TerminationSignals::TerminationSignals()
 TerminationSignals::~TerminationSignals()
 {
     for (const int signal : Signals) {
-        if (!IsIgnored(signal)) {
+        if (!IsToBeIgnored(signal)) {
             SetHandler(signal, SIG_DFL);
         }
     }

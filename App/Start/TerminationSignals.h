@@ -7,8 +7,8 @@ namespace Zentor::Desktop {
 /// Turns the signals by which a desktop, a shell or an administrator ends a program (SIGTERM,
 /// SIGINT, SIGHUP) into one of Qt, which comes from the event loop.
 ///
-/// As long as it lives they no longer end the process by themselves. One that the process was
-/// started to ignore, as by nohup, stays ignored.
+/// As long as it lives they no longer end the process by themselves. Where the process was started
+/// to ignore SIGHUP, as by nohup, it stays ignored.
 class TerminationSignals final : public QObject {
     Q_OBJECT
 

@@ -167,6 +167,18 @@ private Q_SLOTS:
         QCOMPARE(task->title, QStringLiteral("Lecture heard"));
     }
 
+    /// As in the background of a shell without jobs.
+    void endsByASignalThatAShellHasItIgnore()
+    {
+        const QTemporaryDir folder;
+        RememberTaskIn(folder);
+        QCOMPARE(RunIn(folder, QStringLiteral("form"), SIGINT,
+                       {QStringLiteral("/bin/sh"), QStringLiteral("-c"),
+                        QStringLiteral("trap '' INT; exec \"$0\" \"$@\"")}),
+                 0);
+        QVERIFY(Desktop::UnfinishedTaskIn(*OpenStoreIn(folder)).has_value());
+    }
+
 private:
     static void RememberTaskIn(const QTemporaryDir& folder)
     {
