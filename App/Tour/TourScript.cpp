@@ -191,6 +191,11 @@ void ShowRefusedTask(ScreenshotTour& tour)
     tour.PointAway();
     tour.Picture(QStringLiteral("13-new-task-same-name"));
     tour.Type(QStringLiteral(" 2"));
+    // Past the sections of the date, onto the hours: from the free start back to the taken one.
+    for (int section = 0; section < 4; ++section) {
+        tour.Press(Qt::Key_Tab);
+    }
+    tour.Press(Qt::Key_Down);
     tour.PointAway();
     tour.Picture(QStringLiteral("14-new-task-same-time"));
 
