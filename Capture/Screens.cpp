@@ -20,7 +20,9 @@ std::optional<Screen> ScreenOf(xcb_connection_t* connection, xcb_randr_output_t 
 {
     const Reply<xcb_randr_get_output_info_reply_t> info(xcb_randr_get_output_info_reply(
         connection, xcb_randr_get_output_info(connection, output, XCB_CURRENT_TIME), nullptr));
-    if (info == nullptr || info->crtc == XCB_NONE) {
+    // Outputs that only seem to be there are no screens to Qt either, by whose order users count.
+    if (info == nullptr || info->connection != XCB_RANDR_CONNECTION_CONNECTED
+        || info->crtc == XCB_NONE) {
         return std::nullopt;
     }
     const Reply<xcb_randr_get_crtc_info_reply_t> crtc(xcb_randr_get_crtc_info_reply(
