@@ -1227,22 +1227,7 @@ private Q_SLOTS:
         // A damaged one, and one that is changed later.
         chmod(qPrintable(inner), 0755);
         for (const bool isDamaged : {true, false}) {
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            file.write(isDamaged ? "damage" : "{\"version\": 1}");
-            file.close();
-            chmod(qPrintable(path), mode_t(before));
-            SettingsStore store(path);
-            QVERIFY(Open(store));
-            QVERIFY(isDamaged || (file.open(QIODevice::WriteOnly) && file.write("changed") > 0));
-            file.close();
-            SetPage(store, QStringLiteral("y"));
-            // An administrator may write to it nevertheless.
-            chmod(qPrintable(path), mode_t(before | 0200));
-            chmod(qPrintable(path), mode_t(before));
-            QCOMPARE(store.Flush(), geteuid() == 0 || (before & 0200) != 0);
-            QCOMPARE(store.Notices().empty(), false);
-            QCOMPARE(PermissionsOf(store.Notices().back().keptPath), kept);
+            KeepFileOf(path, mode_t(before), isDamaged, kept);
         }
         QCOMPARE(PermissionsOf(inner), 0755);
         umask(mask);
@@ -1274,6 +1259,29 @@ private Q_SLOTS:
                 QVERIFY(record.title.endsWith(QStringLiteral(" of ") + PageOf(settings)));
             }
         }
+    }
+
+private:
+    /// Has the store keep what is in the file \a path, with the permissions \a before.
+    static void KeepFileOf(const QString& path, mode_t before, bool isDamaged,
+                           int permissionsOfKept)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(isDamaged ? "damage" : "{\"version\": 1}");
+        file.close();
+        chmod(qPrintable(path), before);
+        SettingsStore store(path);
+        QVERIFY(Open(store));
+        QVERIFY(isDamaged || (file.open(QIODevice::WriteOnly) && file.write("changed") > 0));
+        file.close();
+        SetPage(store, QStringLiteral("y"));
+        // An administrator may write to it nevertheless.
+        chmod(qPrintable(path), before | 0200U);
+        chmod(qPrintable(path), before);
+        QCOMPARE(store.Flush(), geteuid() == 0 || (before & 0200U) != 0);
+        QCOMPARE(store.Notices().empty(), false);
+        QCOMPARE(PermissionsOf(store.Notices().back().keptPath), permissionsOfKept);
     }
 };
 
