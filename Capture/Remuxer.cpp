@@ -83,8 +83,10 @@ bool Remuxer::TakeName() const
 void Remuxer::Fail(const QString& reason)
 {
     m_file.Remove();
-    Q_EMIT Failed(
-        {Code::Remux, tr("%1 could not be copied to %2: %3").arg(m_input, m_output, reason)});
+    Q_EMIT Failed({Code::Remux,
+                   m_input == m_output
+                       ? tr("%1 could not be repaired: %2").arg(m_input, reason)
+                       : tr("%1 could not be copied to %2: %3").arg(m_input, m_output, reason)});
 }
 
 } // namespace Zentor::Capture
