@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QLayout>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QSet>
 #include <QStyleFactory>
@@ -30,15 +31,18 @@ public:
     }
     ~LayoutPause()
     {
-        for (QLayout* layout : qAsConst(m_paused)) {
-            layout->setEnabled(true);
-            layout->invalidate();
+        for (const auto& layout : qAsConst(m_paused)) {
+            // A message box makes itself a new one when its style changes.
+            if (!layout.isNull()) {
+                layout->setEnabled(true);
+                layout->invalidate();
+            }
         }
     }
     Q_DISABLE_COPY(LayoutPause)
 
 private:
-    QList<QLayout*> m_paused;
+    QList<QPointer<QLayout>> m_paused;
 };
 
 QString ReadResource(const QString& path)

@@ -2,8 +2,12 @@
 
 #include <QApplication>
 #include <QDirIterator>
+#include <QLayout>
+#include <QMessageBox>
+#include <QPointer>
 #include <QSet>
 
+#include "HostInterfaces.h"
 #include "Resources.h"
 #include "Theme.h"
 #include "WidgetTest.h"
@@ -281,6 +285,20 @@ private Q_SLOTS:
         const QWidget widget;
         widget.ensurePolished();
         QCOMPARE(Desktop::ThemeOf(QApplication::palette()), theme);
+        qApp->setStyleSheet({});
+    }
+
+    /// It deletes its layout then.
+    void changesUnderAnOpenBox()
+    {
+        Desktop::ApplyTheme(Theme::Light);
+        Util::AlertBox box(Util::AlertBox::Question, QString(), QStringLiteral("Continue?"),
+                           QMessageBox::Ok | QMessageBox::Cancel, nullptr, Qt::Dialog);
+        box.show();
+        const QPointer<QLayout> layout(box.layout());
+        Desktop::ApplyTheme(Theme::Dark);
+        QVERIFY(layout.isNull());
+        QVERIFY(box.layout() != nullptr && box.layout()->isEnabled());
         qApp->setStyleSheet({});
     }
 
