@@ -22,13 +22,15 @@ DATA = [LIBRARY + "/HostData.h"]
 CONTRACT = DATA + [LIBRARY + "/HostInterfaces.h"]
 CORE = ["Host/CoreInt", "Host/CoreTime", "Host/PXScheduler", "Host/PXUserSettings"]
 HOST = ["Host/Application", "Host/PXUtilUI", "Host/ZQtUtil", "Host/ZentorWidget"]
-SUPPORT = [LIBRARY] + CORE + HOST + ["App/Support"]
+SCHEDULE = ["Schedule", "Schedule/System"]
+SUPPORT = [LIBRARY] + CORE + HOST + SCHEDULE + ["App/Support"]
 PAGES = SUPPORT + ["App/Appearance", "App/Panel", "App/Pages"]
 LAYERS = [
     ([LIBRARY], CONTRACT),
     (CORE, DATA),
     (HOST, CONTRACT + CORE),
     (["Capture"], []),
+    (SCHEDULE, DATA + CORE + ["Capture/Protocol.h"]),
     (["App/Support"], SUPPORT),
     (["App/Appearance"], SUPPORT),
     (["App/Panel"], SUPPORT),
@@ -38,13 +40,13 @@ LAYERS = [
     (["App/Start"], PAGES + ["App/Window", "App/Tour"]),
 ]
 # What a header's name in an #include is relative to, where that is not its own folder.
-SEARCHED = {folder: "Host" for folder in CORE + HOST}
+SEARCHED = dict({folder: "Host" for folder in CORE + HOST}, **{"Schedule/System": "Schedule"})
 
 
 def headers():
     """Returns the path of each header, and fails for one in a folder of no layer."""
     found = []
-    for top in ("Lib", "Host", "Capture", "App"):
+    for top in ("Lib", "Host", "Capture", "Schedule", "App"):
         for folder, _, names in os.walk(os.path.join(ROOT, top)):
             found += [os.path.relpath(os.path.join(folder, name), ROOT)
                       for name in names if name.endswith(".h")]

@@ -6,8 +6,10 @@
 #   zentor_target_moc(<target> <header>...)         runs moc on the headers, without AUTOMOC
 #   zentor_target_precompile(<target>)              spares a target with widgets, built for its own sake,
 #                                                   the reading of Qt's headers in each source
-#   zentor_header_view(<target> <header>...)        an interface target with which these headers, and
-#                                                   nothing else of their folder, can be included
+#   zentor_header_view(<target> [WITH_FOLDERS] <header>...)
+#                                                   an interface target with which these headers, and
+#                                                   nothing else of their folder, can be included: by
+#                                                   name, or by the path that is given here
 
 function(zentor_target_defaults target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "ALLOW_ASCII" "" "")
@@ -73,9 +75,13 @@ endfunction()
 # A layer that may use one header of another layer's folder links the view instead of the folder, so
 # that the compiler refuses the others.
 function(zentor_header_view target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "WITH_FOLDERS" "" "")
     set(folder "${CMAKE_CURRENT_BINARY_DIR}/include/${target}")
-    foreach(header IN LISTS ARGN)
-        get_filename_component(name "${header}" NAME)
+    foreach(name IN LISTS arg_UNPARSED_ARGUMENTS)
+        set(header "${name}")
+        if(NOT arg_WITH_FOLDERS)
+            get_filename_component(name "${header}" NAME)
+        endif()
         file(CONFIGURE OUTPUT "${folder}/${name}"
             CONTENT "#include \"${CMAKE_CURRENT_SOURCE_DIR}/${header}\"\n" @ONLY)
     endforeach()

@@ -9,6 +9,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include "HostData.h"
+
 namespace Zentor::Util {
 
 /// A file as it was when it was last read or replaced.
@@ -23,23 +25,24 @@ struct FileVersion {
 
 /// Where \a path leads, symbolic links of it and of its folders followed, whether or not there is
 /// anything; \a path where that cannot be told.
-QString RealPath(const QString& path);
+ZENTOR_HOST_API QString RealPath(const QString& path);
 
 /// Reads \a path into \a found. That there is no such file is no failure.
-QString ReadFile(const QString& path, FileVersion& found);
+ZENTOR_HOST_API QString ReadFile(const QString& path, FileVersion& found);
 
 /// Whether \a path is \a known still, as far as can be told without reading it.
-bool IsUntouched(const QString& path, const FileVersion& known);
+ZENTOR_HOST_API bool IsUntouched(const QString& path, const FileVersion& known);
 
 /// Replaces \a path, as a whole and for the user alone, by \a content, which \a written is then. A
 /// failure when the new file may not survive a loss of power, too.
-QString ReplaceFile(const QString& path, const QByteArray& content, FileVersion& written);
+ZENTOR_HOST_API QString ReplaceFile(const QString& path, const QByteArray& content,
+                                    FileVersion& written);
 
 /// Writes \a version into the new file \a path, with no more rights than it had, as ReplaceFile()
 /// does.
-QString KeepFile(const QString& path, const FileVersion& version);
+ZENTOR_HOST_API QString KeepFile(const QString& path, const FileVersion& version);
 
 /// Removes what ReplaceFile() and KeepFile() left beside \a path when the process was killed.
-void RemoveUnfinishedFiles(const QString& path);
+ZENTOR_HOST_API void RemoveUnfinishedFiles(const QString& path);
 
 } // namespace Zentor::Util
