@@ -35,6 +35,8 @@ std::optional<Outcome> OutcomeOf(const QString& name);
 namespace Why {
 
 const inline QString Late = QStringLiteral("late");
+/// It follows an earlier recording of the same, which broke off.
+const inline QString Rest = QStringLiteral("rest");
 const inline QString RecorderDied = QStringLiteral("recorder-died");
 const inline QString ProgramDied = QStringLiteral("program-died");
 const inline QString GaveWay = QStringLiteral("gave-way");
