@@ -24,6 +24,7 @@
 #include "Languages.h"
 #include "Log.h"
 #include "MainWindow.h"
+#include "RecordingSettings.h"
 #include "Resources.h"
 #include "ScreenshotTour.h"
 #include "TerminationSignals.h"
@@ -101,6 +102,7 @@ QString Open(PX::SettingsStore& store)
 {
     store.AddSection(ApplicationSettingsSection());
     store.AddSection(UnfinishedTaskSection());
+    store.AddSection(Schedule::RecordingSettingsSection());
     QString reason;
     store.Open(&reason);
     return reason;

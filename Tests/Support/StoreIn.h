@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "ApplicationSettings.h"
+#include "RecordingSettings.h"
 #include "UnfinishedTask.h"
 
 namespace Zentor::Tests {
@@ -17,6 +18,7 @@ inline std::shared_ptr<PX::SettingsStore> OpenStoreIn(const QTemporaryDir& folde
         std::make_shared<PX::SettingsStore>(folder.filePath(QStringLiteral("settings.json")));
     store->AddSection(Desktop::ApplicationSettingsSection());
     store->AddSection(Desktop::UnfinishedTaskSection());
+    store->AddSection(Schedule::RecordingSettingsSection());
     QString error;
     if (!store->Open(&error)) {
         qFatal("%s", qPrintable(error));
