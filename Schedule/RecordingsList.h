@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include <QHash>
+#include <QJsonObject>
 #include <QObject>
 
 #include "PXUserSettings/PrivateFile.h"
@@ -20,7 +22,10 @@ namespace Zentor::Schedule {
 /// The file is replaced as a whole, at once with each change: what it says must survive a crash in
 /// the next second. A file that cannot be understood is kept under another name beside it
 /// (".damaged-", date and time added); single entries that cannot be used are dropped, with a copy
-/// of the file kept the same way. Fields that are not known are kept.
+/// of the file kept the same way. Fields that are not known are kept. What another program has put
+/// in the file's place meanwhile is kept as well (".changed-"), and replaced.
+///
+/// Only the process that has the settings file open may open the list beside it.
 class RecordingsList final : public QObject {
     Q_OBJECT
 
@@ -43,6 +48,10 @@ public:
     /// Reads the file; where there is none the list is empty. Returns why the file cannot be used,
     /// for the user, or nothing. The list works in memory all the same, and is not saved then.
     QString Open();
+
+    /// What the file held and Open() could not use, and where that is kept, for the user; empty
+    /// when all could be used.
+    const QString& Notice() const { return m_notice; }
 
     /// Newest last.
     const std::vector<Item>& Items() const { return m_items; }
@@ -75,11 +84,24 @@ Q_SIGNALS:
 
 private:
     int RowOf(Id id) const;
+    QString Read();
+    QString KeepDamaged(bool isUnderstood, const QStringList& problems);
     void Save();
+    QString Write();
+    QString KeepChanged();
 
     const QString m_filePath;
+    /// Where it leads.
+    QString m_realPath;
     std::vector<Item> m_items;
     Id m_lastId = 0;
+    /// The file as it was read or written last.
+    Util::FileVersion m_known;
+    /// What the file holds beside the entries, and what single ones hold that is not known.
+    QJsonObject m_fields;
+    QHash<Id, QJsonObject> m_entryFields;
+    bool m_isOpen = false;
+    QString m_notice;
     QString m_saveProblem;
 };
 

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -187,6 +188,17 @@ QString KeepFile(const QString& path, const FileVersion& version)
 {
     FileVersion written;
     return Write(path, version, written);
+}
+
+QString FreePath(const QString& path, const QString& suffix)
+{
+    const QString stem =
+        path + suffix + QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-hhmmss"));
+    QString candidate = stem;
+    for (int number = 2; QFileInfo::exists(candidate); ++number) {
+        candidate = QStringLiteral("%1-%2").arg(stem).arg(number);
+    }
+    return candidate;
 }
 
 void RemoveUnfinishedFiles(const QString& path)

@@ -42,6 +42,9 @@ ZENTOR_HOST_API QString ReplaceFile(const QString& path, const QByteArray& conte
 /// does.
 ZENTOR_HOST_API QString KeepFile(const QString& path, const FileVersion& version);
 
+/// A name beside \a path, with \a suffix and the time, that no file has: for KeepFile().
+ZENTOR_HOST_API QString FreePath(const QString& path, const QString& suffix);
+
 /// Removes what ReplaceFile() and KeepFile() left beside \a path when the process was killed.
 ZENTOR_HOST_API void RemoveUnfinishedFiles(const QString& path);
 

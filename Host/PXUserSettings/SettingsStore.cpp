@@ -3,7 +3,6 @@
 #include <cerrno>
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -24,18 +23,6 @@ QString Text(const char* text, const QString& path, const QString& reason = {})
     const QString translated = QCoreApplication::translate("SettingsStore", text);
     const QString printable = Util::PrintableText(path);
     return reason.isEmpty() ? translated.arg(printable) : translated.arg(printable, reason);
-}
-
-/// A name beside \a path, with \a suffix and the time, that no file has.
-QString FreePath(const QString& path, const QString& suffix)
-{
-    const QString stem =
-        path + suffix + QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-hhmmss"));
-    QString candidate = stem;
-    for (int number = 2; QFileInfo::exists(candidate); ++number) {
-        candidate = QStringLiteral("%1-%2").arg(stem).arg(number);
-    }
-    return candidate;
 }
 
 QString LockProblem(QLockFile::LockError error)
@@ -176,7 +163,7 @@ QString SettingsStore::Load()
 /// Writes what was found in a damaged file beside it. Returns the reason of a failure, or nothing.
 QString SettingsStore::KeepDamaged(const SettingsDocument& document)
 {
-    const QString keptPath = FreePath(m_realPath, QStringLiteral(".damaged-"));
+    const QString keptPath = Util::FreePath(m_realPath, QStringLiteral(".damaged-"));
     const QString failure = Util::KeepFile(keptPath, m_known);
     if (!failure.isEmpty()) {
         return Text(
@@ -207,7 +194,7 @@ QString SettingsStore::KeepChanged()
     if (!failure.isEmpty() || !isChanged) {
         return failure;
     }
-    const QString keptPath = FreePath(m_realPath, QStringLiteral(".changed-"));
+    const QString keptPath = Util::FreePath(m_realPath, QStringLiteral(".changed-"));
     failure = Util::KeepFile(keptPath, found);
     if (failure.isEmpty()) {
         // Once is enough, also when saving fails now.
