@@ -5,6 +5,7 @@
 
 #include <optional>
 
+#include <QSize>
 #include <QString>
 
 #include "RecordingEntry.h"
@@ -63,6 +64,10 @@ public:
 
     /// Whether something of what \a screenIndex names (-1: the selected area) can be recorded now.
     virtual bool IsThere(int screenIndex) const = 0;
+
+    /// How large the picture is of what \a screenIndex names, in pixels; empty when it is not
+    /// there.
+    virtual QSize SizeOf(int screenIndex) const = 0;
 };
 
 /// The list of what was recorded.
@@ -129,7 +134,13 @@ struct Notice {
         /// `action` is not possible, or was refused: `text` says why where that is known.
         ActionRefused,
         /// What the recorder warns of: `text`.
-        Warning
+        Warning,
+        /// The tasks to come are likely to need `neededBytes`, and `freeBytes` can be used.
+        LowDisk,
+        /// The task `title` is not started, as no more than `freeBytes` are free.
+        NoRoom,
+        /// A service of the desktop is missing: `text` says what will not work.
+        Unavailable
     };
 
     Kind kind;
@@ -139,6 +150,8 @@ struct Notice {
     bool goesOn = false;
     PX::PowerAction action = PX::DoNothing;
     QString text;
+    qint64 neededBytes = 0;
+    qint64 freeBytes = 0;
 };
 
 /// Tells the user, in whatever way fits.
