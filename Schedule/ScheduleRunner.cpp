@@ -805,7 +805,9 @@ void ScheduleRunner::Settle(const Session& session, bool mayAct)
     if (!mayAct || session.task.finishAction == PX::DoNothing || !CanRecord()) {
         return;
     }
-    if (const PX::RecordTime* task = TaskSoonAfterNow()) {
+    const PX::RecordTime* task = TaskSoonAfterNow();
+    // To quit is what the user wants even then; only the machine has to stay on.
+    if (task != nullptr && session.task.finishAction != PX::QuitApplication) {
         TellActionSkipped(session.task.finishAction, *task);
     } else {
         m_finish.Begin(session.task.finishAction);

@@ -61,7 +61,7 @@ public:
     static constexpr std::chrono::seconds PrepareAhead{10};
     /// How long before a task the user is told that a recording by hand will give way.
     static constexpr std::chrono::seconds GiveWayNotice{60};
-    /// No finish action is done while a task starts within this time.
+    /// The machine is not turned off by itself while a task starts within this time.
     static constexpr std::chrono::minutes ActionDistance{10};
 
     /// What \a ports refers to outlives the runner.
