@@ -16,6 +16,8 @@ install(FILES Packaging/org.zentor.PxScheduler.desktop
 install(FILES Packaging/org.zentor.PxScheduler.metainfo.xml
     DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
 install(FILES Packaging/px-scheduler.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+install(FILES Packaging/px-scheduler.bash
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME px-scheduler)
 install(FILES Icons/px-scheduler.svg
     DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
 

@@ -12,6 +12,7 @@
 #include <QSessionManager>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <glog/logging.h>
 
@@ -118,9 +119,10 @@ void FollowSession(MainWindow& window)
         Qt::DirectConnection);
     QObject::connect(
         qGuiApp, &QGuiApplication::saveStateRequest, &window,
-        [](QSessionManager& manager) {
+        [&](QSessionManager& manager) {
             // Qt's own would add the name of the session, which is no option of ours.
-            manager.setRestartCommand(QCoreApplication::arguments());
+            manager.setRestartCommand(
+                ArgumentsToRestart(QCoreApplication::arguments(), !window.isVisible()));
         },
         Qt::DirectConnection);
 }
@@ -135,21 +137,33 @@ void Raise(MainWindow& window, const QVariantMap& platformData)
     window.Raise();
 }
 
-int RunWindow(MainWindow& window, const Instance& instance)
+int RunWindow(MainWindow& window, Instance& instance, const CommandLine& line)
 {
     QObject::connect(&instance, &Instance::Activated, &window,
                      [&](const QVariantMap& platformData) { Raise(window, platformData); });
     const TerminationSignals signalsToEnd;
     // Also out of the loop of an open box, whose question stays unanswered.
-    QObject::connect(&signalsToEnd, &TerminationSignals::Received, &window,
-                     [&] { QCoreApplication::exit(window.SaveUnattended() ? 0 : ExitFailed); });
+    const auto endUnattended = [&] {
+        QCoreApplication::exit(window.SaveUnattended() ? 0 : ExitFailed);
+    };
+    QObject::connect(&signalsToEnd, &TerminationSignals::Received, &window, endUnattended);
+    QObject::connect(&instance, &Instance::QuitRequested, &window, endUnattended);
     FollowSession(window);
-    window.show();
+    // A hidden window is not the end, nor is a box that is closed over one.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(&window, &MainWindow::Closed, qGuiApp, &QCoreApplication::quit,
+                     Qt::QueuedConnection);
+    if (!line.isHidden) {
+        window.show();
+    }
+    if (line.request == Request::Start) {
+        QTimer::singleShot(0, &instance, &Instance::StartRequested);
+    }
     return QApplication::exec();
 }
 
 /// Runs the tour or, as \a instance, the window on the settings in \a file, whatever they are.
-int RunOn(const QString& file, const CommandLine& line, const Instance* instance)
+int RunOn(const QString& file, const CommandLine& line, Instance* instance)
 {
     LOG(INFO) << "Zentor::Desktop::RunOn: version=" << PX_VERSION
               << "; settings=" << Util::Printable(file);
@@ -167,7 +181,7 @@ int RunOn(const QString& file, const CommandLine& line, const Instance* instance
     MainWindow window(store, lookAndFeel);
     window.Follow(appearance);
     return instance == nullptr ? RunTour(window, line.screenshotsFolder)
-                               : RunWindow(window, *instance);
+                               : RunWindow(window, *instance, line);
 }
 
 /// Runs the tour on a copy: it deletes tasks, which it must not do to the user's own.
@@ -190,12 +204,38 @@ int RunOnCopy(const CommandLine& line)
     return RunOn(copy, line, nullptr);
 }
 
-/// Runs the window, unless there is one on these settings: then that one is raised.
+/// Whether \a request is for an instance that runs already, and for no other.
+bool IsForRunning(Request request)
+{
+    return request == Request::Stop || request == Request::Pause || request == Request::Quit;
+}
+
+QString SettingsFileOf(const CommandLine& line)
+{
+    return line.settingsFile.isEmpty() ? DefaultSettingsFile() : line.settingsFile;
+}
+
+/// Has the instance that runs do what was asked.
+int PassOn(const CommandLine& line, int& argc, char** argv)
+{
+    // Without widgets, so that it needs no display.
+    const QCoreApplication application(argc, argv);
+    const Instance instance(SettingsFileOf(line), DefaultSettingsFile());
+    if (instance.PassOn(line.request, PlatformDataOfStart())) {
+        return 0;
+    }
+    Translations translations;
+    translations.Use(LanguageFor(line.language));
+    PrintProblem(Text::tr("the program does not run on these settings"));
+    return ExitFailed;
+}
+
+/// Runs the window, unless there is one on these settings: then that one does what was asked.
 int RunOnce(const CommandLine& line, const QVariantMap& platformData)
 {
-    const QString file = line.settingsFile.isEmpty() ? DefaultSettingsFile() : line.settingsFile;
+    const QString file = SettingsFileOf(line);
     Instance instance(file, DefaultSettingsFile());
-    return instance.IsFirst(platformData) ? RunOn(file, line, &instance) : 0;
+    return instance.IsFirst(platformData, line.request) ? RunOn(file, line, &instance) : 0;
 }
 
 } // namespace
@@ -216,6 +256,9 @@ int RunApplication(int argc, char** argv)
     google::InitGoogleLogging(argv[0]);
     FLAGS_logtostderr = true;
     KeepLog();
+    if (IsForRunning(line.request)) {
+        return PassOn(line, argc, argv);
+    }
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QVariantMap platformData = PlatformDataOfStart();

@@ -28,6 +28,9 @@ void ApplicationAdaptor::ActivateAction(const QString& name, const QVariantList&
                                         const QVariantMap& /*platformData*/,
                                         const QDBusMessage& message)
 {
+    if (m_instance->Do(name)) {
+        return;
+    }
     message.setDelayedReply(true);
     QDBusConnection::sessionBus().send(message.createErrorReply(
         QDBusError::InvalidArgs, QStringLiteral("There is no action \"%1\"").arg(name)));

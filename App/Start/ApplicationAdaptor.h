@@ -22,7 +22,7 @@ public Q_SLOTS:
     void Activate(const QVariantMap& platformData);
     /// The program opens no files; its window is shown.
     void Open(const QStringList& uris, const QVariantMap& platformData);
-    /// Answers with an error: there are no actions.
+    /// Answers with an error when \a name is none of those that Instance sends a signal for.
     void ActivateAction(const QString& name, const QVariantList& parameters,
                         const QVariantMap& platformData, const QDBusMessage& message);
 

@@ -1,5 +1,7 @@
 #include "CommandLine.h"
 
+#include <utility>
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
@@ -31,6 +33,17 @@ struct Options {
             "Walk through the window on a copy of the settings (of a sample without --settings), "
             "write a picture of each state into <folder>, and end."),
         QStringLiteral("folder")};
+    QCommandLineOption start{
+        QStringLiteral("start"),
+        Text::tr("Start recording, in the program that runs already if there is one.")};
+    QCommandLineOption stop{QStringLiteral("stop"),
+                            Text::tr("Stop the recording of the program that runs already.")};
+    QCommandLineOption pause{
+        QStringLiteral("pause"),
+        Text::tr("Pause the recording of the program that runs already, or go on with it.")};
+    QCommandLineOption quit{QStringLiteral("quit"),
+                            Text::tr("End the program that runs already, without a question.")};
+    QCommandLineOption hidden{QStringLiteral("hidden"), Text::tr("Start without a window.")};
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
                             Text::tr("Show this help.")};
     QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")},
@@ -38,9 +51,12 @@ struct Options {
 
     QList<QCommandLineOption> All() const
     {
-        return {settings, language, theme, screenshots, help, version};
+        return {settings, language, theme,  screenshots, start,  stop,
+                pause,    quit,     hidden, help,        version};
     }
     QList<QCommandLineOption> WithValue() const { return {settings, language, theme, screenshots}; }
+    /// Of these, one can be given.
+    QList<QCommandLineOption> Exclusive() const { return {screenshots, start, stop, pause, quit}; }
 };
 
 QString ProgramName()
@@ -64,6 +80,42 @@ CommandLine Refuse(const QString& reason)
     return line;
 }
 
+/// Which options do not go together; empty when they do.
+QString ConflictIn(const QCommandLineParser& parser, const Options& options)
+{
+    QStringList names;
+    const auto exclusive = options.Exclusive();
+    for (const auto& option : exclusive) {
+        if (parser.isSet(option)) {
+            names << option.names().constFirst();
+        }
+    }
+    if (names.size() == 1 && names.constFirst() == options.screenshots.names().constFirst()
+        && parser.isSet(options.hidden)) {
+        names << options.hidden.names().constFirst();
+    }
+    return names.size() < 2
+        ? QString()
+        : Text::tr("options --%1 and --%2 cannot be used together").arg(names.at(0), names.at(1));
+}
+
+Request RequestIn(const QCommandLineParser& parser, const Options& options)
+{
+    const std::pair<const QCommandLineOption&, Request> requests[] = {
+        {options.start, Request::Start},
+        {options.stop, Request::Stop},
+        {options.pause, Request::Pause},
+        {options.quit, Request::Quit},
+        // After the others: it says what is not to be shown, not what is to be done.
+        {options.hidden, Request::Nothing}};
+    for (const auto& [option, request] : requests) {
+        if (parser.isSet(option)) {
+            return request;
+        }
+    }
+    return Request::Show;
+}
+
 /// Why the values that were given cannot be used; empty when they can.
 QString ProblemOf(const QCommandLineParser& parser, const Options& options)
 {
@@ -75,6 +127,10 @@ QString ProblemOf(const QCommandLineParser& parser, const Options& options)
     }
     if (!parser.positionalArguments().isEmpty()) {
         return Text::tr("unexpected argument '%1'").arg(parser.positionalArguments().constFirst());
+    }
+    const QString conflict = ConflictIn(parser, options);
+    if (!conflict.isEmpty()) {
+        return conflict;
     }
     const QString theme = parser.value(options.theme);
     if (!theme.isEmpty() && !ThemeNames().contains(theme)) {
@@ -123,7 +179,28 @@ CommandLine ParseCommandLine(const QStringList& arguments)
     line.language = parser.value(options.language);
     line.theme = parser.value(options.theme);
     line.screenshotsFolder = parser.value(options.screenshots);
+    line.request = RequestIn(parser, options);
+    line.isHidden = parser.isSet(options.hidden);
     return line;
+}
+
+QStringList ArgumentsToRestart(const QStringList& arguments, bool isHidden)
+{
+    const Options options;
+    QCommandLineParser parser;
+    parser.addOptions(options.All());
+    parser.parse(arguments);
+    QStringList result{arguments.value(0)};
+    for (const auto& option : {options.settings, options.language, options.theme}) {
+        if (parser.isSet(option)) {
+            result << QStringLiteral("--%1=%2").arg(option.names().constFirst(),
+                                                    parser.value(option));
+        }
+    }
+    if (isHidden) {
+        result << QStringLiteral("--%1").arg(options.hidden.names().constFirst());
+    }
+    return result;
 }
 
 } // namespace Zentor::Desktop

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "Request.h"
+
 namespace Zentor::Desktop {
 
 /// What the user asked for on the command line.
@@ -27,6 +29,10 @@ struct CommandLine {
     QString theme;
     /// Folder for the pictures of the screenshot tour, or empty for no tour.
     QString screenshotsFolder;
+    /// What the instance that runs already is to do.
+    Request request = Request::Show;
+    /// Whether the program, when it is the first instance, starts without a window.
+    bool isHidden = false;
 };
 
 /// Reads \a arguments, of which the first is the name of the program.
@@ -34,5 +40,9 @@ struct CommandLine {
 /// Needs an application object, but no display: a QCoreApplication is enough, so that a mistake is
 /// reported wherever the program is started.
 CommandLine ParseCommandLine(const QStringList& arguments);
+
+/// \a arguments, which can be parsed, for a start that brings the program back as it is now: with
+/// no recording started anew, and without a window where \a isHidden.
+QStringList ArgumentsToRestart(const QStringList& arguments, bool isHidden);
 
 } // namespace Zentor::Desktop

@@ -1,5 +1,7 @@
 #include "Instance.h"
 
+#include <utility>
+
 #include <QCryptographicHash>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -25,9 +27,33 @@ QString ObjectPath()
     return QStringLiteral("/org/zentor/PxScheduler");
 }
 
-QString Interface()
+/// The call that asks the instance called \a busName for \a request.
+QDBusMessage CallFor(Request request, const QString& busName, const QVariantMap& platformData)
 {
-    return QStringLiteral("org.freedesktop.Application");
+    const auto callOf = [&](const char* interface, const char* method) {
+        return QDBusMessage::createMethodCall(busName, ObjectPath(), QLatin1String(interface),
+                                              QLatin1String(method));
+    };
+    constexpr const char* application = "org.freedesktop.Application";
+    const auto action = [&](const char* name) {
+        return callOf(application, "ActivateAction")
+            << QLatin1String(name) << QVariantList() << platformData;
+    };
+    switch (request) {
+    case Request::Start:
+        return action("start");
+    case Request::Stop:
+        return action("stop");
+    case Request::Pause:
+        return action("pause");
+    case Request::Quit:
+        return action("quit");
+    case Request::Nothing:
+        return callOf("org.freedesktop.DBus.Peer", "Ping");
+    case Request::Show:
+        break;
+    }
+    return callOf(application, "Activate") << platformData;
 }
 
 /// The path of \a file without symbolic links, also while it does not exist.
@@ -86,11 +112,27 @@ QString Instance::BusName(const QString& settingsFile)
     return QStringLiteral("%1.File%2").arg(DesktopName(), QString::fromLatin1(hash.toHex()));
 }
 
-bool Instance::IsFirst(const QVariantMap& platformData)
+bool Instance::IsFirst(const QVariantMap& platformData, Request request)
 {
     // One that is just ending gives way.
     return TakeName()
-        || (!ActivateFirst(platformData) && (TakeName() || !ActivateFirst(platformData)));
+        || (!PassOn(request, platformData) && (TakeName() || !PassOn(request, platformData)));
+}
+
+bool Instance::Do(const QString& name)
+{
+    const std::pair<const char*, void (Instance::*)()> actions[] = {
+        {"start", &Instance::StartRequested},
+        {"stop", &Instance::StopRequested},
+        {"pause", &Instance::PauseRequested},
+        {"quit", &Instance::QuitRequested}};
+    for (const auto& [known, wanted] : actions) {
+        if (name == QLatin1String(known)) {
+            Q_EMIT(this->*wanted)();
+            return true;
+        }
+    }
+    return false;
 }
 
 bool Instance::TakeName()
@@ -109,12 +151,10 @@ bool Instance::TakeName()
     return true;
 }
 
-bool Instance::ActivateFirst(const QVariantMap& platformData) const
+bool Instance::PassOn(Request request, const QVariantMap& platformData) const
 {
-    auto call = QDBusMessage::createMethodCall(m_name, ObjectPath(), Interface(),
-                                               QStringLiteral("Activate"));
-    call << platformData;
-    const QDBusMessage answer = QDBusConnection::sessionBus().call(call);
+    const QDBusMessage answer =
+        QDBusConnection::sessionBus().call(CallFor(request, m_name, platformData));
     const bool isAnswered = answer.type() == QDBusMessage::ReplyMessage;
     if (!isAnswered) {
         LOG(INFO) << "Zentor::Desktop::Instance: no answer; name=" << m_name.toStdString()

@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include "Request.h"
+
 namespace Zentor::Desktop {
 
 /// What the desktop gave this process with its start, so that it may take the focus: the "platform
@@ -24,9 +26,17 @@ public:
     Instance(const QString& settingsFile, const QString& defaultSettingsFile);
     ~Instance() override;
 
-    /// Becomes the first instance or, when there is one that answers, has it show its window, with
-    /// \a platformData, and returns false.
-    bool IsFirst(const QVariantMap& platformData);
+    /// Becomes the first instance or, when there is one that answers, passes \a request on to it,
+    /// with \a platformData, and returns false.
+    bool IsFirst(const QVariantMap& platformData, Request request = Request::Show);
+
+    /// Passes \a request on to the first instance without becoming it. Whether there is one that
+    /// has taken it.
+    bool PassOn(Request request, const QVariantMap& platformData) const;
+
+    /// Does what the action \a name asks for: "start", "stop", "pause" or "quit". Whether there is
+    /// such an action.
+    bool Do(const QString& name);
 
     /// The bus name of the instance on \a settingsFile.
     static QString BusName(const QString& settingsFile);
@@ -34,10 +44,15 @@ public:
 Q_SIGNALS:
     /// The window is to be shown and to get the focus, which \a platformData may allow.
     void Activated(const QVariantMap& platformData);
+    /// A recording is to be started, stopped, or paused and, when it is paused, resumed.
+    void StartRequested();
+    void StopRequested();
+    void PauseRequested();
+    /// The program is to end, without a question.
+    void QuitRequested();
 
 private:
     bool TakeName();
-    bool ActivateFirst(const QVariantMap& platformData) const;
 
     const QString m_name;
     const bool m_isDefault;

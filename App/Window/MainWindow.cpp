@@ -455,6 +455,9 @@ void MainWindow::closeEvent(QCloseEvent* event)
         return;
     }
     event->setAccepted(SaveChanges() || IsClosingWithoutSavingAccepted());
+    if (event->isAccepted()) {
+        Q_EMIT Closed();
+    }
 }
 
 } // namespace Zentor::Desktop

@@ -61,6 +61,10 @@ public:
     /// open is remembered as it is. Whether everything is saved.
     bool SaveUnattended();
 
+Q_SIGNALS:
+    /// The user has closed the window for good, and everything is saved that could be.
+    void Closed();
+
 protected:
     void changeEvent(QEvent* event) override;
     /// Asks before closing when input is unfinished and when the settings could not be saved.

@@ -12,6 +12,7 @@ test -s "$prefix/pictures/01-schedule.png"
 test -s "$prefix/share/icons/hicolor/scalable/apps/px-scheduler.svg"
 desktop-file-validate "$prefix/share/applications/org.zentor.PxScheduler.desktop"
 appstreamcli validate --no-net "$prefix/share/metainfo/org.zentor.PxScheduler.metainfo.xml"
+bash -n "$prefix/share/bash-completion/completions/px-scheduler"
 pages=("$prefix/share/man/man1/px-scheduler.1")
 if [[ -e "$prefix/bin/px-recorder" ]]; then
     "$prefix/bin/px-recorder" --version

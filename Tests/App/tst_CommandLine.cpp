@@ -11,6 +11,7 @@ namespace Zentor::Tests {
 namespace {
 
 using Desktop::CommandLine;
+using Desktop::Request;
 
 CommandLine Parse(const QStringList& arguments)
 {
@@ -56,6 +57,11 @@ Ending RunOffscreen(const QStringList& arguments)
 }
 
 } // namespace
+} // namespace Zentor::Tests
+
+Q_DECLARE_METATYPE(Zentor::Desktop::Request)
+
+namespace Zentor::Tests {
 
 class tst_CommandLine : public WidgetTest {
     Q_OBJECT
@@ -69,6 +75,65 @@ private Q_SLOTS:
         QCOMPARE(line.language, QString());
         QCOMPARE(line.theme, QString());
         QCOMPARE(line.screenshotsFolder, QString());
+        QCOMPARE(line.request, Request::Show);
+        QVERIFY(!line.isHidden);
+    }
+
+    void takesARequest_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<Request>("request");
+        QTest::addColumn<bool>("isHidden");
+        QTest::newRow("hidden") << QStringList{"--hidden"} << Request::Nothing << true;
+        QTest::newRow("start") << QStringList{"--start"} << Request::Start << false;
+        QTest::newRow("stop") << QStringList{"--stop"} << Request::Stop << false;
+        QTest::newRow("pause") << QStringList{"--pause"} << Request::Pause << false;
+        QTest::newRow("quit") << QStringList{"--quit"} << Request::Quit << false;
+        QTest::newRow("start hidden")
+            << QStringList{"--start", "--hidden"} << Request::Start << true;
+        QTest::newRow("hidden start")
+            << QStringList{"--hidden", "--start"} << Request::Start << true;
+        QTest::newRow("twice") << QStringList{"--quit", "--quit"} << Request::Quit << false;
+    }
+
+    void takesARequest()
+    {
+        QFETCH(QStringList, arguments);
+        const CommandLine line = Parse(arguments);
+        QCOMPARE(line.task, CommandLine::Task::Run);
+        QTEST(line.request, "request");
+        QTEST(line.isHidden, "isHidden");
+    }
+
+    void restartsAsItIs_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<bool>("isHidden");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("plain") << QStringList{} << false << QStringList{};
+        QTest::newRow("now hidden") << QStringList{} << true << QStringList{"--hidden"};
+        QTest::newRow("no longer hidden") << QStringList{"--hidden"} << false << QStringList{};
+        QTest::newRow("a recording is not started anew")
+            << QStringList{"--start"} << false << QStringList{};
+        QTest::newRow("all") << QStringList{"--hidden",   "--start", "--settings",  "--start",
+                                            "--language", "pt_BR",   "--theme=dark"}
+                             << true
+                             << QStringList{"--settings=--start", "--language=pt_BR",
+                                            "--theme=dark", "--hidden"};
+    }
+
+    void restartsAsItIs()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(bool, isHidden);
+        QFETCH(QStringList, expected);
+        const QStringList program{QStringLiteral("/usr/bin/px-scheduler")};
+        const QStringList restart = Desktop::ArgumentsToRestart(program + arguments, isHidden);
+        QCOMPARE(restart, program + expected);
+        const CommandLine line = Desktop::ParseCommandLine(restart);
+        QCOMPARE(line.task, CommandLine::Task::Run);
+        QCOMPARE(line.isHidden, isHidden);
+        QVERIFY(line.request != Request::Start);
     }
 
     void takesEveryOption()
@@ -117,6 +182,12 @@ private Q_SLOTS:
         row("empty theme", "--theme|", "theme");
         row("empty screenshots", "--screenshots=", "screenshots");
         row("value for help", "--help=x", "help");
+        row("value for start", "--start=x", "start");
+        row("start and stop", "--start|--stop", "--start and --stop");
+        row("pause and quit", "--quit|--pause", "--pause and --quit");
+        row("three requests", "--start|--stop|--quit", "--start and --stop");
+        row("pictures and start", "--screenshots=x|--start", "--screenshots and --start");
+        row("pictures and hidden", "--screenshots=x|--hidden", "--screenshots and --hidden");
     }
 
     void refusesAMistake()
@@ -142,6 +213,9 @@ private Q_SLOTS:
                                  << QStringLiteral("px-scheduler " PX_VERSION "\n");
         QTest::newRow("v") << QStringLiteral("-v")
                            << QStringLiteral("px-scheduler " PX_VERSION "\n");
+        for (const char* option : {"--start", "--stop", "--pause", "--quit", "--hidden"}) {
+            QTest::newRow(option) << QStringLiteral("--help") << QString::fromLatin1(option);
+        }
     }
 
     void printsHelpAndVersion()

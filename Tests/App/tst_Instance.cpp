@@ -18,6 +18,7 @@ namespace Zentor::Tests {
 namespace {
 
 using Desktop::Instance;
+using Desktop::Request;
 
 const QString DesktopName = QStringLiteral("org.zentor.PxScheduler");
 const QString ObjectPath = QStringLiteral("/org/zentor/PxScheduler");
@@ -51,6 +52,49 @@ public:
 
     QProcess process;
 };
+
+/// Counts what an instance is asked for.
+struct Requests {
+    explicit Requests(Instance& instance)
+        : shown(&instance, &Instance::Activated)
+        , started(&instance, &Instance::StartRequested)
+        , stopped(&instance, &Instance::StopRequested)
+        , paused(&instance, &Instance::PauseRequested)
+        , quit(&instance, &Instance::QuitRequested)
+    {
+    }
+
+    /// As in "show start start".
+    QString Names() const
+    {
+        const std::pair<const QSignalSpy&, const char*> all[] = {{shown, "show"},
+                                                                 {started, "start"},
+                                                                 {stopped, "stop"},
+                                                                 {paused, "pause"},
+                                                                 {quit, "quit"}};
+        QStringList names;
+        for (const auto& [spy, name] : all) {
+            for (int count = 0; count < spy.count(); ++count) {
+                names << QLatin1String(name);
+            }
+        }
+        return names.join(QLatin1Char(' '));
+    }
+
+    QSignalSpy shown;
+    QSignalSpy started;
+    QSignalSpy stopped;
+    QSignalSpy paused;
+    QSignalSpy quit;
+};
+
+QProcessEnvironment WithoutBus()
+{
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
+                       QStringLiteral("unix:path=/nonexistent"));
+    return environment;
+}
 
 bool IsOnBus(const QString& name)
 {
@@ -183,14 +227,87 @@ private Q_SLOTS:
         QCOMPARE(answer.type(), QDBusMessage::ErrorMessage);
         QCOMPARE(answer.errorName(), QStringLiteral("org.freedesktop.DBus.Error.InvalidArgs"));
         QCOMPARE(activated.count(), 2);
+        const QSignalSpy started(&instance, &Instance::StartRequested);
+        QCOMPARE(
+            Call(DesktopName, "ActivateAction", {"start", QVariantList(), QVariantMap()}).type(),
+            QDBusMessage::ReplyMessage);
+        QCOMPARE(started.count(), 1);
+        QCOMPARE(activated.count(), 2);
+    }
+
+    void passesOnWhatIsAsked_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("start") << QStringList{"--start"} << "start";
+        QTest::newRow("start hidden") << QStringList{"--start", "--hidden"} << "start";
+        QTest::newRow("stop") << QStringList{"--stop"} << "stop";
+        QTest::newRow("pause") << QStringList{"--pause"} << "pause";
+        QTest::newRow("quit") << QStringList{"--quit"} << "quit";
+        QTest::newRow("hidden") << QStringList{"--hidden"} << "";
+        QTest::newRow("nothing") << QStringList() << "show";
+    }
+
+    void passesOnWhatIsAsked()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QString, expected);
+        Instance first(SettingsFile(), DefaultFile());
+        QVERIFY(first.IsFirst({}));
+        const Requests requests(first);
+        Program second(QStringList{QStringLiteral("--settings"), SettingsFile()} + options);
+        QCOMPARE(second.ExitCode(), 0);
+        QCOMPARE(requests.Names(), expected);
+        QCOMPARE(second.process.readAllStandardOutput(), QByteArray());
+        QVERIFY(!QFile::exists(SettingsFile()));
+    }
+
+    void saysThatNoneRuns_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<bool>("hasBus");
+        for (const char* option : {"--stop", "--pause", "--quit"}) {
+            QTest::addRow("%s", option) << QString::fromLatin1(option) << true;
+            QTest::addRow("%s without a bus", option) << QString::fromLatin1(option) << false;
+        }
+    }
+
+    void saysThatNoneRuns()
+    {
+        QFETCH(QString, option);
+        QFETCH(bool, hasBus);
+        auto environment = hasBus ? QProcessEnvironment::systemEnvironment() : WithoutBus();
+        // A display is not needed.
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("none"));
+        Program program({QStringLiteral("--settings"), SettingsFile(), option}, environment);
+        QCOMPARE(program.ExitCode(), 1);
+        QCOMPARE(program.process.readAllStandardOutput(), QByteArray());
+        const QByteArray error = program.process.readAllStandardError();
+        QVERIFY2(error.startsWith("px-scheduler: "), error);
+        QVERIFY2(error.count('\n') == 1, error);
+        QVERIFY(!QFile::exists(SettingsFile()));
+    }
+
+    void startsHiddenAndIsQuit()
+    {
+        Program first({QStringLiteral("--settings"), SettingsFile(), QStringLiteral("--hidden")});
+        QTRY_VERIFY_WITH_TIMEOUT(IsOnBus(Instance::BusName(SettingsFile())), 60000);
+        for (const auto& options : {QStringList{"--hidden"}, QStringList{}, QStringList{"--start"},
+                                    QStringList{"--stop"}}) {
+            Program other(QStringList{QStringLiteral("--settings"), SettingsFile()} + options);
+            QCOMPARE(other.ExitCode(), 0);
+            QCOMPARE(first.process.state(), QProcess::Running);
+        }
+        Program last({QStringLiteral("--settings"), SettingsFile(), QStringLiteral("--quit")});
+        QCOMPARE(last.ExitCode(), 0);
+        QCOMPARE(first.ExitCode(), 0);
+        QVERIFY(QFile::exists(SettingsFile()));
     }
 
     /// The lock of the settings file refuses then.
     void refusesWithoutABus()
     {
-        auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
-                           QStringLiteral("unix:path=/nonexistent"));
+        const QProcessEnvironment environment = WithoutBus();
         const auto store = OpenStoreIn(*m_folder);
         Program program({QStringLiteral("--settings"), SettingsFile()}, environment);
         QCOMPARE(program.ExitCode(), 2);
