@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QDir>
@@ -17,6 +18,8 @@
 #include "Appearance.h"
 #include "Application/SettingsManager.h"
 #include "ApplicationSettings.h"
+#include "AutostartEntry.h"
+#include "BackgroundSettings.h"
 #include "Controls.h"
 #include "Languages.h"
 #include "Log.h"
@@ -44,9 +47,11 @@ GeneralPage::GeneralPage(std::shared_ptr<PX::SettingsStore> store, QWidget* pare
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(CreateLookCard());
+    column->addWidget(CreateBackgroundCard());
     column->addWidget(CreateQuestionsCard());
     column->addWidget(CreateSupportCard());
     Connect();
+    ConnectBackground();
     Retranslate();
     StyleComboBoxLists(*this);
     ShowStored();
@@ -93,6 +98,26 @@ QFrame* GeneralPage::CreateLookCard()
     grid->addWidget(m_themeBox, 2, 1);
     grid->addWidget(m_themeOfRunLabel, 3, 0, 1, 2);
     grid->setColumnStretch(0, 1);
+    return card;
+}
+
+QFrame* GeneralPage::CreateBackgroundCard()
+{
+    QFrame* card = CreateCard(QStringLiteral("backgroundCard"), this);
+    m_autostartBox = new QCheckBox(card);
+    m_autostartBox->setObjectName(QStringLiteral("autostartBox"));
+    m_autostartProblemLabel = CreateLabel(QStringLiteral("autostartProblemLabel"), card);
+    m_keepRunningBox = new QCheckBox(card);
+    m_keepRunningBox->setObjectName(QStringLiteral("keepRunningBox"));
+    m_keepRunningLabel = CreateLabel(QStringLiteral("keepRunningLabel"), card);
+
+    auto* column = new QVBoxLayout(card);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(ControlSpacing);
+    column->addWidget(m_autostartBox);
+    column->addWidget(m_autostartProblemLabel);
+    column->addWidget(m_keepRunningBox);
+    column->addWidget(m_keepRunningLabel);
     return card;
 }
 
@@ -158,8 +183,30 @@ void GeneralPage::Connect()
     connect(m_store.get(), &PX::SettingsStore::Changed, this, &GeneralPage::ShowStored);
 }
 
+void GeneralPage::ConnectBackground()
+{
+    // Not toggled(), which tells of what is stored, too.
+    connect(m_autostartBox, &QCheckBox::clicked, this, [this](bool isWanted) {
+        ShowAutostart(AutostartEntry::OfThisProgram(m_store->FilePath()).Set(isWanted));
+    });
+    connect(m_keepRunningBox, &QCheckBox::clicked, this, [this](bool isWanted) {
+        ChangeBackgroundSettings(*m_store,
+                                 [&](auto& settings) { settings.keepRunning = isWanted; });
+    });
+}
+
+void GeneralPage::RetranslateBackground()
+{
+    m_autostartBox->setText(tr("Start with the &desktop"));
+    m_keepRunningBox->setText(tr("&Keep running when the window is closed"));
+    m_keepRunningLabel->setText(
+        tr("While tasks are pending or a recording runs, the program stays in the tray. Where "
+           "there is none, its window is minimized."));
+}
+
 void GeneralPage::Retranslate()
 {
+    RetranslateBackground();
     m_languageLabel->setText(tr("&Language:"));
     const QString ofSystem = LanguageFor({});
     m_languageBox->setItemText(0, tr("System default (%1)").arg(LanguageName(ofSystem)));
@@ -186,6 +233,7 @@ void GeneralPage::ShowStored()
     SelectValue(*m_languageBox, OfferedLanguage(settings.language));
     SelectValue(*m_themeBox, settings.theme);
     ShowLookOfRun();
+    m_keepRunningBox->setChecked(BackgroundSettingsIn(*m_store).keepRunning);
     const auto& answers = m_store->Settings().confirmations;
     const bool isSomeForgone = std::find(answers.begin(), answers.end(), true) != answers.end();
     m_askAgainButton->setEnabled(isSomeForgone);
@@ -221,6 +269,17 @@ void GeneralPage::ShowLog()
             .toHtmlEscaped());
     m_openFolderButton->setToolTip(
         QDir::toNativeSeparators(QFileInfo(m_store->FilePath()).path()).toHtmlEscaped());
+}
+
+void GeneralPage::ShowAutostart(const QString& problem)
+{
+    m_autostartBox->setChecked(AutostartEntry::IsSet());
+    m_autostartBox->setAccessibleDescription(problem);
+    m_autostartProblemLabel->setText(problem);
+    m_autostartProblemLabel->setVisible(!problem.isEmpty());
+    if (!problem.isEmpty()) {
+        Q_EMIT Announced(problem);
+    }
 }
 
 void GeneralPage::ForgetAnswers()
@@ -263,6 +322,7 @@ void GeneralPage::changeEvent(QEvent* event)
         ShowStored();
         ShowLog();
         ShowProblem({});
+        ShowAutostart({});
     }
     Page::changeEvent(event);
 }
@@ -272,6 +332,8 @@ void GeneralPage::showEvent(QShowEvent* event)
     ShowLog();
     if (!event->spontaneous()) {
         ShowProblem({});
+        // The desktop's own settings may have changed it.
+        ShowAutostart({});
     }
     Page::showEvent(event);
 }

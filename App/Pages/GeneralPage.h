@@ -4,6 +4,7 @@
 
 #include "Page.h"
 
+class QCheckBox;
 class QComboBox;
 class QFrame;
 class QLabel;
@@ -17,10 +18,11 @@ namespace Zentor::Desktop {
 
 class Appearance;
 
-/// The page "General": language and theme, the questions that are no longer asked,
-/// and where settings and log are.
+/// The page "General": language and theme, life without a window, the questions that are no longer
+/// asked, and where settings and log are.
 ///
-/// A choice is stored at once. Appearance takes it over from the settings.
+/// A choice is stored at once. Appearance takes it over from the settings. Whether the program
+/// starts with the desktop is not in the settings, but in an AutostartEntry.
 class GeneralPage final : public Page {
     Q_OBJECT
 
@@ -44,13 +46,18 @@ protected:
 
 private:
     QFrame* CreateLookCard();
+    QFrame* CreateBackgroundCard();
     QFrame* CreateQuestionsCard();
     QFrame* CreateSupportCard();
     void Connect();
+    void ConnectBackground();
     void Retranslate();
+    void RetranslateBackground();
     void ShowStored();
     void ShowLookOfRun();
     void ShowLog();
+    /// Whether the program starts with the desktop, and \a problem with setting that.
+    void ShowAutostart(const QString& problem);
     void ForgetAnswers();
     void OpenLog();
     /// Shows \a path, a folder or a file, in the desktop's program for it.
@@ -65,6 +72,10 @@ private:
     QLabel* m_themeLabel = nullptr;
     QComboBox* m_themeBox = nullptr;
     QLabel* m_themeOfRunLabel = nullptr;
+    QCheckBox* m_autostartBox = nullptr;
+    QLabel* m_autostartProblemLabel = nullptr;
+    QCheckBox* m_keepRunningBox = nullptr;
+    QLabel* m_keepRunningLabel = nullptr;
     QLabel* m_questionsLabel = nullptr;
     QPushButton* m_askAgainButton = nullptr;
     QLabel* m_supportLabel = nullptr;

@@ -6,11 +6,9 @@
 #include <utility>
 
 #include <QApplication>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSessionManager>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -19,8 +17,10 @@
 #include "Appearance.h"
 #include "Application/LookAndFeelManager.h"
 #include "ApplicationSettings.h"
+#include "BackgroundSettings.h"
 #include "CommandLine.h"
 #include "CoreInt/Printable.h"
+#include "DefaultSettingsFile.h"
 #include "Instance.h"
 #include "Languages.h"
 #include "Log.h"
@@ -67,12 +67,6 @@ CommandLine ReadCommandLine(int& argc, char** argv)
     return ParseCommandLine(QCoreApplication::arguments());
 }
 
-QString DefaultSettingsFile()
-{
-    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation))
-        .filePath(QStringLiteral("settings.json"));
-}
-
 int RunTour(MainWindow& window, const QString& folder)
 {
     // Pictures of the same state are the same: of one size, whatever the screen, with no blinking
@@ -102,6 +96,7 @@ int RunTour(MainWindow& window, const QString& folder)
 QString Open(PX::SettingsStore& store)
 {
     store.AddSection(ApplicationSettingsSection());
+    store.AddSection(BackgroundSettingsSection());
     store.AddSection(UnfinishedTaskSection());
     store.AddSection(Schedule::RecordingSettingsSection());
     QString reason;

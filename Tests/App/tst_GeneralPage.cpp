@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QLabel>
@@ -7,6 +8,7 @@
 
 #include <glog/logging.h>
 
+#include "AutostartEntry.h"
 #include "GeneralPage.h"
 #include "Languages.h"
 #include "Log.h"
@@ -16,6 +18,8 @@
 
 namespace Zentor::Tests {
 namespace {
+
+using Desktop::AutostartEntry;
 
 /// Stands in for the desktop's programs: notes what they are asked to show.
 class DesktopStandIn final : public QObject {
@@ -136,6 +140,69 @@ private Q_SLOTS:
         QCOMPARE(box->currentIndex(), 0);
     }
 
+    void storesWhetherItKeepsRunning()
+    {
+        Show();
+        QVERIFY(CheckBox("keepRunningBox")->isChecked());
+        CheckBox("keepRunningBox")->click();
+        QVERIFY(!Desktop::BackgroundSettingsIn(*m_store).keepRunning);
+        CheckBox("keepRunningBox")->click();
+        QVERIFY(Desktop::BackgroundSettingsIn(*m_store).keepRunning);
+        Desktop::ChangeBackgroundSettings(*m_store,
+                                          [](auto& settings) { settings.keepRunning = false; });
+        QVERIFY(!CheckBox("keepRunningBox")->isChecked());
+    }
+
+    void startsWithTheDesktop()
+    {
+        Show();
+        QVERIFY(!CheckBox("autostartBox")->isChecked());
+        CheckBox("autostartBox")->click();
+        QVERIFY(CheckBox("autostartBox")->isChecked());
+        QVERIFY(AutostartEntry::IsSet());
+        QFile entry(AutostartEntry::FilePath());
+        QVERIFY(entry.open(QIODevice::ReadOnly));
+        const QByteArray text = entry.readAll();
+        QVERIFY2(text.contains(QCoreApplication::applicationFilePath().toUtf8() + "\" --hidden "),
+                 text);
+        QVERIFY2(text.contains(m_store->FilePath().toUtf8()), text);
+
+        // Switched off elsewhere while the page is not shown.
+        QVERIFY(QFile::remove(AutostartEntry::FilePath()));
+        m_page->hide();
+        m_page->show();
+        QVERIFY(!CheckBox("autostartBox")->isChecked());
+
+        CheckBox("autostartBox")->click();
+        CheckBox("autostartBox")->click();
+        QVERIFY(!CheckBox("autostartBox")->isChecked());
+        QVERIFY(!QFile::exists(AutostartEntry::FilePath()));
+    }
+
+    void saysWhyItCannotStartWithTheDesktop()
+    {
+        const QString folder = QFileInfo(AutostartEntry::FilePath()).path();
+        QVERIFY(!QFileInfo::exists(folder) || QDir(folder).removeRecursively());
+        QFile inTheWay(folder);
+        QVERIFY(QDir().mkpath(QFileInfo(folder).path()) && inTheWay.open(QIODevice::WriteOnly));
+        Show();
+        QVERIFY(!Label("autostartProblemLabel")->isVisible());
+        const QSignalSpy happened(m_page.get(), &Desktop::GeneralPage::Announced);
+        CheckBox("autostartBox")->click();
+        QVERIFY(!CheckBox("autostartBox")->isChecked());
+        QVERIFY(Label("autostartProblemLabel")->isVisible());
+        QVERIFY(Label("autostartProblemLabel")->text().contains(AutostartEntry::FilePath()));
+        QCOMPARE(CheckBox("autostartBox")->accessibleDescription(),
+                 Label("autostartProblemLabel")->text());
+        QCOMPARE(happened.count(), 1);
+
+        QVERIFY(inTheWay.remove());
+        CheckBox("autostartBox")->click();
+        QVERIFY(CheckBox("autostartBox")->isChecked());
+        QVERIFY(Label("autostartProblemLabel")->isHidden());
+        QVERIFY(QFile::remove(AutostartEntry::FilePath()));
+    }
+
     void forgetsTheAnswers()
     {
         Show();
@@ -232,6 +299,10 @@ private:
     QComboBox* Box(const char* name) const
     {
         return m_page->findChild<QComboBox*>(QLatin1String(name));
+    }
+    QCheckBox* CheckBox(const char* name) const
+    {
+        return m_page->findChild<QCheckBox*>(QLatin1String(name));
     }
     QLabel* Label(const char* name) const
     {

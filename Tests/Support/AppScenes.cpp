@@ -11,6 +11,7 @@
 #include <QTimeEdit>
 #include <QToolTip>
 
+#include "AutostartEntry.h"
 #include "Boxes.h"
 #include "FakeScreen.h"
 #include "PanelParts.h"
@@ -209,6 +210,18 @@ void ShowFolderProblems(const Stage& stage)
     stage.ShowPage(0);
 }
 
+void ShowAutostartProblem(const Stage& stage)
+{
+    const QString folder = QFileInfo(Desktop::AutostartEntry::FilePath()).path();
+    QVERIFY(QDir().mkpath(QFileInfo(folder).path()));
+    QFile inTheWay(folder);
+    QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+    stage.Click("autostartBox");
+    stage.Show(QStringLiteral("entry of the desktop that cannot be written"),
+               stage.App().Find("autostartProblemLabel")->isVisible());
+    QVERIFY(inTheWay.remove());
+}
+
 void ShowGeneralPage(const Stage& stage)
 {
     const auto forgo = [&](bool isForgone) {
@@ -230,6 +243,7 @@ void ShowGeneralPage(const Stage& stage)
     stage.Show(QStringLiteral("folder that cannot be opened"),
                stage.App().Find("openProblemLabel")->isVisible());
     QVERIFY(QDir().rename(folder + QStringLiteral("-1"), folder));
+    ShowAutostartProblem(stage);
     stage.ShowPage(0);
 }
 
@@ -419,6 +433,8 @@ QStringList TextsOfTheUser(const AppWindow& app)
 {
     QStringList texts{app.folder.filePath(QStringLiteral("settings.json")), app.folder.path(),
                       LongTitle(), SecondScreen(), ReasonNotToSave()};
+    // With the reason, which is the system's.
+    texts << Desktop::AutostartEntry::FilePath() + QStringLiteral(": Not a directory");
     for (int number = 1; number <= ManyTasks; ++number) {
         texts << QStringLiteral("Task %1").arg(number);
     }

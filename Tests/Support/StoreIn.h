@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "ApplicationSettings.h"
+#include "BackgroundSettings.h"
 #include "RecordingSettings.h"
 #include "UnfinishedTask.h"
 
@@ -17,6 +18,7 @@ inline std::shared_ptr<PX::SettingsStore> OpenStoreIn(const QTemporaryDir& folde
     auto store =
         std::make_shared<PX::SettingsStore>(folder.filePath(QStringLiteral("settings.json")));
     store->AddSection(Desktop::ApplicationSettingsSection());
+    store->AddSection(Desktop::BackgroundSettingsSection());
     store->AddSection(Desktop::UnfinishedTaskSection());
     store->AddSection(Schedule::RecordingSettingsSection());
     QString error;

@@ -1,0 +1,14 @@
+#include "DefaultSettingsFile.h"
+
+#include <QDir>
+#include <QStandardPaths>
+
+namespace Zentor::Desktop {
+
+QString DefaultSettingsFile()
+{
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation))
+        .filePath(QStringLiteral("settings.json"));
+}
+
+} // namespace Zentor::Desktop
