@@ -197,7 +197,7 @@ void GeneralPage::ConnectBackground()
 
 void GeneralPage::RetranslateBackground()
 {
-    m_autostartBox->setText(tr("Start with the &desktop"));
+    m_autostartBox->setText(tr("Start &with the desktop"));
     m_keepRunningBox->setText(tr("&Keep running when the window is closed"));
     m_keepRunningLabel->setText(
         tr("While tasks are pending or a recording runs, the program stays in the tray. Where "

@@ -186,6 +186,11 @@ void SchedulePage::RememberInput()
     m_formMemory->Remember();
 }
 
+void SchedulePage::KeepInput()
+{
+    m_formMemory->Keep();
+}
+
 void SchedulePage::FocusInput()
 {
     m_parts->nameField->setFocus(Qt::OtherFocusReason);

@@ -60,6 +60,10 @@ public:
     /// Stores an unfinished task, with which the form opens at the next start.
     void RememberInput();
 
+    /// Stores a form that is open, and opens it anew when the window, which is about to be hidden,
+    /// is shown again.
+    void KeepInput();
+
     /// Places a new panel behind \a widget, which must outlive the page, in the tab order.
     void SetTabPredecessor(QWidget* widget) { m_tabPredecessor = widget; }
 

@@ -83,6 +83,12 @@ void PanelFormMemory::Remember()
     RememberUnfinishedTask(*m_store, task);
 }
 
+void PanelFormMemory::Keep()
+{
+    Remember();
+    m_isPending = UnfinishedTaskIn(*m_store).has_value();
+}
+
 void PanelFormMemory::ForgetWithoutForm()
 {
     if (!m_isPending && !IsFormOpen()) {

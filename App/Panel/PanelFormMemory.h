@@ -12,9 +12,9 @@ class SettingsStore;
 
 namespace Zentor::Desktop {
 
-/// Carries a task form that is being filled in over to the next start: Remember() stores what it
-/// holds, and the form opens with it, without a question, when the panel is shown for the first
-/// time. It is forgotten when the form is closed.
+/// Carries a task form that is being filled in over to the next start, or to when the window is
+/// shown again: what it holds is stored, and the form opens with it, without a question, when the
+/// panel is shown. It is forgotten when the form is closed.
 class PanelFormMemory final : public QObject {
     Q_OBJECT
 
@@ -26,6 +26,10 @@ public:
     /// Stores what the form holds, or that there is none on screen.
     void Remember();
 
+    /// Stores what the form holds and opens it anew when the panel, which is about to be hidden
+    /// with its window, is shown again.
+    void Keep();
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -36,7 +40,7 @@ private:
     QWidget* m_panel;
     std::shared_ptr<PX::SettingsStore> m_store;
     const PanelParts m_parts;
-    /// Whether a form of the last run is still to be opened.
+    /// Whether a form that was stored is still to be opened.
     bool m_isPending;
 };
 

@@ -14,6 +14,7 @@
 #include <QTimer>
 
 #include "ApplicationSettings.h"
+#include "BackgroundSettings.h"
 #include "Controls.h"
 #include "FilesPage.h"
 #include "GeneralPage.h"
@@ -176,8 +177,8 @@ void MainWindow::Connect()
         m_readNotices = m_store->Notices().size();
         ShowNotices();
     });
-    const auto* quit = new QShortcut(QKeySequence::Quit, this);
-    connect(quit, &QShortcut::activated, this, &MainWindow::close);
+    const auto* quit = new QShortcut(Qt::CTRL + Qt::Key_Q, this);
+    connect(quit, &QShortcut::activated, this, &MainWindow::Quit);
 }
 
 void MainWindow::ConnectPages()
@@ -310,6 +311,13 @@ void MainWindow::RememberPlace()
     });
 }
 
+void MainWindow::AskBeforeClosing(std::function<PendingWork()> workNow,
+                                  std::function<bool()> hasTray)
+{
+    m_workNow = std::move(workNow);
+    m_hasTray = std::move(hasTray);
+}
+
 void MainWindow::Raise()
 {
     setWindowState(windowState() & ~Qt::WindowMinimized);
@@ -430,6 +438,32 @@ bool MainWindow::IsClosingWithoutSavingAccepted()
     return box.Exec() == QMessageBox::Ok;
 }
 
+bool MainWindow::IsLosingWorkAccepted()
+{
+    const PendingWork work = m_workNow();
+    if (!work.IsAny()) {
+        return true;
+    }
+    QStringList texts;
+    if (work.isRecording) {
+        texts << tr("The recording that is running will be stopped.");
+    }
+    if (work.taskCount > 0) {
+        texts << tr("%n task(s) are still to come. They will not be recorded when the program is "
+                    "not running.",
+                    nullptr, work.taskCount);
+    }
+    // The window may be destroyed meanwhile, and the box with it.
+    const QPointer<Util::AlertBox> box = new Util::AlertBox(
+        Util::AlertBox::Question, QString(), texts.join(QLatin1Char('\n')),
+        QMessageBox::Ok | QMessageBox::Cancel, this, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    box->setObjectName(QStringLiteral("pendingWorkBox"));
+    box->button(QMessageBox::Ok)->setText(tr("Quit"));
+    const bool isAccepted = box->Exec() == QMessageBox::Ok;
+    delete box;
+    return isAccepted;
+}
+
 void MainWindow::changeEvent(QEvent* event)
 {
     // Both arrive for the first time while the window is still being built.
@@ -450,13 +484,52 @@ void MainWindow::resizeEvent(QResizeEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!CurrentPage()->FinishInput()) {
-        event->ignore();
+    event->ignore();
+    const auto decision =
+        DecideClose(m_workNow(), BackgroundSettingsIn(*m_store).keepRunning, m_hasTray());
+    if (decision != CloseDecision::Close && !m_isQuitting) {
+        StepAside(decision);
         return;
     }
-    event->setAccepted(SaveChanges() || IsClosingWithoutSavingAccepted());
-    if (event->isAccepted()) {
+    // The window may be destroyed while the user is asked.
+    const QPointer<MainWindow> self(this);
+    // What is unfinished in a hidden window waits for the next start.
+    const bool isFinished = !isVisible() || CurrentPage()->FinishInput();
+    const bool isAccepted = isFinished && !self.isNull() && IsLosingWorkAccepted()
+        && !self.isNull() && (SaveChanges() || IsClosingWithoutSavingAccepted());
+    if (isAccepted && !self.isNull()) {
+        event->accept();
         Q_EMIT Closed();
+    }
+}
+
+void MainWindow::StepAside(CloseDecision decision)
+{
+    SaveChanges();
+    if (decision == CloseDecision::Minimize) {
+        showMinimized();
+        return;
+    }
+    m_schedulePage->KeepInput();
+    hide();
+    if (!BackgroundSettingsIn(*m_store).toldAboutTray) {
+        ChangeBackgroundSettings(*m_store, [](auto& settings) { settings.toldAboutTray = true; });
+        Q_EMIT HiddenInTray();
+    }
+}
+
+void MainWindow::Quit()
+{
+    if (QApplication::activeModalWidget() != nullptr) {
+        // One question at a time.
+        Raise();
+        return;
+    }
+    const QPointer<MainWindow> self(this);
+    m_isQuitting = true;
+    close();
+    if (!self.isNull()) {
+        m_isQuitting = false;
     }
 }
 

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QList>
 #include <QMainWindow>
+
+#include "CloseDecision.h"
 
 class QFrame;
 class QListWidget;
@@ -54,6 +57,15 @@ public:
     /// there is no such page.
     void ShowPage(const QString& id);
 
+    /// Has \a workNow tell, whenever the window is to be closed, what is lost when the program
+    /// ends, and \a hasTray, whether the desktop can show the window again. Without this nothing
+    /// is lost and nothing can.
+    void AskBeforeClosing(std::function<PendingWork()> workNow, std::function<bool()> hasTray);
+
+    /// Ends the program as far as the user agrees: asks about unfinished input, about tasks that
+    /// would be missed, and about changes that cannot be saved. Closed() is sent when it ends.
+    void Quit();
+
     /// Brings the window to the front, and with it the box that it waits for.
     void Raise();
 
@@ -64,10 +76,12 @@ public:
 Q_SIGNALS:
     /// The user has closed the window for good, and everything is saved that could be.
     void Closed();
+    /// The window has been hidden by closing it, for the first time since the user was told of it.
+    void HiddenInTray();
 
 protected:
     void changeEvent(QEvent* event) override;
-    /// Asks before closing when input is unfinished and when the settings could not be saved.
+    /// Hides or minimizes the window where the program is to run on, otherwise ends as Quit() does.
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -106,6 +120,10 @@ private:
     void ShowSaveProblem(const QString& problem);
     void ForgetSaveProblem();
     bool IsClosingWithoutSavingAccepted();
+    /// Whether nothing is lost when the program ends, or the user agrees.
+    bool IsLosingWorkAccepted();
+    /// Goes on without the window, as \a decision says.
+    void StepAside(CloseDecision decision);
 
     std::shared_ptr<PX::SettingsStore> m_store;
     QFrame* m_sidebar = nullptr;
@@ -125,6 +143,10 @@ private:
     QString m_readyMessage;
     bool m_isSidebarNarrow = false;
     bool m_isAskingAboutInput = false;
+    std::function<PendingWork()> m_workNow = [] { return PendingWork(); };
+    std::function<bool()> m_hasTray = [] { return false; };
+    /// The whole program is to end, not just the window to go.
+    bool m_isQuitting = false;
 };
 
 } // namespace Zentor::Desktop

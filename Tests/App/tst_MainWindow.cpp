@@ -841,7 +841,8 @@ private Q_SLOTS:
         QTest::newRow("general")
             << Desktop::PanelPart::OffModeButton << 2
             << QStringLiteral(
-                   "pageList languageBox themeBox openFolderButton startRecordingButton");
+                   "pageList languageBox themeBox autostartBox keepRunningBox openFolderButton "
+                   "startRecordingButton");
     }
 
     void showsFocusOnEveryControl()

@@ -368,11 +368,21 @@ void ShowRecordingStart(const Stage& stage)
                   [&] { stage.Click("startRecordingButton"); });
 }
 
+void ShowQuestionAboutPendingWork(const Stage& stage)
+{
+    const auto none = [] { return false; };
+    stage.App().window->AskBeforeClosing([] { return Desktop::PendingWork{true, 2}; }, none);
+    stage.ShowBox(QStringLiteral("question about pending work"), QMessageBox::Cancel,
+                  [&] { stage.App().window->Quit(); });
+    stage.App().window->AskBeforeClosing([] { return Desktop::PendingWork(); }, none);
+}
+
 void ShowSchedule(const Stage& stage)
 {
     stage.Show(QStringLiteral("schedule"), stage.App().Find(Desktop::PanelPart::Row)->isVisible());
     ShowRefusedTasks(stage);
     ShowRecordingStart(stage);
+    ShowQuestionAboutPendingWork(stage);
     stage.ShowBox(QStringLiteral("question about leaving the schedule"), QMessageBox::Cancel,
                   [&] { stage.Click(NothingButton); });
     stage.ShowBox(QStringLiteral("question about deleting"), QMessageBox::Ok,

@@ -1,0 +1,13 @@
+#include "CloseDecision.h"
+
+namespace Zentor::Desktop {
+
+CloseDecision DecideClose(const PendingWork& work, bool keepRunning, bool hasTray)
+{
+    if (!work.IsAny() || !keepRunning) {
+        return CloseDecision::Close;
+    }
+    return hasTray ? CloseDecision::Hide : CloseDecision::Minimize;
+}
+
+} // namespace Zentor::Desktop
