@@ -37,7 +37,8 @@ LAYERS = [
     (["App/Pages"], PAGES),
     (["App/Window"], PAGES),
     (["App/Tour"], PAGES),
-    (["App/Start"], PAGES + ["App/Window", "App/Tour"]),
+    (["App/Tray"], SUPPORT + ["App/Appearance"]),
+    (["App/Start"], PAGES + ["App/Window", "App/Tour", "App/Tray"]),
 ]
 # What a header's name in an #include is relative to, where that is not its own folder.
 SEARCHED = dict({folder: "Host" for folder in CORE + HOST}, **{"Schedule/System": "Schedule"})

@@ -20,6 +20,7 @@
 #include "BackgroundSettings.h"
 #include "CommandLine.h"
 #include "CoreInt/Printable.h"
+#include "CountPendingTasks.h"
 #include "DefaultSettingsFile.h"
 #include "Instance.h"
 #include "Languages.h"
@@ -30,6 +31,7 @@
 #include "ScreenshotTour.h"
 #include "TerminationSignals.h"
 #include "TourScript.h"
+#include "TrayIcon.h"
 #include "UnfinishedTask.h"
 
 namespace Zentor::Desktop {
@@ -132,7 +134,23 @@ void Raise(MainWindow& window, const QVariantMap& platformData)
     window.Raise();
 }
 
-int RunWindow(MainWindow& window, Instance& instance, const CommandLine& line)
+/// Has \a window go and come by \a tray, whose other requests are made to \a instance.
+void ConnectTray(const TrayIcon& tray, MainWindow& window, Instance& instance)
+{
+    QObject::connect(&tray, &TrayIcon::ShowRequested, &window, &MainWindow::Raise);
+    QObject::connect(&tray, &TrayIcon::QuitRequested, &window, &MainWindow::Quit);
+    QObject::connect(&tray, &TrayIcon::StartRequested, &instance, &Instance::StartRequested);
+    QObject::connect(&tray, &TrayIcon::StopRequested, &instance, &Instance::StopRequested);
+    QObject::connect(&tray, &TrayIcon::PauseRequested, &instance, &Instance::PauseRequested);
+}
+
+PendingWork PendingWorkIn(const PX::SettingsStore& store)
+{
+    return {false, CountPendingTasks(store.Settings(), Time::SystemClock().Now())};
+}
+
+int RunWindow(const PX::SettingsStore& store, MainWindow& window, Instance& instance,
+              const CommandLine& line)
 {
     QObject::connect(&instance, &Instance::Activated, &window,
                      [&](const QVariantMap& platformData) { Raise(window, platformData); });
@@ -144,6 +162,11 @@ int RunWindow(MainWindow& window, Instance& instance, const CommandLine& line)
     QObject::connect(&signalsToEnd, &TerminationSignals::Received, &window, endUnattended);
     QObject::connect(&instance, &Instance::QuitRequested, &window, endUnattended);
     FollowSession(window);
+    const TrayIcon tray;
+    ConnectTray(tray, window, instance);
+    window.AskBeforeClosing([&] { return PendingWorkIn(store); },
+                            [&] { return tray.IsAvailable(); });
+    QObject::connect(&instance, &Instance::StartRequested, &window, &MainWindow::StartRecording);
     // A hidden window is not the end, nor is a box that is closed over one.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&window, &MainWindow::Closed, qGuiApp, &QCoreApplication::quit,
@@ -176,7 +199,7 @@ int RunOn(const QString& file, const CommandLine& line, Instance* instance)
     MainWindow window(store, lookAndFeel);
     window.Follow(appearance);
     return instance == nullptr ? RunTour(window, line.screenshotsFolder)
-                               : RunWindow(window, *instance, line);
+                               : RunWindow(*store, window, *instance, line);
 }
 
 /// Runs the tour on a copy: it deletes tasks, which it must not do to the user's own.

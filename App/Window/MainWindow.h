@@ -66,6 +66,9 @@ public:
     /// would be missed, and about changes that cannot be saved. Closed() is sent when it ends.
     void Quit();
 
+    /// Starts a recording when the panel has nothing against it.
+    void StartRecording();
+
     /// Brings the window to the front, and with it the box that it waits for.
     void Raise();
 
@@ -109,8 +112,6 @@ private:
     /// Shows the page that is chosen in the list, unless unfinished input keeps the user here.
     void FollowPageList();
     void ApplyPages();
-    /// Starts a recording when the panel has nothing against it.
-    void StartRecording();
     /// Shows the first page that keeps a recording from being started. Whether there is one.
     bool ShowPageProblem();
     /// Shows what the store has to say and the user has not read yet.
