@@ -20,6 +20,7 @@
 #include "PanelNameGuard.h"
 #include "PanelQuestions.h"
 #include "PanelTaskDetails.h"
+#include "PanelTaskRemover.h"
 #include "PXUserSettings/StoredSettings.h"
 #include "RadioGroupTabStop.h"
 #include "RecordSchedulerWidget.h"
@@ -37,6 +38,7 @@ SchedulePage::SchedulePage(std::shared_ptr<PX::SettingsStore> store,
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSizeConstraint(QLayout::SetMinAndMaxSize);
+    m_taskRemover = new PanelTaskRemover(m_store, this);
     CreatePanel();
 }
 
@@ -65,8 +67,9 @@ QString SchedulePage::Description() const
 
 void SchedulePage::CreatePanel()
 {
-    m_panel = new RecordSchedulerWidget(m_lookAndFeel,
-                                        std::make_shared<App::SettingsManager>(m_store), this);
+    const auto consent =
+        std::make_shared<DeletionConsent>(std::make_shared<App::SettingsManager>(m_store));
+    m_panel = new RecordSchedulerWidget(m_lookAndFeel, consent, this);
     m_panel->setObjectName(QStringLiteral("recordSchedulerWidget"));
     m_panel->SetSchedulerSettings(std::make_shared<PX::StoredSchedulerSettings>(m_store));
     m_panel->SetCaptureFinishActionSettings(
@@ -77,6 +80,7 @@ void SchedulePage::CreatePanel()
     connect(m_panel, &RecordSchedulerWidget::OpenFilesSettingsRequested, this,
             &SchedulePage::FilesRequested);
     m_parts = std::make_unique<PanelParts>(*m_panel);
+    m_taskRemover->SetPanel(m_panel, consent);
     m_listHeight = new PanelListHeight(m_panel);
     m_listHeight->SetPanelHeight(m_room);
     layout()->addWidget(m_panel);
@@ -105,6 +109,8 @@ void SchedulePage::AssistPanel()
     m_announcer = new PanelAnnouncer(m_panel, m_store);
     connect(m_announcer, &PanelAnnouncer::Announced, this, &SchedulePage::Announced);
     connect(m_announcer, &PanelAnnouncer::ProblemChanged, this, &SchedulePage::ProblemChanged);
+    connect(m_taskRemover, &PanelTaskRemover::Removing, m_announcer,
+            &PanelAnnouncer::KeepQuietAbout);
     const auto* nameGuard = new PanelNameGuard(m_panel);
     connect(nameGuard, &PanelNameGuard::RefusalChanged, m_announcer, &PanelAnnouncer::SetRefusal);
 }
@@ -157,6 +163,11 @@ void SchedulePage::SetRoom(int height)
 {
     m_room = height;
     m_listHeight->SetPanelHeight(height);
+}
+
+void SchedulePage::RemoveTask(const PX::RecordTime& task)
+{
+    m_taskRemover->Remove(task);
 }
 
 bool SchedulePage::ValidateSettings()

@@ -14,6 +14,7 @@ class ILookAndFeelManager;
 }
 namespace PX {
 class SettingsStore;
+struct RecordTime;
 namespace Scheduler::UI {
 class RecordSchedulerWidget;
 }
@@ -25,6 +26,7 @@ namespace Zentor::Desktop {
 class CalendarLook;
 class PanelFormMemory;
 class PanelListHeight;
+class PanelTaskRemover;
 
 /// The page "Schedule": the scheduler panel on the settings of the application, with what it lacks
 /// for the keyboard, the mouse and screen readers.
@@ -67,6 +69,11 @@ public:
     /// Places a new panel behind \a widget, which must outlive the page, in the tab order.
     void SetTabPredecessor(QWidget* widget) { m_tabPredecessor = widget; }
 
+    /// Takes \a task, which is done, out of the list without a word, and without disturbing what
+    /// the user does: an open form, the focus and what is in view stay. While a box is open, after
+    /// that. Does nothing when there is no such task any more.
+    void RemoveTask(const PX::RecordTime& task);
+
     /// Whether a recording may start. The panel asks the user where it has to; the page may be
     /// destroyed meanwhile, and the answer is false then.
     bool ValidateSettings();
@@ -97,6 +104,7 @@ private:
     CalendarLook* m_calendarLook = nullptr;
     PanelFormMemory* m_formMemory = nullptr;
     PanelListHeight* m_listHeight = nullptr;
+    PanelTaskRemover* m_taskRemover = nullptr;
     int m_room = 0;
     QWidget* m_tabPredecessor = nullptr;
 };

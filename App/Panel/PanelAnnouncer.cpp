@@ -54,7 +54,14 @@ void PanelAnnouncer::CompareSchedule()
     } else if (m_titles.isEmpty() && before.size() > 1) {
         Q_EMIT Announced(tr("All tasks deleted"));
     } else if (before.size() == m_titles.size() + 1) {
-        Q_EMIT Announced(tr("Task deleted: %1").arg(ExtraOf(before, m_titles)));
+        AnnounceDeletion(ExtraOf(before, m_titles));
+    }
+}
+
+void PanelAnnouncer::AnnounceDeletion(const QString& title)
+{
+    if (std::exchange(m_quietTitle, {}) != title) {
+        Q_EMIT Announced(tr("Task deleted: %1").arg(title));
     }
 }
 

@@ -28,6 +28,9 @@ public:
     /// problems; empty when it has not.
     void SetRefusal(const QString& reason);
 
+    /// Does not announce it when the task called \a title is the next one to be deleted.
+    void KeepQuietAbout(const QString& title) { m_quietTitle = title; }
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
@@ -39,6 +42,7 @@ Q_SIGNALS:
 
 private:
     void CompareSchedule();
+    void AnnounceDeletion(const QString& title);
     void UpdateProblem();
     QString ShownProblem() const;
 
@@ -47,6 +51,7 @@ private:
     QString m_refusal;
     QString m_problem;
     QStringList m_titles;
+    QString m_quietTitle;
 };
 
 } // namespace Zentor::Desktop
