@@ -69,9 +69,9 @@ double FactorOf(Quality quality)
 {
     switch (quality) {
     case Quality::Small:
-        return 0.8;
+        return 0.75;
     case Quality::High:
-        return 1.25;
+        return 1.4;
     default:
         return 1;
     }

@@ -105,8 +105,8 @@ void tst_DiskBudget::typicalIsWhatADeskTakes_data()
     row("four screens", QSize(3840, 2160), 30, Quality::Normal, 1652);
     row("60 frames", FullHd, 60, Quality::Normal, 826);
     row("15 frames", FullHd, 15, Quality::Normal, 206.5);
-    row("small", FullHd, 30, Quality::Small, 330.4);
-    row("high", FullHd, 30, Quality::High, 516.25);
+    row("small", FullHd, 30, Quality::Small, 309.75);
+    row("high", FullHd, 30, Quality::High, 578.2);
     row("nothing", QSize(), 30, Quality::Normal, 0);
 }
 
@@ -147,7 +147,7 @@ void tst_DiskBudget::learnsOnlyTheNewest()
 void tst_DiskBudget::scalesWhatItHasLearned()
 {
     const MadeRecording made{{QSize(1920, 960), 15, Quality::Small, 0}, 10s, 10 * 80'000};
-    const double expected = 80'000.0 * 1080 / 960 * 2 / 0.8;
+    const double expected = 80'000.0 * 1080 / 960 * 2 / 0.75;
     QVERIFY(IsAbout(TypicalBytes(Hour(FullHd), {made}), expected * 3600));
 }
 
