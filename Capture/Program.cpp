@@ -14,6 +14,7 @@
 #include "ConsoleSession.h"
 #include "DisplayLoss.h"
 #include "Encoders.h"
+#include "LevelSession.h"
 #include "LineSession.h"
 #include "RecorderOptions.h"
 #include "Remuxer.h"
@@ -94,6 +95,14 @@ int ObeyLines()
     return QCoreApplication::exec();
 }
 
+int WriteLevels(const QStringList& devices)
+{
+    LevelSession session(devices);
+    QObject::connect(&session, &LevelSession::Ended, QCoreApplication::instance(),
+                     &QCoreApplication::quit, Qt::QueuedConnection);
+    return QCoreApplication::exec();
+}
+
 int Repair(const QString& file)
 {
     Remuxer remuxer(file, file);
@@ -118,6 +127,9 @@ int Run(const RecorderOptions& options)
         break;
     }
     gst_init(nullptr, nullptr);
+    if (options.task == RecorderOptions::Task::Levels) {
+        return WriteLevels(options.request.sound);
+    }
     // Displays are looked at more than once, with no client in between that would stay.
     const DisplayConnection presence;
     switch (options.task) {

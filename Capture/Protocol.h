@@ -41,6 +41,8 @@ constexpr QLatin1String Warning = Name("warning");
 constexpr QLatin1String Finished = Name("finished");
 constexpr QLatin1String Cancelled = Name("cancelled");
 constexpr QLatin1String Failed = Name("failed");
+/// Of --levels only.
+constexpr QLatin1String Levels = Name("levels");
 } // namespace Event
 
 /// Why a recording ended whose file is complete: the member "reason" of "finished".

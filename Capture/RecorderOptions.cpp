@@ -53,6 +53,8 @@ QList<QCommandLineOption> AllOptions()
     return OptionsOfRecording()
         + QList<QCommandLineOption>{
             Flag("lines", Text::tr("Be driven by lines on standard input.")),
+            Flag("levels",
+                 Text::tr("Print how loud the devices of --sound are, ten times a second.")),
             Flag("probe", Text::tr("Print encoders, screens and sound devices as JSON.")),
             Valued("repair", Text::tr("Complete the Matroska file <file> that a crash has left."),
                    Text::tr("file")),
@@ -181,6 +183,7 @@ RecorderOptions::Task TaskOf(const ValueReader& reader)
 {
     using Task = RecorderOptions::Task;
     return reader.IsSet("lines") ? Task::Lines
+        : reader.IsSet("levels") ? Task::Levels
         : reader.IsSet("probe")  ? Task::Probe
         : reader.IsSet("repair") ? Task::Repair
                                  : Task::Record;
@@ -206,8 +209,8 @@ RecorderOptions Read(const QCommandLineParser& parser)
     } else if (options.task == RecorderOptions::Task::Record) {
         ReadFile(reader, options);
         ReadPicture(reader, options);
-        options.request.sound = parser.values(QStringLiteral("sound"));
     }
+    options.request.sound = parser.values(QStringLiteral("sound"));
     return reader.Problem().isEmpty() ? options
                                       : Say(RecorderOptions::Task::Refuse, reader.Problem());
 }

@@ -9,7 +9,7 @@ namespace Zentor::Capture {
 
 /// What the program was started to do.
 struct RecorderOptions {
-    enum class Task { Record, Lines, Probe, Repair, Print, Refuse };
+    enum class Task { Record, Lines, Levels, Probe, Repair, Print, Refuse };
 
     Task task = Task::Record;
     /// What to print, or why the options are refused.

@@ -20,7 +20,8 @@ _px_recorder() {
             return ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "--file --screen --area --source --fps --duration --sound
-        --mix --encoder --quality --no-pointer --reserve --lines --probe --repair --help --version" \
+        --mix --encoder --quality --no-pointer --reserve --lines --levels --probe --repair --help
+        --version" \
         -- "$current")
 }
 complete -o filenames -F _px_recorder px-recorder

@@ -91,7 +91,7 @@ private Q_SLOTS:
     {
         const Surroundings surroundings;
         const QByteArray help = surroundings.Run(PX_RECORDER, {"--help"});
-        for (const char* option : {"--lines", "--probe", "--repair", "--file", "--no-pointer"}) {
+        for (const char* option : {"--lines", "--levels", "--probe", "--repair", "--file", "--no-pointer"}) {
             QVERIFY2(help.contains(option), option);
         }
         QVERIFY(surroundings.Run(PX_RECORDER, {"--version"}).startsWith("px-recorder "));
