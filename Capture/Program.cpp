@@ -50,11 +50,17 @@ int Probe()
             screens << JsonOf(screen);
         }
     }
-    const QJsonObject found{
-        {QStringLiteral("encoders"), EncoderStates()},
-        {QStringLiteral("screens"), screens},
-        {QStringLiteral("soundDevices"),
-         QJsonArray::fromStringList(CurrentSoundDevices().value_or(QStringList()))}};
+    QJsonArray soundDevices;
+    QJsonObject titles;
+    const auto devices = DescribeSoundDevices().value_or(std::vector<SoundDevice>());
+    for (const auto& device : devices) {
+        soundDevices << device.name;
+        titles.insert(device.name, device.title);
+    }
+    const QJsonObject found{{QStringLiteral("encoders"), EncoderStates()},
+                            {QStringLiteral("screens"), screens},
+                            {QStringLiteral("soundDevices"), soundDevices},
+                            {QStringLiteral("soundDeviceTitles"), titles}};
     Print(QString::fromUtf8(QJsonDocument(found).toJson(QJsonDocument::Compact)));
     return EXIT_SUCCESS;
 }

@@ -1,10 +1,22 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
+#include <QString>
 #include <QStringList>
 
 namespace Zentor::Capture {
+
+/// A device that the sound server can record from, monitors of outputs included.
+struct SoundDevice {
+    QString name;
+    /// What it is called for people.
+    QString title;
+};
+
+/// Nothing when there is no sound server.
+std::optional<std::vector<SoundDevice>> DescribeSoundDevices();
 
 /// The names of the devices that the sound server can record from, monitors of outputs included.
 /// Nothing when there is no sound server.

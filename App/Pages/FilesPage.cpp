@@ -6,13 +6,13 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
 #include <QShowEvent>
 
 #include "Controls.h"
 #include "HostInterfaces.h"
 #include "PXUserSettings/SettingsStore.h"
+#include "SizeText.h"
 
 namespace Zentor::Desktop {
 namespace {
@@ -39,20 +39,6 @@ QString NearestFolder(const QString& path)
         parent = QFileInfo(parent).path();
     } while (!QFileInfo::exists(parent));
     return parent;
-}
-
-/// \a text for a sentence, in which it keeps the order of its own writing direction.
-QString Isolated(const QString& text)
-{
-    constexpr char16_t firstStrongIsolate = 0x2068;
-    constexpr char16_t popDirectionalIsolate = 0x2069;
-    return QChar(firstStrongIsolate) + text + QChar(popDirectionalIsolate);
-}
-
-/// In RTL layouts a number and a Latin unit would change places.
-QString SizeText(std::int64_t bytes)
-{
-    return Isolated(QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat));
 }
 
 } // namespace

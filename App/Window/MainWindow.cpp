@@ -21,6 +21,7 @@
 #include "HostInterfaces.h"
 #include "NoticeBar.h"
 #include "PageFrame.h"
+#include "RecordingPage.h"
 #include "SchedulePage.h"
 #include "StatusLine.h"
 
@@ -108,6 +109,7 @@ QWidget* MainWindow::CreatePageColumn(QWidget* parent,
     m_pages->setObjectName(QStringLiteral("pages"));
     m_schedulePage = new SchedulePage(m_store, lookAndFeel, m_pages);
     AddPage(m_schedulePage);
+    AddPage(new RecordingPage(m_store, m_pages));
     AddPage(new FilesPage(m_store, m_pages));
     m_generalPage = new GeneralPage(m_store, m_pages);
     AddPage(m_generalPage);
