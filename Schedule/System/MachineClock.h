@@ -1,0 +1,13 @@
+#pragma once
+
+#include "IMachineClock.h"
+
+namespace Zentor::Schedule {
+
+/// The clocks of the operating system, rounded down to microseconds.
+class MachineClock final : public IMachineClock {
+public:
+    Instant Now() const override;
+};
+
+} // namespace Zentor::Schedule
