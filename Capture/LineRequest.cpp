@@ -61,16 +61,14 @@ std::int64_t NumberIn(const QJsonObject& line, const char* name)
 
 std::optional<Quality> QualityNamed(const QString& name)
 {
-    const QStringList names{QStringLiteral("small"), QStringLiteral("normal"),
-                            QStringLiteral("high")};
+    const QStringList names{QualityName::Small, QualityName::Normal, QualityName::High};
     const int index = names.indexOf(name);
     return index < 0 ? std::nullopt : std::optional(static_cast<Quality>(index));
 }
 
 std::optional<RecordingRequest::Source> SourceNamed(const QString& name)
 {
-    const QStringList names{QStringLiteral("x11"), QStringLiteral("portal"),
-                            QStringLiteral("test")};
+    const QStringList names{SourceType::X11, SourceType::Portal, SourceType::Test};
     const int index = names.indexOf(name);
     return index < 0 ? std::nullopt : std::optional(static_cast<RecordingRequest::Source>(index));
 }
@@ -82,8 +80,8 @@ std::optional<RecordingRequest> ReadRequest(const QJsonObject& line, QString* pr
     RecordingRequest request;
     const auto type = source.isEmpty()
         ? std::optional(UsualSource())
-        : SourceNamed(source.value(QLatin1String("type")).toString(QStringLiteral("x11")));
-    const auto quality = QualityNamed(value("quality").toString(QStringLiteral("normal")));
+        : SourceNamed(source.value(QLatin1String("type")).toString(SourceType::X11));
+    const auto quality = QualityNamed(value("quality").toString(QualityName::Normal));
     if (!type || !quality) {
         *problem = type ? Tr("there is no such quality") : Tr("there is no such source");
         return std::nullopt;

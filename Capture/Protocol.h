@@ -31,6 +31,20 @@ constexpr QLatin1String Cancel = Name("cancel");
 constexpr QLatin1String Quit = Name("quit");
 } // namespace Command
 
+/// The member "type" of a source.
+namespace SourceType {
+constexpr QLatin1String X11 = Name("x11");
+constexpr QLatin1String Portal = Name("portal");
+constexpr QLatin1String Test = Name("test");
+} // namespace SourceType
+
+/// The member "quality" of "prepare".
+namespace QualityName {
+constexpr QLatin1String Small = Name("small");
+constexpr QLatin1String Normal = Name("normal");
+constexpr QLatin1String High = Name("high");
+} // namespace QualityName
+
 namespace Event {
 constexpr QLatin1String Hello = Name("hello");
 constexpr QLatin1String Encoders = Name("encoders");
