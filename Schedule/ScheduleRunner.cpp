@@ -90,8 +90,9 @@ void ScheduleRunner::SetSchedule(std::vector<PX::RecordTime> tasks, bool isEnabl
     std::stable_sort(m_tasks.begin(), m_tasks.end(),
                      [](const auto& left, const auto& right) { return left.start < right.start; });
     for (auto note = m_notes.begin(); note != m_notes.end();) {
+        // Another task may have got the title.
         const bool isThere = std::any_of(m_tasks.begin(), m_tasks.end(), [&](const auto& task) {
-            return task.title == note->first;
+            return IsSame(task, note->second.task);
         });
         note = isThere ? std::next(note) : m_notes.erase(note);
     }
@@ -160,6 +161,13 @@ const PX::RecordTime* ScheduleRunner::TaskSoonAfterNow() const
     }
     const PX::RecordTime* next = NextTask();
     return next != nullptr && next->start - m_now.wall <= ActionDistance ? next : nullptr;
+}
+
+ScheduleRunner::TaskNote& ScheduleRunner::NoteOf(const PX::RecordTime& task)
+{
+    TaskNote& note = m_notes[task.title];
+    note.task = task;
+    return note;
 }
 
 RecordingSession* ScheduleRunner::Find(RecordingId id)
@@ -247,6 +255,8 @@ void ScheduleRunner::WithdrawOutdated(Session& session)
     const bool isPast = EndOf(session.task) <= m_now.wall;
     if (isPast) {
         NoteOf(session.task).whyMissed = m_isClockSet ? Why::ClockSet : Why::NoRecorder;
+    } else if (isEarly) {
+        NoteOf(session.task).isAnnounced = false;
     }
     if (isMisplaced || isEarly || isPast) {
         Withdraw(session);

@@ -123,6 +123,7 @@ public:
 private:
     /// What is remembered of a task as long as it is in the schedule.
     struct TaskNote {
+        PX::RecordTime task;
         bool isAnnounced = false;
         bool isYieldAnnounced = false;
         bool isScreenAwaited = false;
@@ -143,7 +144,7 @@ private:
     bool IsPending(const PX::RecordTime& task) const;
     const PX::RecordTime* NextTask() const;
     const PX::RecordTime* TaskSoonAfterNow() const;
-    TaskNote& NoteOf(const PX::RecordTime& task) { return m_notes[task.title]; }
+    TaskNote& NoteOf(const PX::RecordTime& task);
     bool CanRecord() const { return !m_isLeaving && !m_isShuttingDown; }
     bool MayStart() const { return m_isEnabled && CanRecord(); }
     Session* Find(RecordingId id);

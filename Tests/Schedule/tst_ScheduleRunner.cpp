@@ -178,6 +178,23 @@ finished 1 stopped 30
 > 130 tell ended A
 > 130 let sleep
 )"},
+    {"is dropped and prepared anew when it is moved while it is prepared", R"(
+task A 100 60
+at 95
+> 90 prepare 1 A screen 0 of 100
+> 90 tell starts soon A
+> 90 hold awake
+ready 1
+> 95 start 1 at 100 for 60
+task A 200 60
+> 95 cancel 1
+cancelled 1
+> 95 let sleep
+at 190
+> 190 prepare 2 A screen 0 of 200
+> 190 tell starts soon A
+> 190 hold awake
+)"},
     {"is told to be skipped, and is listed as missed for that", R"(
 task A 100 60
 at 95
@@ -440,6 +457,21 @@ finished 1 no-display 20
 > 120 let sleep
 at 170
 > 160 remove A
+)"},
+    {"tells the user again when it was moved by its owner", R"(
+task A 100 60
+at 95
+> 90 prepare 1 A screen 0 of 100
+> 90 tell starts soon A
+> 90 hold awake
+task A 1000 60
+> 95 cancel 1
+cancelled 1
+> 95 let sleep
+at 992
+> 990 prepare 2 A screen 0 of 1000
+> 990 tell starts soon A
+> 990 hold awake
 )"},
 };
 
@@ -946,6 +978,23 @@ warning 1
 };
 
 constexpr Story ClockStories[] = {
+    {"is dropped when the clock is set back before its time, and is told of again", R"(
+task A 1000 60
+at 995
+> 990 prepare 1 A screen 0 of 1000
+> 990 tell starts soon A
+> 990 hold awake
+ready 1
+> 995 start 1 at 1000 for 60
+clock 500
+> 500 cancel 1
+cancelled 1
+> 500 let sleep
+at 992
+> 990 prepare 2 A screen 0 of 1000
+> 990 tell starts soon A
+> 990 hold awake
+)"},
     {"starts anew when the clock is set while it is to start", R"(
 task A 100 60
 at 95
