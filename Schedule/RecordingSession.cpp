@@ -24,6 +24,14 @@ Verdict JudgeWhole(const RecordingSession& session)
 
 } // namespace
 
+void RecordingSession::EndPause(Length sinceBoot)
+{
+    if (isPaused) {
+        isPaused = false;
+        pausedFor += sinceBoot - pausedSince;
+    }
+}
+
 Verdict Judge(const RecordingSession& session, const RecordingResult& result)
 {
     if (result.reason == Capture::Reason::Duration) {

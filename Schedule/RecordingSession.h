@@ -73,6 +73,7 @@ struct RecordingSession {
 
     /// When it is over by Instant::sinceBoot, pauses of a recording by hand left out.
     Length EndSinceBoot() const { return started.sinceBoot + length; }
+    void EndPause(Length sinceBoot);
     bool WasPaused() const { return isPaused || pausedFor > Length::zero(); }
 };
 

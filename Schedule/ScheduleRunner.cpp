@@ -208,6 +208,7 @@ void ScheduleRunner::Withdraw(Session& session)
 
 void ScheduleRunner::StopRecording(Session& session, End end)
 {
+    session.EndPause(m_now.sinceBoot);
     session.end = end;
     session.phase = Phase::Ending;
     m_ports.recorder.Stop(session.id);
@@ -536,8 +537,7 @@ void ScheduleRunner::Pause(const Instant& now)
 void ScheduleRunner::Resume(const Instant& now)
 {
     if (m_active && m_active->IsRecording() && m_active->isPaused) {
-        m_active->isPaused = false;
-        m_active->pausedFor += now.sinceBoot - m_active->pausedSince;
+        m_active->EndPause(now.sinceBoot);
         m_ports.recorder.Resume(m_active->id);
     }
     Evaluate(now);

@@ -352,6 +352,31 @@ finished 1 stopped 40
 > 160 remove A
 > 160 let sleep
 )"},
+    {"ends in a pause that nobody ends", R"(
+task A 100 60 0 shutdown
+at 100
+> 90 prepare 1 A screen 0 of 100
+> 90 tell starts soon A
+> 90 hold awake
+ready 1
+> 100 start 1 now for 60
+recording 1
+> 100 list 1 A 100..100 recording file1
+> 100 tell started A
+at 120
+pause
+> 120 pause 1
+at 160
+> 160 stop 1
+status
+> closing A from 100 to 160
+finished 1 stopped 20
+> 160 update 1 A 100..160 complete file1
+> 160 tell ended A
+> 160 remove A
+> 160 ask for shutdown
+> 160 let sleep
+)"},
     {"is stopped two seconds after its end by a recorder that does not end it", R"(
 task A 100 60
 at 100
