@@ -682,7 +682,9 @@ void ScheduleRunner::OnFinished(RecordingId id, const RecordingResult& result, c
         isWhole || session.end != End::None || !session.isTask || session.TaskEnd() <= now.wall;
     Tell(Notice::Kind::Ended, session, !isOver);
     if (isOver) {
-        Settle(session, isWhole && verdict.reason != Why::Suspended);
+        // It may have reached its end while it was being stopped.
+        const bool isUsers = session.end == End::User || session.end == End::Withdrawn;
+        Settle(session, isWhole && !isUsers && verdict.reason != Why::Suspended);
     }
     Evaluate(now);
 }

@@ -958,6 +958,24 @@ recording 1
 cancelled 1
 > 100 let sleep
 )"},
+    {"is listed when it had finished before it could be cancelled", R"(
+task A 100 60 0 shutdown
+at 100
+> 90 prepare 1 A screen 0 of 100
+> 90 tell starts soon A
+> 90 hold awake
+ready 1
+> 100 start 1 now for 60
+delete A
+> 100 cancel 1
+recording 1
+at 100.5
+finished 1 duration 0.5
+> 100.5 list 1 A 100..100 recording file1
+> 100.5 update 1 A 100..100.5 complete file1
+> 100.5 tell ended A
+> 100.5 let sleep
+)"},
     {"may fail or die while it is cancelled", R"(
 task A 100 60
 at 95
@@ -979,6 +997,26 @@ died 2
 > 195 let sleep
 status
 > idle at rest
+)"},
+    {"has no action when it was stopped in its last moment", R"(
+task A 100 60 0 shutdown
+at 100
+> 90 prepare 1 A screen 0 of 100
+> 90 tell starts soon A
+> 90 hold awake
+ready 1
+> 100 start 1 now for 60
+recording 1
+> 100 list 1 A 100..100 recording file1
+> 100 tell started A
+at 159.99
+stop
+> 159.99 stop 1
+finished 1 duration 60
+> 159.99 update 1 A 100..159.99 complete file1
+> 159.99 tell ended A
+> 159.99 remove A
+> 159.99 let sleep
 )"},
     {"knows no recording that is over", R"(
 ready 7
