@@ -65,6 +65,9 @@ struct RecordingSession {
     RecordingProgress progress;
     /// Where it stands in the list, once something has been recorded.
     std::optional<IRecordings::EntryId> entryId;
+    /// The entry of a task that was skipped, which is missed unless the recorder finishes after
+    /// all.
+    std::optional<IRecordings::EntryId> skippedId;
     RecordingEntry entry;
 
     bool IsRecording() const { return phase == Phase::Recording; }

@@ -557,12 +557,22 @@ void ScheduleRunner::Skip(const QString& title, const Instant& now)
         && (m_active->IsRecording() || m_active->HasFrames());
     if (task != m_tasks.end() && !isRecorded) {
         if (!m_ports.recordings.Contains(title, task->start - EarlyStart, EndOf(*task))) {
-            m_ports.recordings.Add(
-                {title, task->start, EndOf(*task), Outcome::Missed, QString(), Why::Skipped});
+            ListSkipped(*task);
         }
         RemoveTask(PX::RecordTime(*task));
     }
     Evaluate(now);
+}
+
+void ScheduleRunner::ListSkipped(const PX::RecordTime& task)
+{
+    const auto id = m_ports.recordings.Add(
+        {task.title, task.start, EndOf(task), Outcome::Missed, QString(), Why::Skipped});
+    for (auto* session : {&m_active, &m_upcoming}) {
+        if (*session && (*session)->isTask && IsSame((*session)->task, task)) {
+            (*session)->skippedId = id;
+        }
+    }
 }
 
 void ScheduleRunner::Leave(const Instant& now)
@@ -641,7 +651,12 @@ void ScheduleRunner::List(Session& session, Moment firstFrame, const QString& fi
                      Outcome::Recording,
                      file,
                      QString()};
-    session.entryId = m_ports.recordings.Add(session.entry);
+    if (session.skippedId) {
+        session.entryId = session.skippedId;
+        m_ports.recordings.Update(*session.entryId, session.entry);
+    } else {
+        session.entryId = m_ports.recordings.Add(session.entry);
+    }
 }
 
 void ScheduleRunner::OnProgress(RecordingId id, const RecordingProgress& progress)

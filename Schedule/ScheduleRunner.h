@@ -171,6 +171,7 @@ private:
 
     QString WhyMissed(const PX::RecordTime& task) const;
 
+    void ListSkipped(const PX::RecordTime& task);
     void Prepare(Session& session);
     void StartNow(Session& session);
     void Forget(RecordingId id);

@@ -976,6 +976,25 @@ finished 1 duration 0.5
 > 100.5 tell ended A
 > 100.5 let sleep
 )"},
+    {"is not both skipped and recorded", R"(
+task A 100 60
+at 100
+> 90 prepare 1 A screen 0 of 100
+> 90 tell starts soon A
+> 90 hold awake
+ready 1
+> 100 start 1 now for 60
+skip A
+> 100 list 1 A 100..160 missed skipped
+> 100 remove A
+> 100 cancel 1
+at 101
+finished 1 disk-low 1
+> 101 update 1 A 100..100 recording file1
+> 101 update 1 A 100..101 stopped user file1
+> 101 tell ended A
+> 101 let sleep
+)"},
     {"may fail or die while it is cancelled", R"(
 task A 100 60
 at 95
