@@ -504,6 +504,9 @@ bool ScheduleRunner::StartByHand(Length length, PX::PowerAction action, const In
     }
     m_isKept = false;
     m_breaksByHand = 0;
+    for (auto& note : m_notes) {
+        note.second.isYieldAnnounced = false;
+    }
     Session session;
     session.task.duration = length;
     session.task.finishAction = action;

@@ -604,6 +604,29 @@ cancelled 1
 ready 2
 > 90 start 2 at 100 for 60
 )"},
+    {"says so again of another recording", R"(
+task A 100 60
+record 0
+> 0 prepare 1 by hand of 0
+> 0 start 1 now for 0
+> 0 hold awake
+ready 1
+recording 1
+> 0 list 1 Recording 0..0 recording file1
+at 45
+> 40 tell giving way to A
+stop
+> 45 stop 1
+finished 1 stopped 5
+> 45 update 1 Recording 0..45 stopped user file1
+> 45 tell ended
+> 45 let sleep
+record 0
+> 45 prepare 2 by hand of 45
+> 45 start 2 now for 0
+> 45 tell giving way to A
+> 45 hold awake
+)"},
     {"is kept beyond the end of a task", R"(
 task A 100 60
 record 0
