@@ -474,7 +474,7 @@ RunnerStatus ScheduleRunner::Status() const
         status.title = session->task.title;
         status.isTask = session->isTask;
         status.isPaused = session->isPaused;
-        status.isKept = m_isKept;
+        status.isKept = m_isKept && !session->isTask;
         status.progress = session->progress;
         status.start = session->HasFrames() ? session->started.wall : session->task.start;
         if (session->isTask) {

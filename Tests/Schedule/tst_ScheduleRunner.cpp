@@ -627,6 +627,41 @@ record 0
 > 45 tell giving way to A
 > 45 hold awake
 )"},
+    {"is kept, and the task starts late", R"(
+task A 100 60
+record 0
+> 0 prepare 1 by hand of 0
+> 0 start 1 now for 0
+> 0 hold awake
+ready 1
+recording 1
+> 0 list 1 Recording 0..0 recording file1
+at 50
+> 40 tell giving way to A
+keep
+status
+> recording from 0 kept next A
+at 130
+stop
+> 130 stop 1
+> 130 prepare 2 A screen 0 of 130
+finished 1 stopped 130
+> 130 update 1 Recording 0..130 stopped user file1
+> 130 tell ended
+ready 2
+> 130 start 2 now for 30
+recording 2
+> 130 list 2 A 130..130 recording file2
+> 130 tell started A
+status
+> recording A from 130 to 160
+at 160
+finished 2 duration 30
+> 160 update 2 A 130..160 partial late file2
+> 160 tell ended A
+> 160 remove A
+> 160 let sleep
+)"},
     {"is kept beyond the end of a task", R"(
 task A 100 60
 record 0
