@@ -437,7 +437,6 @@ std::optional<Moment> ScheduleRunner::NextWake() const
     };
     if (const auto deadline = ActiveDeadline()) {
         addSinceBoot(*deadline);
-        addSinceBoot(m_active->EndSinceBoot() - PrepareAhead);
     }
     for (const auto* session : {&m_active, &m_upcoming}) {
         if (*session && (*session)->isTask && !(*session)->IsRecording()) {
@@ -448,19 +447,40 @@ std::optional<Moment> ScheduleRunner::NextWake() const
         addSinceBoot(*m_finish.End());
     }
     if (const PX::RecordTime* next = MayStart() ? NextTask() : nullptr) {
-        for (const Length ahead : {Length(GiveWayNotice), Length(PrepareAhead), Length::zero()}) {
-            moments.push_back(next->start - ahead);
-        }
-        moments.push_back(EndOf(*next));
-        const auto note = m_notes.find(next->title);
-        if (note != m_notes.end()) {
-            addSinceBoot(note->second.notBefore);
-        }
+        AddWakes(*next, moments);
     }
     const auto past = std::remove_if(moments.begin(), moments.end(),
                                      [&](Moment moment) { return moment <= m_now.wall; });
     const auto first = std::min_element(moments.begin(), past);
     return first == past ? std::nullopt : std::optional(*first);
+}
+
+/// Adds when something may be to do for the task that comes next.
+void ScheduleRunner::AddWakes(const PX::RecordTime& next, std::vector<Moment>& moments) const
+{
+    moments.push_back(next.start - PrepareAhead);
+    moments.push_back(next.start);
+    moments.push_back(EndOf(next));
+    if (m_active && !m_active->isTask) {
+        moments.push_back(next.start - GiveWayNotice);
+    }
+    if (m_finish.Action() != PX::DoNothing) {
+        moments.push_back(next.start - ActionDistance);
+    }
+    const auto addSinceBoot = [&](Length moment) {
+        const Moment wall = m_now.wall + (moment - m_now.sinceBoot);
+        if (next.start - PrepareAhead < wall) {
+            moments.push_back(wall);
+        }
+    };
+    // It waits for the recording that runs.
+    if (ActiveDeadline()) {
+        addSinceBoot(m_active->EndSinceBoot() - PrepareAhead);
+    }
+    const auto note = m_notes.find(next.title);
+    if (note != m_notes.end()) {
+        addSinceBoot(note->second.notBefore);
+    }
 }
 
 RunnerStatus ScheduleRunner::Status() const

@@ -170,6 +170,7 @@ private:
     void HoldAwake();
 
     QString WhyMissed(const PX::RecordTime& task) const;
+    void AddWakes(const PX::RecordTime& next, std::vector<Moment>& moments) const;
 
     void ListSkipped(const PX::RecordTime& task);
     void Prepare(Session& session);

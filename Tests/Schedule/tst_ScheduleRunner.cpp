@@ -11,6 +11,30 @@ struct Story {
 };
 
 constexpr Story TasksStories[] = {
+    {"is prepared ten seconds before, starts to the microsecond, and leaves when it has ended", R"(
+task A 100 60
+at 95
+> 90 prepare 1 A screen 0 of 100
+> 90 tell starts soon A
+> 90 hold awake
+ready 1
+> 95 start 1 at 100 for 60
+at 100.02
+recording 1
+> 100.02 list 1 A 100.02..100.02 recording file1
+> 100.02 tell started A
+status
+> recording A from 100.02 to 160
+at 160.02
+finished 1 duration 60
+> 160.02 update 1 A 100.02..160.02 complete file1
+> 160.02 tell ended A
+> 160.02 remove A
+> 160.02 let sleep
+at 1000
+wakes
+> 1
+)"},
     {"may become ready late, and starts at once then, for what is left", R"(
 task A 100 60
 at 103.5
@@ -482,6 +506,18 @@ finished 1 no-display 20
 > 120 let sleep
 at 170
 > 160 remove A
+)"},
+    {"wakes nobody before its time", R"(
+task A 100000 60
+at 99985
+wakes
+> 0
+at 99991
+> 99990 prepare 1 A screen 0 of 100000
+> 99990 tell starts soon A
+> 99990 hold awake
+wakes
+> 1
 )"},
     {"tells the user again when it was moved by its owner", R"(
 task A 100 60
@@ -1470,7 +1506,7 @@ finished 1 duration 10
 answer sleep yes
 > 10 tell countdown to sleep 3610
 at 695
-> 640 tell skipped sleep A
+> 100 tell skipped sleep A
 > 690 prepare 2 A screen 0 of 700
 > 690 tell starts soon A
 > 690 hold awake
@@ -1779,6 +1815,7 @@ class tst_ScheduleRunner : public WidgetTest {
 private Q_SLOTS:
     void doesWhatTheStorySays_data();
     void doesWhatTheStorySays();
+    void wakesNobodyBetweenTasks();
 };
 
 void tst_ScheduleRunner::doesWhatTheStorySays_data()
@@ -1800,6 +1837,29 @@ void tst_ScheduleRunner::doesWhatTheStorySays()
     if (played != story) {
         QFAIL(qPrintable("it was\n" + played.join('\n') + "\n"));
     }
+}
+
+/// 100 tasks in a week, on a machine with nothing else to do.
+void tst_ScheduleRunner::wakesNobodyBetweenTasks()
+{
+    constexpr int taskCount = 100;
+    constexpr int distance = 6000;
+    RunnerStory story;
+    QStringList lines;
+    for (int task = 1; task <= taskCount; ++task) {
+        lines << QStringLiteral("task T%1 %2 60").arg(task).arg(task * distance);
+    }
+    for (int task = 1; task <= taskCount; ++task) {
+        lines << QStringLiteral("at %1").arg(task * distance - 5)
+              << QStringLiteral("ready %1").arg(task)
+              << QStringLiteral("at %1").arg(task * distance)
+              << QStringLiteral("recording %1").arg(task)
+              << QStringLiteral("at %1").arg(task * distance + 60)
+              << QStringLiteral("finished %1 duration 60").arg(task);
+    }
+    lines << "wakes";
+    // Each is woken for its preparation, and for nothing else.
+    QCOMPARE(story.Play(lines).last(), QStringLiteral("> %1").arg(taskCount));
 }
 
 } // namespace Zentor::Tests
