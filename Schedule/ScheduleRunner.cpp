@@ -528,6 +528,7 @@ bool ScheduleRunner::StartByHand(Length length, PX::PowerAction action, const In
         note.second.isYieldAnnounced = false;
     }
     Session session;
+    session.task.start = now.wall;
     session.task.duration = length;
     session.task.finishAction = action;
     session.length = length;
@@ -711,6 +712,7 @@ void ScheduleRunner::OnFinished(RecordingId id, const RecordingResult& result, c
     Forget(id);
     if (!session.HasFrames()) {
         List(session, now.wall - result.length, result.file);
+        session.started.sinceBoot = now.sinceBoot - result.length;
     }
     const Verdict verdict = Judge(session, result);
     Close(session, verdict, result.file);

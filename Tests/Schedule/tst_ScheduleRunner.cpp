@@ -537,6 +537,24 @@ at 992
 };
 
 constexpr Story ByHandStories[] = {
+    {"is recorded at once, to its limit", R"(
+record 30
+> 0 prepare 1 by hand of 0
+> 0 start 1 now for 30
+> 0 hold awake
+status
+> preparing from 0
+ready 1
+recording 1
+> 0 list 1 Recording 0..0 recording file1
+status
+> recording from 0 to 30
+at 30
+finished 1 duration 30
+> 30 update 1 Recording 0..30 complete file1
+> 30 tell ended
+> 30 let sleep
+)"},
     {"is recorded until it is stopped", R"(
 record 0 shutdown
 > 0 prepare 1 by hand of 0
@@ -1069,6 +1087,23 @@ finished 1 duration 0.5
 > 100.5 update 1 A 100..100.5 complete file1
 > 100.5 tell ended A
 > 100.5 let sleep
+)"},
+    {"is listed when it was not told to begin", R"(
+task A 100 60
+at 100
+> 90 prepare 1 A screen 0 of 100
+> 90 tell starts soon A
+> 90 hold awake
+ready 1
+> 100 start 1 now for 60
+at 160
+> 160 cancel 1
+finished 1 duration 60
+> 160 list 1 A 100..100 recording file1
+> 160 update 1 A 100..160 complete file1
+> 160 tell ended A
+> 160 remove A
+> 160 let sleep
 )"},
     {"is not both skipped and recorded", R"(
 task A 100 60
