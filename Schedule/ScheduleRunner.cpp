@@ -106,8 +106,8 @@ void ScheduleRunner::Evaluate(const Instant& now)
     EndOverdue();
     ListPast();
     GiveWay();
-    PrepareNext();
     StartUpcoming();
+    PrepareNext();
     EvaluateCountdown();
     HoldAwake();
     m_isClockSet = false;
@@ -259,9 +259,21 @@ void ScheduleRunner::WithdrawOutdated(Session& session)
     } else if (isEarly) {
         NoteOf(session.task).isAnnounced = false;
     }
-    if (isMisplaced || isEarly || isPast) {
+    if (isMisplaced || isEarly || isPast || IsPreceded(session.task)) {
         Withdraw(session);
     }
+}
+
+/// Whether a task that starts before \a task, and was added after it was prepared, can be recorded.
+bool ScheduleRunner::IsPreceded(const PX::RecordTime& task) const
+{
+    const PX::RecordTime* next = NextTask();
+    if (next == nullptr || !MayStart() || next->start >= task.start
+        || next->start - m_now.wall > PrepareAhead || !m_ports.screens.IsThere(next->screenIndex)) {
+        return false;
+    }
+    const auto note = m_notes.find(next->title);
+    return note == m_notes.end() || m_now.sinceBoot >= note->second.notBefore;
 }
 
 void ScheduleRunner::EndOverdue()
@@ -334,6 +346,22 @@ void ScheduleRunner::GiveWay()
     }
 }
 
+void ScheduleRunner::StartUpcoming()
+{
+    if (m_active || !m_upcoming || m_upcoming->phase != Phase::Ready) {
+        return;
+    }
+    const PX::RecordTime& task = m_upcoming->task;
+    const bool isInTime = m_now.wall < task.start;
+    m_upcoming->phase = Phase::Starting;
+    m_upcoming->clockOffset = OffsetOf(m_now);
+    m_upcoming->length = isInTime ? task.duration : EndOf(task) - m_now.wall;
+    m_ports.recorder.Start(m_upcoming->id, isInTime ? std::optional(task.start) : std::nullopt,
+                           m_upcoming->length);
+    m_active = m_upcoming;
+    m_upcoming.reset();
+}
+
 void ScheduleRunner::PrepareNext()
 {
     const PX::RecordTime* next = NextTask();
@@ -384,22 +412,6 @@ void ScheduleRunner::Prepare(Session& session)
     plan.screenIndex = session.task.screenIndex;
     plan.start = session.isTask ? std::max(session.task.start, m_now.wall) : m_now.wall;
     m_ports.recorder.Prepare(session.id, plan);
-}
-
-void ScheduleRunner::StartUpcoming()
-{
-    if (m_active || !m_upcoming || m_upcoming->phase != Phase::Ready) {
-        return;
-    }
-    const PX::RecordTime& task = m_upcoming->task;
-    const bool isInTime = m_now.wall < task.start;
-    m_upcoming->phase = Phase::Starting;
-    m_upcoming->clockOffset = OffsetOf(m_now);
-    m_upcoming->length = isInTime ? task.duration : EndOf(task) - m_now.wall;
-    m_ports.recorder.Start(m_upcoming->id, isInTime ? std::optional(task.start) : std::nullopt,
-                           m_upcoming->length);
-    m_active = m_upcoming;
-    m_upcoming.reset();
 }
 
 void ScheduleRunner::EvaluateCountdown()

@@ -159,13 +159,14 @@ private:
     // The steps of Evaluate(), in their order.
     void WithdrawOutdated();
     void WithdrawOutdated(Session& session);
+    bool IsPreceded(const PX::RecordTime& task) const;
     void EndOverdue();
     void ListPast();
     void ListPast(const PX::RecordTime& task);
     void GiveWay();
+    void StartUpcoming();
     void PrepareNext();
     bool IsPreparable(const PX::RecordTime& task);
-    void StartUpcoming();
     void EvaluateCountdown();
     void HoldAwake();
 

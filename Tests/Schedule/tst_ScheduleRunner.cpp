@@ -519,6 +519,33 @@ at 99991
 wakes
 > 1
 )"},
+    {"is recorded although it is added when a later one is prepared", R"(
+task B 100 60
+at 92
+> 90 prepare 1 B screen 0 of 100
+> 90 tell starts soon B
+> 90 hold awake
+ready 1
+> 92 start 1 at 100 for 60
+task A 92 8
+> 92 cancel 1
+> 92 prepare 2 A screen 0 of 92
+cancelled 1
+at 92.1
+ready 2
+> 92.1 start 2 now for 7.9
+recording 2
+> 92.1 list 1 A 92.1..92.1 recording file2
+> 92.1 tell started A
+> 92.1 prepare 3 B screen 0 of 100
+at 100
+ready 3
+finished 2 duration 7.9
+> 100 update 1 A 92.1..100 complete file2
+> 100 tell ended A
+> 100 remove A
+> 100 start 3 now for 60
+)"},
     {"tells the user again when it was moved by its owner", R"(
 task A 100 60
 at 95
