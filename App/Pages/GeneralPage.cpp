@@ -202,6 +202,7 @@ void GeneralPage::RetranslateBackground()
     m_keepRunningLabel->setText(
         tr("While tasks are pending or a recording runs, the program stays in the tray. Where "
            "there is none, its window is minimized."));
+    m_keepRunningBox->setAccessibleDescription(m_keepRunningLabel->text());
 }
 
 void GeneralPage::Retranslate()

@@ -128,7 +128,7 @@ QString ProblemOf(const QCommandLineParser& parser, const Options& options)
     if (!parser.positionalArguments().isEmpty()) {
         return Text::tr("unexpected argument '%1'").arg(parser.positionalArguments().constFirst());
     }
-    const QString conflict = ConflictIn(parser, options);
+    QString conflict = ConflictIn(parser, options);
     if (!conflict.isEmpty()) {
         return conflict;
     }

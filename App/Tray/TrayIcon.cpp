@@ -73,7 +73,7 @@ void TrayIcon::CreateIcon()
         return;
     }
     m_isOnBus = m_statusNotifierTray.IsThere();
-    m_icon = std::make_unique<QSystemTrayIcon>();
+    m_icon = std::make_unique<QSystemTrayIcon>(this);
     m_icon->setContextMenu(m_menu.get());
     connect(m_icon.get(), &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {

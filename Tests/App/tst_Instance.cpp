@@ -18,7 +18,6 @@ namespace Zentor::Tests {
 namespace {
 
 using Desktop::Instance;
-using Desktop::Request;
 
 const QString DesktopName = QStringLiteral("org.zentor.PxScheduler");
 const QString ObjectPath = QStringLiteral("/org/zentor/PxScheduler");

@@ -1,4 +1,5 @@
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 
 #include "AppWindow.h"

@@ -1,5 +1,6 @@
 #include <QMenu>
 #include <QSignalSpy>
+#include <QSystemTrayIcon>
 
 #include "FakeTray.h"
 #include "MarkingTranslator.h"
@@ -41,6 +42,12 @@ QString Entries()
         }
     }
     return entries.join(QLatin1Char('|'));
+}
+
+/// Qt says so of platforms that have no trays of their own.
+void AllowMissingTrays()
+{
+    WidgetTest::AllowWarning(QStringLiteral("QPlatformNativeInterface::systemTrayWindowChanged"));
 }
 
 TrayState Recording(const QString& text, bool isPaused)
@@ -163,10 +170,59 @@ private Q_SLOTS:
                  qPrintable(QStringLiteral("%1 %2").arg(darkPixels).arg(lightPixels)));
     }
 
+    void showsTheStateInTheTray_data()
+    {
+        QTest::addColumn<TrayState>("state");
+        QTest::addColumn<QString>("icon");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("idle") << TrayState() << "px-scheduler"
+                              << "Not recording";
+        QTest::newRow("recording")
+            << Recording(QStringLiteral("Lecture"), false) << "tray-recording"
+            << "Lecture";
+        QTest::newRow("paused") << Recording({}, true) << "tray-paused"
+                                << "Paused";
+    }
+
+    void showsTheStateInTheTray()
+    {
+        QFETCH(TrayState, state);
+        QFETCH(QString, icon);
+        QFETCH(QString, text);
+        AllowMissingTrays();
+        const FakeTray tray(true);
+        TrayIcon shown;
+        // Before there is an icon, and after.
+        shown.SetState(state);
+        QTRY_VERIFY(shown.IsAvailable());
+        const auto* inTray = shown.findChild<QSystemTrayIcon*>();
+        const auto pixels = [](const QIcon& of) { return of.pixmap(22).toImage(); };
+        for (const TrayState& before : {state, TrayState(), Recording({}, true)}) {
+            shown.SetState(before);
+            shown.SetState(state);
+            QCOMPARE(pixels(inTray->icon()), pixels(Desktop::ThemedIcon(icon)));
+            QVERIFY2(inTray->toolTip().endsWith(text), qPrintable(inTray->toolTip()));
+        }
+        QVERIFY(inTray->isVisible());
+    }
+
+    void asksForTheWindowWhenItIsClicked()
+    {
+        AllowMissingTrays();
+        const FakeTray tray(true);
+        const TrayIcon icon;
+        QTRY_VERIFY(icon.IsAvailable());
+        auto* inTray = icon.findChild<QSystemTrayIcon*>();
+        const QSignalSpy wanted(&icon, &TrayIcon::ShowRequested);
+        Q_EMIT inTray->activated(QSystemTrayIcon::Trigger);
+        QCOMPARE(wanted.count(), 1);
+        Q_EMIT inTray->activated(QSystemTrayIcon::Context);
+        QCOMPARE(wanted.count(), 1);
+    }
+
     void isAvailableWithATray()
     {
-        // Qt's own on platforms that have no trays of their own.
-        AllowWarning(QStringLiteral("QPlatformNativeInterface::systemTrayWindowChanged"));
+        AllowMissingTrays();
         TrayIcon icon;
         QVERIFY(!icon.IsAvailable());
         FakeTray tray(true);
