@@ -104,8 +104,8 @@ void AreaOverlay::PaintFigures(QPainter& painter) const
     if (!area.intersects(rect())) {
         return;
     }
-    QRect place =
-        fontMetrics().boundingRect(Figures()).adjusted(-Padding, -Padding, Padding, Padding);
+    const QSize around(2 * Padding, 2 * Padding);
+    QRect place(QPoint(), fontMetrics().size(Qt::TextSingleLine, Figures()) + around);
     place.moveTopLeft(area.bottomLeft() + QPoint(0, Padding));
     if (place.bottom() > rect().bottom()) {
         place.moveBottomLeft(QPoint(area.left(), area.top() - Padding));

@@ -46,7 +46,7 @@ QString SizeOfHour(RecordingSettings settings, Quality quality)
 {
     settings.quality = quality;
     const auto shape = Schedule::ShapeOf(settings, RecordedSize(settings));
-    return SizeText(Schedule::TypicalBytes({shape, 1h}));
+    return RoundSizeText(Schedule::TypicalBytes({shape, 1h}));
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 #include "CalendarLook.h"
 #include "Controls.h"
 #include "PanelAnnouncer.h"
+#include "PanelAreaTip.h"
 #include "PanelFormAssistant.h"
 #include "PanelFormKeys.h"
 #include "PanelFormMemory.h"
@@ -99,6 +100,7 @@ void SchedulePage::AssistPanel()
     const auto* questions = new PanelQuestions(m_panel);
     connect(listKeys, &PanelListKeys::DeleteButtonReleased, questions, &PanelQuestions::Expect);
     new PanelTaskDetails(m_panel, m_store);
+    new PanelAreaTip(m_panel, m_store);
     new PanelFormAssistant(m_panel, m_store);
     new PanelFormKeys(m_panel);
     m_formMemory = new PanelFormMemory(m_panel, m_store);

@@ -28,6 +28,8 @@ using Schedule::ChangeRecordingSettings;
 using Schedule::RecordingSettings;
 using Schedule::RecordingSettingsIn;
 
+/// What belongs to the area stands below the text of its button.
+constexpr int FieldIndent = 20;
 constexpr int FarthestPixel = std::numeric_limits<qint16>::max();
 
 QRect FirstScreen()
@@ -74,9 +76,11 @@ void SourceCard::BuildWidgets()
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(ControlSpacing);
     grid->setVerticalSpacing(ControlSpacing);
-    AddAreaFields(*grid, 0);
+    grid->setColumnMinimumWidth(0, FieldIndent);
+    AddAreaFields(*grid);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(ControlSpacing);
+    buttons->addSpacing(FieldIndent);
     buttons->addWidget(m_pickButton);
     buttons->addWidget(m_outlineButton);
     buttons->addStretch(1);
@@ -106,7 +110,7 @@ QSpinBox* SourceCard::CreateField(const QString& objectName, int lowest)
     return field;
 }
 
-void SourceCard::AddAreaFields(QGridLayout& grid, int row)
+void SourceCard::AddAreaFields(QGridLayout& grid)
 {
     m_xField = CreateField(QStringLiteral("areaXField"), -FarthestPixel);
     m_yField = CreateField(QStringLiteral("areaYField"), -FarthestPixel);
@@ -116,14 +120,16 @@ void SourceCard::AddAreaFields(QGridLayout& grid, int row)
         label = CreateLabel(QLatin1String(name), this);
         label->setWordWrap(false);
         label->setBuddy(field);
-        grid.addWidget(label, row + place / 2, 2 * (place % 2));
-        grid.addWidget(field, row + place / 2, 2 * (place % 2) + 1);
+        const int row = place / 2;
+        const int column = 1 + 2 * (place % 2);
+        grid.addWidget(label, row, column);
+        grid.addWidget(field, row, column + 1);
     };
     add(m_xLabel, "areaXLabel", m_xField, 0);
     add(m_yLabel, "areaYLabel", m_yField, 1);
     add(m_widthLabel, "areaWidthLabel", m_widthField, 2);
     add(m_heightLabel, "areaHeightLabel", m_heightField, 3);
-    grid.setColumnStretch(4, 1);
+    grid.setColumnStretch(5, 1);
 }
 
 void SourceCard::Connect()
@@ -172,7 +178,7 @@ void SourceCard::Retranslate()
     m_yField->setAccessibleName(tr("Top edge of the area in pixels"));
     m_widthField->setAccessibleName(tr("Width of the area in pixels"));
     m_heightField->setAccessibleName(tr("Height of the area in pixels"));
-    m_pickButton->setText(tr("Choose on the s&creen..."));
+    m_pickButton->setText(tr("Choose o&n the screen..."));
     m_outlineButton->setText(tr("Show &outline"));
     ShowStored();
 }

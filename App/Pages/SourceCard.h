@@ -41,7 +41,7 @@ protected:
 
 private:
     void BuildWidgets();
-    void AddAreaFields(QGridLayout& grid, int row);
+    void AddAreaFields(QGridLayout& grid);
     QSpinBox* CreateField(const QString& objectName, int lowest);
     void Connect();
     void ConnectArea();

@@ -88,7 +88,9 @@ void TrialCard::ShowProgress(int milliseconds)
 void TrialCard::Open(const QString& file, const QStringList& warnings)
 {
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(file))) {
-        Say(tr("The trial recording was made, but there is no program that opens it."), true);
+        Say(tr("The trial recording was made, but there is no program that opens it: %1")
+                .arg(Isolated(file)),
+            true);
     } else if (!warnings.isEmpty()) {
         Say(tr("The trial recording was made and opened. The recorder says: %1")
                 .arg(Isolated(warnings.join(QLatin1Char('\n')))),

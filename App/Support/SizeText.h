@@ -13,4 +13,7 @@ QString Isolated(const QString& text);
 /// places.
 QString SizeText(std::int64_t bytes);
 
+/// The same of an estimate: with two digits that count.
+QString RoundSizeText(std::int64_t bytes);
+
 } // namespace Zentor::Desktop

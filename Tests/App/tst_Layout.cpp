@@ -7,6 +7,7 @@
 #include "AppScenes.h"
 #include "Languages.h"
 #include "LayoutProblems.h"
+#include "PageRow.h"
 #include "PanelParts.h"
 #include "Resources.h"
 #include "Theme.h"
@@ -244,7 +245,7 @@ private Q_SLOTS:
     {
         const AppWindow app;
         Open(app);
-        app.PageList()->setCurrentRow(1);
+        app.PageList()->setCurrentRow(PageRow::Files);
         Settle();
         const QWidget& page = *app.Find("filesCard");
         Places before = PlacesIn(page);

@@ -16,6 +16,7 @@
 #include "FullDisk.h"
 #include "Languages.h"
 #include "MarkingTranslator.h"
+#include "PageRow.h"
 #include "PanelParts.h"
 #include "RecordSchedulerWidget.h"
 #include "Resources.h"
@@ -111,7 +112,7 @@ private Q_SLOTS:
     void opensOnTheSchedule()
     {
         Open();
-        QCOMPARE(PageList()->currentRow(), 0);
+        QCOMPARE(PageList()->currentRow(), PageRow::Schedule);
         QVERIFY(Find<Panel>("recordSchedulerWidget")->isVisible());
         QVERIFY(Button(Desktop::PanelPart::OffModeButton)->isChecked());
     }
@@ -206,16 +207,16 @@ private Q_SLOTS:
             Click(Desktop::PanelPart::RowDeleteButton);
             QVERIFY(box.Came());
         }
-        PageList()->setCurrentRow(1);
+        PageList()->setCurrentRow(PageRow::Files);
         Find<QLineEdit>("resultsFolderEdit")->setText(QDir::tempPath());
         Window().setGeometry(30, 40, 720, 500);
         Close();
 
         Reopen();
-        QCOMPARE(PageList()->currentRow(), 1);
+        QCOMPARE(PageList()->currentRow(), PageRow::Files);
         QCOMPARE(Find<QLineEdit>("resultsFolderEdit")->text(), QDir::tempPath());
         QCOMPARE(Window().geometry(), QRect(30, 40, 720, 500));
-        PageList()->setCurrentRow(0);
+        PageList()->setCurrentRow(PageRow::Schedule);
         QVERIFY(Button(Desktop::PanelPart::ScheduledModeButton)->isChecked());
         QCOMPARE(Titles(), (QStringList{QStringLiteral("Task 1"), QStringLiteral("Task 2")}));
         {
@@ -228,7 +229,7 @@ private Q_SLOTS:
         Close();
 
         Reopen();
-        QCOMPARE(PageList()->currentRow(), 0);
+        QCOMPARE(PageList()->currentRow(), PageRow::Schedule);
         QVERIFY(Button(Desktop::PanelPart::LimitedModeButton)->isChecked());
         QCOMPARE(Find<QTimeEdit>(Desktop::PanelPart::LimitedDurationField)->time(), QTime(1, 30));
         QCOMPARE(Find<QComboBox>(Desktop::PanelPart::LimitedActionBox)->currentIndex(), 2);
@@ -239,15 +240,15 @@ private Q_SLOTS:
     {
         Open();
         Q_EMIT Find<Panel>("recordSchedulerWidget")->OpenFilesSettingsRequested();
-        QCOMPARE(PageList()->currentRow(), 1);
+        QCOMPARE(PageList()->currentRow(), PageRow::Files);
         QVERIFY(Find<QLineEdit>("resultsFolderEdit")->isVisible());
     }
 
     void isReadyToRecordWhereNothingStandsAgainstIt_data()
     {
         QTest::addColumn<int>("page");
-        QTest::newRow("schedule") << 0;
-        QTest::newRow("files") << 1;
+        QTest::newRow("schedule") << PageRow::Schedule;
+        QTest::newRow("files") << PageRow::Files;
     }
 
     void isReadyToRecordWhereNothingStandsAgainstIt()
@@ -289,13 +290,13 @@ private Q_SLOTS:
         QFETCH(bool, isTyped);
         Open();
         if (isTyped) {
-            PageList()->setCurrentRow(1);
+            PageList()->setCurrentRow(PageRow::Files);
             Find<QLineEdit>("resultsFolderEdit")->setText(folder);
         } else {
             KeepRecordingsIn(folder);
         }
         Click("startRecordingButton");
-        QCOMPARE(PageList()->currentRow(), 1);
+        QCOMPARE(PageList()->currentRow(), PageRow::Files);
         QCOMPARE(StatusText(), Find<QLabel>("folderProblemLabel")->text());
         QVERIFY(Find<QLabel>("folderProblemLabel")->isVisible());
         QCOMPARE(Window().focusWidget(), Find<QWidget>("resultsFolderEdit"));
@@ -353,8 +354,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("answer");
         QTest::addColumn<int>("page");
-        QTest::newRow("file preferences") << int(QMessageBox::Ok) << 1;
-        QTest::newRow("cancel") << int(QMessageBox::Cancel) << 0;
+        QTest::newRow("file preferences") << int(QMessageBox::Ok) << PageRow::Files;
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << PageRow::Schedule;
     }
 
     void showsFilesWhenTheDiskIsFull()
@@ -374,7 +375,7 @@ private Q_SLOTS:
     {
         Open(Tasks(1));
         KeepRecordingsIn(FullFolder());
-        PageList()->setCurrentRow(1);
+        PageList()->setCurrentRow(PageRow::Files);
         Find<QLineEdit>("resultsFolderEdit")->setText(Folder());
         Click("startRecordingButton");
         QCOMPARE(StatusText(), QStringLiteral("Ready to record"));
@@ -406,7 +407,7 @@ private Q_SLOTS:
     {
         Open();
         Window().ShowPage(QStringLiteral("elsewhere"));
-        QCOMPARE(PageList()->currentRow(), 0);
+        QCOMPARE(PageList()->currentRow(), PageRow::Schedule);
     }
 
     void changesPagesByKeyboard()
@@ -443,7 +444,7 @@ private Q_SLOTS:
     void hasOnlyIconsBesideThePageWhenNarrow()
     {
         Open(Tasks(2));
-        const QListWidgetItem* entry = PageList()->item(1);
+        const QListWidgetItem* entry = PageList()->item(PageRow::Files);
         Window().resize(1009, 700);
         QCOMPARE(entry->text(), QString());
         QCOMPARE(entry->toolTip(), QStringLiteral("Files"));
@@ -501,7 +502,7 @@ private Q_SLOTS:
         QVERIFY(Store().Flush());
         QCOMPARE(failed.count(), 0);
         QVERIFY(!Find<QLabel>("saveProblemLabel")->isVisible());
-        PageList()->setCurrentRow(2);
+        PageList()->setCurrentRow(PageRow::General);
         Window().resize(Window().size() + QSize(1, 1));
         QVERIFY(Window().close());
     }
@@ -662,15 +663,15 @@ private Q_SLOTS:
     {
         BeginTask(QStringLiteral("Unfinished"));
         const ExpectedBox box([this](QMessageBox& question) {
-            PageList()->setCurrentRow(2);
+            PageList()->setCurrentRow(PageRow::General);
             // What the list has queued comes before the answer.
             QTimer::singleShot(0, &question,
                                [&question] { question.button(QMessageBox::No)->click(); });
         });
-        PageList()->setCurrentRow(1);
+        PageList()->setCurrentRow(PageRow::Files);
         QTRY_VERIFY(box.Came());
         QTRY_VERIFY(!NameEdit()->isVisible());
-        QCOMPARE(PageList()->currentRow(), 2);
+        QCOMPARE(PageList()->currentRow(), PageRow::General);
         QVERIFY(Find<QWidget>("languageBox")->isVisible());
     }
 
@@ -687,7 +688,7 @@ private Q_SLOTS:
         QVERIFY(unsaved.Came());
         QVERIFY(fullDisk->Came());
         QVERIFY(Find<QLineEdit>("resultsFolderEdit")->isVisible());
-        QCOMPARE(PageList()->currentRow(), 1);
+        QCOMPARE(PageList()->currentRow(), PageRow::Files);
     }
 
     void asksAboutAnUnfinishedTaskBeforeAnotherPage_data() { AddAnswers(); }
@@ -700,9 +701,9 @@ private Q_SLOTS:
         QFETCH(QString, titles);
         BeginTask(title);
         const ExpectedBox box(static_cast<QMessageBox::StandardButton>(answer));
-        ClickPage(1);
+        ClickPage(PageRow::Files);
         QTRY_VERIFY(box.Came());
-        QCOMPARE(PageList()->currentRow(), isFinished ? 1 : 0);
+        QCOMPARE(PageList()->currentRow(), isFinished ? PageRow::Files : PageRow::Schedule);
         QCOMPARE(PageList()->selectedItems(), QList{PageList()->currentItem()});
         QCOMPARE(Find<QLineEdit>("resultsFolderEdit")->isVisible(), isFinished);
         QCOMPARE(NameEdit()->isVisible(), !isFinished);
@@ -747,7 +748,7 @@ private Q_SLOTS:
             // As a user does it, who leaves no caller behind in the window.
             QTimer::singleShot(0, &Window(), &QWidget::close);
         } else {
-            ClickPage(1);
+            ClickPage(PageRow::Files);
         }
         QTRY_VERIFY(box.Came());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -836,10 +837,10 @@ private Q_SLOTS:
                    "limitedCaptureDurationSettingsCaptureDuration "
                    "limitedCaptureDurationSettingsActionOnFinishBox startRecordingButton");
         QTest::newRow("files")
-            << Desktop::PanelPart::OffModeButton << 1
+            << Desktop::PanelPart::OffModeButton << PageRow::Files
             << QStringLiteral("pageList resultsFolderEdit browseButton startRecordingButton");
         QTest::newRow("general")
-            << Desktop::PanelPart::OffModeButton << 2
+            << Desktop::PanelPart::OffModeButton << PageRow::General
             << QStringLiteral(
                    "pageList languageBox themeBox autostartBox keepRunningBox openFolderButton "
                    "startRecordingButton");
@@ -888,8 +889,9 @@ private Q_SLOTS:
             };
             row("limited capture", Desktop::PanelPart::LimitedModeButton, 0, 5);
             row("form", Desktop::PanelPart::AddButton, 0, 8);
-            row("files", "", 1, 1);
-            row("general", "", 2, 2);
+            row("recording", "", PageRow::Recording, 7);
+            row("files", "", PageRow::Files, 1);
+            row("general", "", PageRow::General, 2);
         }
     }
 

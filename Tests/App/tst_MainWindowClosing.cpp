@@ -70,7 +70,7 @@ private Q_SLOTS:
     void savesWhenItHides()
     {
         m_work.isRecording = true;
-        m_app->PageList()->setCurrentRow(1);
+        m_app->PageList()->setCurrentRow(PageRow::Files);
         m_app->Find<QLineEdit>("resultsFolderEdit")->setText(m_app->folder.filePath("other"));
         QVERIFY(!Window().close());
         QCOMPARE(m_app->store->Settings().resultsFolderPath, m_app->folder.filePath("other"));

@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include "PageRow.h"
 #include "PanelParts.h"
 #include "Resources.h"
 #include <private/qguiapplication_p.h>
@@ -167,7 +168,7 @@ private Q_SLOTS:
         QCOMPARE(app.StatusText(), DuplicateProblem());
         const ExpectedBox box(QMessageBox::No);
         if (byPage) {
-            app.PageList()->setCurrentRow(1);
+            app.PageList()->setCurrentRow(PageRow::Files);
         } else {
             app.Press(Qt::Key_Escape);
         }
@@ -206,8 +207,9 @@ private Q_SLOTS:
         QTest::newRow("limited") << 0 << Desktop::PanelPart::LimitedModeButton << false << 7;
         QTest::newRow("schedule") << 0 << Desktop::PanelPart::ScheduledModeButton << false << 9;
         QTest::newRow("form") << 0 << Desktop::PanelPart::ScheduledModeButton << true << 14;
-        QTest::newRow("files") << 1 << Desktop::PanelPart::ScheduledModeButton << false << 4;
-        QTest::newRow("general") << 2 << Desktop::PanelPart::ScheduledModeButton << false << 7;
+        QTest::newRow("files") << PageRow::Files << Desktop::PanelPart::ScheduledModeButton << false << 4;
+        QTest::newRow("recording") << PageRow::Recording << Desktop::PanelPart::ScheduledModeButton << false << 12;
+        QTest::newRow("general") << PageRow::General << Desktop::PanelPart::ScheduledModeButton << false << 7;
     }
 
     void namesEveryControl()

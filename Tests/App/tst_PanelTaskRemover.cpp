@@ -153,7 +153,7 @@ private Q_SLOTS:
     {
         const AppWindow app(3);
         QVERIFY(app.Show());
-        app.PageList()->setCurrentRow(1);
+        app.PageList()->setCurrentRow(PageRow::Files);
         app.Focus("resultsFolderEdit");
         Remove(app, "Task 1");
         QCOMPARE(app.Focused(), QStringLiteral("resultsFolderEdit"));

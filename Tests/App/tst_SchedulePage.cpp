@@ -7,6 +7,7 @@
 
 #include "AppWindow.h"
 #include "Boxes.h"
+#include "PageRow.h"
 #include "PanelParts.h"
 #include "Resources.h"
 #include "Theme.h"
@@ -103,7 +104,7 @@ private Q_SLOTS:
                                  "scheduledCaptureSettingsActionOnFinishBox "
                                  "scheduledCaptureSettingsBackButton "
                                  "scheduledCaptureSettingsCreateButton startRecordingButton";
-        QTest::newRow("files") << 1 << Desktop::PanelPart::OffModeButton << false
+        QTest::newRow("files") << PageRow::Files << Desktop::PanelPart::OffModeButton << false
                                << "pageList resultsFolderEdit browseButton startRecordingButton";
     }
 

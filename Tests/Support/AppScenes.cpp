@@ -14,6 +14,7 @@
 #include "AutostartEntry.h"
 #include "Boxes.h"
 #include "FakeScreen.h"
+#include "PageRow.h"
 #include "PanelParts.h"
 #include "WidgetTest.h"
 
@@ -176,7 +177,7 @@ void ShowPages(const Stage& stage)
         stage.Show(page, stage.Find<QStackedWidget>("pages")->currentIndex() == row);
         ShowListsOfPage(stage, page);
     }
-    stage.ShowPage(0);
+    stage.ShowPage(PageRow::Schedule);
 }
 
 void ShowModes(const Stage& stage)
@@ -194,7 +195,7 @@ void ShowModes(const Stage& stage)
 
 void ShowFolderProblems(const Stage& stage)
 {
-    stage.ShowPage(1);
+    stage.ShowPage(PageRow::Files);
     const std::pair<const char*, const char*> folders[] = {
         {"folder that is no path", "recordings"},
         {"folder that is a file", "/etc/passwd"},
@@ -207,7 +208,7 @@ void ShowFolderProblems(const Stage& stage)
     stage.EnterFolder(stage.App().folder.filePath(QStringLiteral("not yet")));
     stage.Show(QStringLiteral("folder that will be created"), !stage.IsMarked(FolderEdit));
     stage.EnterFolder(stage.App().folder.path());
-    stage.ShowPage(0);
+    stage.ShowPage(PageRow::Schedule);
 }
 
 void ShowAutostartProblem(const Stage& stage)
@@ -229,7 +230,7 @@ void ShowGeneralPage(const Stage& stage)
             settings.confirmations[QStringLiteral("remove_schedule_record_always")] = isForgone;
         });
     };
-    stage.ShowPage(2);
+    stage.ShowPage(PageRow::General);
     forgo(true);
     stage.Show(QStringLiteral("question that is not asked"),
                stage.App().Button("askAgainButton")->isEnabled());
@@ -244,7 +245,7 @@ void ShowGeneralPage(const Stage& stage)
                stage.App().Find("openProblemLabel")->isVisible());
     QVERIFY(QDir().rename(folder + QStringLiteral("-1"), folder));
     ShowAutostartProblem(stage);
-    stage.ShowPage(0);
+    stage.ShowPage(PageRow::Schedule);
 }
 
 void ShowCalendar(const Stage& stage)

@@ -1,0 +1,11 @@
+#pragma once
+
+/// The rows of the window's list of pages.
+namespace Zentor::Tests::PageRow {
+
+constexpr int Schedule = 0;
+constexpr int Recording = 1;
+constexpr int Files = 2;
+constexpr int General = 3;
+
+} // namespace Zentor::Tests::PageRow
