@@ -836,6 +836,12 @@ private Q_SLOTS:
                    "pageList limitedCaptureDurationRadioButton "
                    "limitedCaptureDurationSettingsCaptureDuration "
                    "limitedCaptureDurationSettingsActionOnFinishBox startRecordingButton");
+        QTest::newRow("recording")
+            << Desktop::PanelPart::OffModeButton << PageRow::Recording
+            << QStringLiteral("pageList recordScreenButton recordedScreenBox areaXField areaYField "
+                              "areaWidthField areaHeightField pickAreaButton outlineAreaButton "
+                              "frameRateBox qualityBox containerBox showPointerBox trialButton "
+                              "startRecordingButton");
         QTest::newRow("files")
             << Desktop::PanelPart::OffModeButton << PageRow::Files
             << QStringLiteral("pageList resultsFolderEdit browseButton startRecordingButton");

@@ -4,6 +4,7 @@
 
 #include "AppWindow.h"
 #include "Boxes.h"
+#include "PageRow.h"
 #include "PanelParts.h"
 #include "Resources.h"
 #include "SchedulePage.h"

@@ -11,11 +11,14 @@
 #include <QTimeEdit>
 #include <QToolTip>
 
+#include "AreaPicker.h"
 #include "AutostartEntry.h"
 #include "Boxes.h"
+#include "FakeRecorder.h"
 #include "FakeScreen.h"
 #include "PageRow.h"
 #include "PanelParts.h"
+#include "RecordingSettings.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {
@@ -40,6 +43,11 @@ QString LongTitle()
 QString ReasonNotToSave()
 {
     return QStringLiteral("/home/user/.config/px-scheduler/settings.json: no space is left");
+}
+
+QString AbsentDevice()
+{
+    return QStringLiteral("alsa_input.usb-0");
 }
 
 QString SecondScreen()
@@ -221,6 +229,81 @@ void ShowAutostartProblem(const Stage& stage)
     stage.Show(QStringLiteral("entry of the desktop that cannot be written"),
                stage.App().Find("autostartProblemLabel")->isVisible());
     QVERIFY(inTheWay.remove());
+}
+
+void ChangeRecording(const Stage& stage,
+                     const std::function<void(Schedule::RecordingSettings&)>& change)
+{
+    Schedule::ChangeRecordingSettings(*stage.App().store, change);
+}
+
+void ShowSources(const Stage& stage)
+{
+    using Source = Schedule::RecordingSettings::Source;
+    const QWidget* problem = stage.App().Find("sourceProblemLabel");
+    ChangeRecording(stage, [](auto& settings) {
+        settings.source = Source::Area;
+        settings.area = QRect(10, 20, 640, 480);
+    });
+    stage.Show(QStringLiteral("selected area"), !problem->isVisible());
+    ChangeRecording(stage, [](auto& settings) { settings.area.translate(-9000, -9000); });
+    stage.Show(QStringLiteral("area on no screen"), problem->isVisible());
+    ChangeRecording(stage, [](auto& settings) {
+        settings.source = Source::Screen;
+        settings.screenIndex = 11;
+    });
+    stage.Show(QStringLiteral("screen that is not connected"), problem->isVisible());
+    ChangeRecording(stage, [](auto& settings) { settings = {}; });
+}
+
+void ShowAreaPicker(const Stage& stage)
+{
+    stage.Click("pickAreaButton");
+    auto* picker = stage.Find<Desktop::AreaPicker>(QString());
+    stage.Show(QStringLiteral("area that is being drawn"), picker != nullptr);
+    picker->Cancel();
+    Settle();
+    stage.TakeKeyboard();
+}
+
+void ShowSound(const Stage& stage)
+{
+    const auto count = [&] {
+        return stage.App().window->findChildren<QWidget*>("soundDeviceBox").size();
+    };
+    QTRY_COMPARE_WITH_TIMEOUT(count(), 2, 60000);
+    stage.Show(QStringLiteral("sound devices"), true);
+    ChangeRecording(stage, [](auto& settings) {
+        settings.soundDevices = QStringList{QStringLiteral("mic"), AbsentDevice()};
+    });
+    stage.Show(QStringLiteral("absent sound device"), count() == 3);
+    ChangeRecording(stage, [](auto& settings) { settings = {}; });
+}
+
+void ShowTrial(const Stage& stage, FakeRecorder& recorder)
+{
+    const QWidget* result = stage.App().Find("trialResultLabel");
+    recorder.SetRecording("exec sleep 1000");
+    stage.Click("trialButton");
+    stage.Show(QStringLiteral("trial recording"),
+               stage.App().Find("trialProgressBar")->isVisible());
+    stage.Click("trialButton");
+    stage.Show(QStringLiteral("cancelled trial recording"), result->isVisible());
+    recorder.SetRecording("echo px-recorder: 7 >&2; exit 1");
+    stage.Click("trialButton");
+    QTRY_VERIFY_WITH_TIMEOUT(result->isVisible(), 60000);
+    stage.Show(QStringLiteral("trial recording that failed"), result->isVisible());
+}
+
+void ShowRecordingPage(const Stage& stage)
+{
+    FakeRecorder recorder;
+    stage.ShowPage(PageRow::Recording);
+    ShowSound(stage);
+    ShowSources(stage);
+    ShowAreaPicker(stage);
+    ShowTrial(stage, recorder);
+    stage.ShowPage(PageRow::Schedule);
 }
 
 void ShowGeneralPage(const Stage& stage)
@@ -424,11 +507,12 @@ void VisitAppScenes(const QSize& size, const SceneVisitor& visit)
         int taskCount;
         std::vector<Play> plays;
     };
-    const Part parts[] = {{0,
-                           {ShowPages, ShowModes, ShowFolderProblems, ShowGeneralPage, ShowForm,
-                            ShowSaveProblems, ShowNotices, ShowClosingQuestion}},
-                          {2, {ShowSchedule}},
-                          {ManyTasks, {ShowLongSchedule}}};
+    const Part parts[] = {
+        {0,
+         {ShowPages, ShowModes, ShowRecordingPage, ShowFolderProblems, ShowGeneralPage, ShowForm,
+          ShowSaveProblems, ShowNotices, ShowClosingQuestion}},
+        {2, {ShowSchedule}},
+        {ManyTasks, {ShowLongSchedule}}};
     for (const Part& part : parts) {
         const Stage stage(part.taskCount, size, visit);
         for (const Play play : part.plays) {
@@ -444,6 +528,9 @@ QStringList TextsOfTheUser(const AppWindow& app)
 {
     QStringList texts{app.folder.filePath(QStringLiteral("settings.json")), app.folder.path(),
                       LongTitle(), SecondScreen(), ReasonNotToSave()};
+    // What the recorder calls devices, and what these are called for people.
+    texts << AbsentDevice() << QStringLiteral("speakers.monitor") << QStringLiteral("Speakers")
+          << QStringLiteral("Microphone") << QStringLiteral("mic");
     // With the reason, which is the system's.
     texts << Desktop::AutostartEntry::FilePath() + QStringLiteral(": Not a directory");
     for (int number = 1; number <= ManyTasks; ++number) {
