@@ -121,7 +121,7 @@ void PictureCard::Retranslate()
 {
     m_frameRateLabel->setText(tr("&Frames per second:"));
     m_qualityLabel->setText(tr("&Quality:"));
-    m_containerLabel->setText(tr("File for&mat:"));
+    m_containerLabel->setText(tr("Fil&e format:"));
     m_containerBox->setItemText(0, tr("Matroska (.mkv)"));
     m_containerBox->setItemText(1, tr("MP4 (.mp4)"));
     WidenToTexts(*m_containerBox);
@@ -147,12 +147,7 @@ void PictureCard::FillFrameRates()
         const auto isHigher = [&](const QString& rate) { return rate.toInt() > stored.toInt(); };
         rates.insert(std::find_if(rates.begin(), rates.end(), isHigher), stored);
     }
-    m_frameRateBox->clear();
-    for (const QString& rate : qAsConst(rates)) {
-        m_frameRateBox->addItem(rate, rate);
-    }
-    m_frameRateBox->setMaxVisibleItems(rates.size());
-    SelectValue(*m_frameRateBox, stored);
+    OfferValues(*m_frameRateBox, rates, rates, stored);
 }
 
 void PictureCard::ShowQualities()

@@ -15,13 +15,13 @@ RecordingPage::RecordingPage(const std::shared_ptr<PX::SettingsStore>& store, QW
     , m_sourceCard(new SourceCard(store, this))
 {
     setObjectName(QStringLiteral("recordingPage"));
-    auto* trialCard = new TrialCard(store, this);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(m_sourceCard);
     column->addWidget(new PictureCard(store, this));
     column->addWidget(new SoundCard(store, this));
+    auto* trialCard = new TrialCard(store, this);
     column->addWidget(trialCard);
     StyleComboBoxLists(*this);
     connect(trialCard, &TrialCard::Announced, this, &RecordingPage::Announced);

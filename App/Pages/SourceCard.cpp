@@ -65,8 +65,6 @@ void SourceCard::BuildWidgets()
     m_screenBox = CreateComboBox(QStringLiteral("recordedScreenBox"), {}, this);
     m_areaButton = new QRadioButton(this);
     m_areaButton->setObjectName(QStringLiteral("recordAreaButton"));
-    m_pickButton = CreateButton(QStringLiteral("pickAreaButton"), this);
-    m_outlineButton = CreateButton(QStringLiteral("outlineAreaButton"), this);
 
     auto* screenRow = new QHBoxLayout;
     screenRow->setSpacing(2 * ControlSpacing);
@@ -78,6 +76,8 @@ void SourceCard::BuildWidgets()
     grid->setVerticalSpacing(ControlSpacing);
     grid->setColumnMinimumWidth(0, FieldIndent);
     AddAreaFields(*grid);
+    m_pickButton = CreateButton(QStringLiteral("pickAreaButton"), this);
+    m_outlineButton = CreateButton(QStringLiteral("outlineAreaButton"), this);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(ControlSpacing);
     buttons->addSpacing(FieldIndent);
@@ -197,23 +197,22 @@ void SourceCard::FillScreens()
 {
     const int chosen = RecordingSettingsIn(*m_store).screenIndex;
     const auto screens = QGuiApplication::screens();
-    const int count = qMax(screens.size(), chosen + 1);
-    m_screenBox->clear();
+    QStringList texts;
+    QStringList indices;
     for (int index = 0; index < screens.size(); ++index) {
         const QScreen& screen = *screens.at(index);
         const QString size = PixelsText(PixelsOf(screen).size());
         // Not every platform has names for its screens.
-        m_screenBox->addItem(screen.name().isEmpty()
-                                 ? tr("Screen %1, %2").arg(index + 1).arg(size)
-                                 : tr("%1: %2, %3").arg(index + 1).arg(screen.name(), size),
-                             index);
+        texts << (screen.name().isEmpty()
+                      ? tr("Screen %1, %2").arg(index + 1).arg(size)
+                      : tr("%1: %2, %3").arg(index + 1).arg(screen.name(), size));
+        indices << QString::number(index);
     }
     if (chosen >= screens.size()) {
-        m_screenBox->addItem(tr("Screen %1 (not connected)").arg(count), chosen);
+        texts << tr("Screen %1 (not connected)").arg(chosen + 1);
+        indices << QString::number(chosen);
     }
-    m_screenBox->setMaxVisibleItems(m_screenBox->count());
-    m_screenBox->setCurrentIndex(m_screenBox->findData(chosen));
-    WidenToTexts(*m_screenBox);
+    OfferValues(*m_screenBox, texts, indices, QString::number(chosen));
 }
 
 void SourceCard::ShowArea()
@@ -255,9 +254,9 @@ void SourceCard::ShowProblem()
     const QString normal = QStringLiteral("Normal");
     for (QSpinBox* field : {m_xField, m_yField, m_widthField, m_heightField}) {
         Util::ApplyWidgetStyle(field, isArea && !problem.isEmpty() ? style : normal, "SubStyle");
-        field->setAccessibleDescription(isArea ? problem : QString());
+        SetDescription(field, isArea ? problem : QString());
     }
-    m_screenBox->setAccessibleDescription(isArea ? QString() : problem);
+    SetDescription(m_screenBox, isArea ? QString() : problem);
     m_problemLabel->setText(problem);
     m_problemLabel->setVisible(!problem.isEmpty());
 }

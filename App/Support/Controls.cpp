@@ -51,6 +51,28 @@ QComboBox* CreateComboBox(const QString& objectName, const QStringList& values, 
     return box;
 }
 
+void OfferValues(QComboBox& box, const QStringList& texts, const QStringList& values,
+                 const QString& value)
+{
+    QStringList offered;
+    for (int index = 0; index < box.count(); ++index) {
+        offered << box.itemText(index) << box.itemData(index).toString();
+    }
+    QStringList wanted;
+    for (int index = 0; index < values.size(); ++index) {
+        wanted << texts.at(index) << values.at(index);
+    }
+    if (offered != wanted) {
+        box.clear();
+        for (int index = 0; index < values.size(); ++index) {
+            box.addItem(texts.at(index), values.at(index));
+        }
+        box.setMaxVisibleItems(box.count());
+        WidenToTexts(box);
+    }
+    SelectValue(box, value);
+}
+
 void WidenToTexts(QComboBox& box)
 {
     // By itself a box goes by the ink of the letters, which is less than what they take.
@@ -65,6 +87,13 @@ void WidenToTexts(QComboBox& box)
 void SelectValue(QComboBox& box, const QString& value)
 {
     box.setCurrentIndex(std::max(0, box.findData(value)));
+}
+
+void SetDescription(QWidget* widget, const QString& text)
+{
+    if (widget->accessibleDescription() != text) {
+        widget->setAccessibleDescription(text);
+    }
 }
 
 void AlertScreenReaders(QWidget* widget)

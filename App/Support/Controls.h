@@ -29,11 +29,20 @@ QFrame* CreateCard(const QString& objectName, QWidget* parent);
 /// set later. The mouse wheel does not change it.
 QComboBox* CreateComboBox(const QString& objectName, const QStringList& values, QWidget* parent);
 
+/// Has \a box offer \a texts with their \a values as data, and selects \a value. A list that is open
+/// stays so where it has nothing new to offer.
+void OfferValues(QComboBox& box, const QStringList& texts, const QStringList& values,
+                 const QString& value);
+
 /// Makes \a box as wide as its longest text.
 void WidenToTexts(QComboBox& box);
 
 /// Selects the entry of \a value in \a box or, where there is none, the first one.
 void SelectValue(QComboBox& box, const QString& value);
+
+/// Sets what screen readers are told about \a widget beside its name, and tells them only what is
+/// new.
+void SetDescription(QWidget* widget, const QString& text);
 
 /// Has screen readers say what \a widget shows.
 void AlertScreenReaders(QWidget* widget);

@@ -414,7 +414,10 @@ private Q_SLOTS:
     {
         Open();
         PageList()->setFocus();
-        QTest::keyClick(PageList(), Qt::Key_Down);
+        for (int row = PageRow::Schedule; row < PageRow::Files; ++row) {
+            QVERIFY(!Find<QLineEdit>("resultsFolderEdit")->isVisible());
+            QTest::keyClick(PageList(), Qt::Key_Down);
+        }
         QVERIFY(Find<QLineEdit>("resultsFolderEdit")->isVisible());
         QTest::keyClick(PageList(), Qt::Key_Up);
         QVERIFY(!Find<QLineEdit>("resultsFolderEdit")->isVisible());

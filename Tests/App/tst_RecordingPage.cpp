@@ -295,7 +295,7 @@ void tst_RecordingPage::listsTheScreens()
     for (const char* part : {"2", "HDMI-A-1", "1280", "720"}) {
         QVERIFY2(box.itemText(1).contains(QLatin1String(part)), qPrintable(box.itemText(1)));
     }
-    Choose(&box, 1);
+    Choose(&box, "1");
     QCOMPARE(Stored().screenIndex, 1);
     QVERIFY(Stored().source == Source::Screen);
     QCOMPARE(m_page->Problem(), QString());
