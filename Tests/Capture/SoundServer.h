@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RecorderProgram.h"
+#include "RecorderTestSupport.h"
 
 namespace Zentor::Tests {
 

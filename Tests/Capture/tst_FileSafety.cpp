@@ -3,7 +3,7 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
-#include "RecorderProgram.h"
+#include "RecorderTestSupport.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {

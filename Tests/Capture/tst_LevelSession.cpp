@@ -4,7 +4,7 @@
 #include <QElapsedTimer>
 #include <QJsonDocument>
 
-#include "RecorderProgram.h"
+#include "RecorderTestSupport.h"
 #include "SoundServer.h"
 #include "WidgetTest.h"
 

@@ -1,6 +1,6 @@
 #include <csignal>
 
-#include "RecorderProgram.h"
+#include "RecorderTestSupport.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {

@@ -1,4 +1,4 @@
-#include "RecorderProgram.h"
+#include "RecorderTestSupport.h"
 #include "SoundServer.h"
 #include "WidgetTest.h"
 

@@ -1,7 +1,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include "RecorderProgram.h"
+#include "RecorderTestSupport.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {
@@ -91,7 +91,8 @@ private Q_SLOTS:
     {
         const Surroundings surroundings;
         const QByteArray help = surroundings.Run(PX_RECORDER, {"--help"});
-        for (const char* option : {"--lines", "--levels", "--probe", "--repair", "--file", "--no-pointer"}) {
+        for (const char* option :
+             {"--lines", "--levels", "--probe", "--repair", "--file", "--no-pointer"}) {
             QVERIFY2(help.contains(option), option);
         }
         QVERIFY(surroundings.Run(PX_RECORDER, {"--version"}).startsWith("px-recorder "));

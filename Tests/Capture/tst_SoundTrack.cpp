@@ -1,6 +1,6 @@
 #include <QJsonArray>
 
-#include "RecorderProgram.h"
+#include "RecorderTestSupport.h"
 #include "SoundServer.h"
 #include "WidgetTest.h"
 

@@ -5,7 +5,7 @@
 
 #include <unistd.h>
 
-#include "RecorderProgram.h"
+#include "RecorderTestSupport.h"
 #include "System/MachineClock.h"
 #include "WidgetTest.h"
 
