@@ -19,12 +19,12 @@ QStringList Everything()
     return {"sleep:idle by px-test, block", "shutdown by px-test, delay"};
 }
 
-/// Waits until \a service has answered what was sent to it before.
-bool IsAnswered(const char* service)
+/// Waits until \a service has answered what was sent to it on \a bus before.
+bool IsAnswered(const char* service, const QDBusConnection& bus)
 {
     const auto ping =
         QDBusMessage::createMethodCall(service, "/", "org.freedesktop.DBus.Peer", "Ping");
-    const QDBusPendingCallWatcher watcher(QDBusConnection::sessionBus().asyncCall(ping));
+    const QDBusPendingCallWatcher watcher(bus.asyncCall(ping));
     QSignalSpy answered(&watcher, &QDBusPendingCallWatcher::finished);
     return answered.wait(Patience);
 }
@@ -40,6 +40,7 @@ private Q_SLOTS:
     void releasesWhatIsGivenAfterwards();
     void keepsWhatIsWantedAgainBeforeTheAnswer();
     void releasesWhenItIsDeleted();
+    void isNotKeptByOtherPrograms();
     void saysOnceWhatIsMissing();
     void saysWhatIsRefused();
     void asksServicesThatAppearLater();
@@ -123,9 +124,29 @@ void tst_Inhibitors::releasesWhenItIsDeleted()
     inhibitors->SetHeld(true);
     QTRY_COMPARE_WITH_TIMEOUT(login.Held(), Everything(), Patience);
     QTRY_COMPARE_WITH_TIMEOUT(screenSaver.Held(), 1, Patience);
-    QVERIFY(IsAnswered("org.freedesktop.ScreenSaver"));
+    QVERIFY(IsAnswered("org.freedesktop.ScreenSaver", QDBusConnection::sessionBus()));
     inhibitors.reset();
     QTRY_COMPARE_WITH_TIMEOUT(login.Held(), QStringList(), Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(screenSaver.Held(), 0, Patience);
+}
+
+void tst_Inhibitors::isNotKeptByOtherPrograms()
+{
+    const FakeLogin login;
+    const FakeScreenSaver screenSaver;
+    Inhibitors inhibitors;
+    inhibitors.SetHeld(true);
+    QTRY_COMPARE_WITH_TIMEOUT(login.Held(), Everything(), Patience);
+    QVERIFY(IsAnswered("org.freedesktop.login1", QDBusConnection::systemBus()));
+    // A program inherits what is open when it is started.
+    QProcess program;
+    program.start("sleep", {"600"});
+    QVERIFY(program.waitForStarted(Patience));
+    inhibitors.SetHeld(false);
+    QTRY_COMPARE_WITH_TIMEOUT(login.Held(), QStringList(), Patience);
+    QCOMPARE(program.state(), QProcess::Running);
+    program.kill();
+    QVERIFY(program.waitForFinished(Patience));
     QTRY_COMPARE_WITH_TIMEOUT(screenSaver.Held(), 0, Patience);
 }
 
