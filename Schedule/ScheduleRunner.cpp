@@ -255,7 +255,11 @@ void ScheduleRunner::WithdrawOutdated(Session& session)
     const bool isEarly = session.task.start - m_now.wall > PrepareAhead + EarlyStart;
     const bool isPast = EndOf(session.task) <= m_now.wall;
     if (isPast) {
-        NoteOf(session.task).whyMissed = m_isClockSet ? Why::ClockSet : Why::NoRecorder;
+        // At its end it would have been woken, had the machine been awake.
+        const bool hasSlept = m_now.wall - EndOf(session.task) > MaximumAdjustment;
+        NoteOf(session.task).whyMissed = m_isClockSet ? Why::ClockSet
+            : hasSlept                                ? Why::Suspended
+                                                      : Why::NoRecorder;
     } else if (isEarly) {
         NoteOf(session.task).isAnnounced = false;
     }

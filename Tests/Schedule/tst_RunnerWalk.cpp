@@ -188,7 +188,7 @@ void Walk::CompareNextWake()
     if (wake && *wake <= now.wall) {
         Complain("the next wake-up is not to come");
     }
-    constexpr int often = 16;
+    constexpr int often = 32;
     if (m_events % often == 0) {
         RunnerModel model = *m_model;
         model.calls.clear();

@@ -1379,6 +1379,20 @@ recording 1
 > 130 list 1 A 130..130 recording file1
 > 130 tell started A
 )"},
+    {"was prepared when the machine began to sleep, and is missed", R"(
+task A 100 60
+at 95
+> 90 prepare 1 A screen 0 of 100
+> 90 tell starts soon A
+> 90 hold awake
+sleep 200
+> 200 cancel 1
+cancelled 1
+> 200 list 1 A 100..160 missed suspended
+> 200 tell missed A
+> 200 remove A
+> 200 let sleep
+)"},
 };
 
 constexpr Story ActionsStories[] = {

@@ -142,7 +142,8 @@ RunnerModel::Cause RunnerModel::CauseToEnd(const Attempt& attempt)
     }
     Memory& memory = MemoryOf(attempt.task);
     if (EndOf(attempt.task) <= m_now.wall) {
-        memory.obstacle = m_isJump ? Why::ClockSet : Why::NoRecorder;
+        const bool wasAwake = m_now.wall <= EndOf(attempt.task) + seconds(5);
+        memory.obstacle = m_isJump ? Why::ClockSet : wasAwake ? Why::NoRecorder : Why::Suspended;
         return Cause::Withdrawn;
     }
     if (attempt.task.start > m_now.wall + seconds(11)) {
