@@ -108,8 +108,9 @@ void ScheduleRunner::Evaluate(const Instant& now)
     GiveWay();
     StartUpcoming();
     PrepareNext();
-    EvaluateCountdown();
+    // Nothing is held when an action is done.
     HoldAwake();
+    EvaluateCountdown();
     m_isClockSet = false;
 }
 
@@ -418,6 +419,15 @@ void ScheduleRunner::Prepare(Session& session)
     m_ports.recorder.Prepare(session.id, plan);
 }
 
+void ScheduleRunner::HoldAwake()
+{
+    const bool isNeeded = m_active || m_upcoming;
+    if (isNeeded != m_isHeldAwake) {
+        m_isHeldAwake = isNeeded;
+        m_ports.power.SetHeldAwake(isNeeded);
+    }
+}
+
 void ScheduleRunner::EvaluateCountdown()
 {
     if (m_finish.Action() == PX::DoNothing) {
@@ -430,18 +440,7 @@ void ScheduleRunner::EvaluateCountdown()
     } else if (m_active || !CanRecord()) {
         m_finish.Cancel();
     } else {
-        // Before the machine goes off.
-        HoldAwake();
         m_finish.Evaluate(m_now);
-    }
-}
-
-void ScheduleRunner::HoldAwake()
-{
-    const bool isNeeded = m_active || m_upcoming;
-    if (isNeeded != m_isHeldAwake) {
-        m_isHeldAwake = isNeeded;
-        m_ports.power.SetHeldAwake(isNeeded);
     }
 }
 

@@ -167,8 +167,8 @@ private:
     void StartUpcoming();
     void PrepareNext();
     bool IsPreparable(const PX::RecordTime& task);
-    void EvaluateCountdown();
     void HoldAwake();
+    void EvaluateCountdown();
 
     QString WhyMissed(const PX::RecordTime& task) const;
     void AddWakes(const PX::RecordTime& next, std::vector<Moment>& moments) const;
