@@ -177,6 +177,7 @@ QString RecordingsList::Open()
     if (m_isOpen) {
         Util::RemoveUnfinishedFiles(m_realPath);
     } else {
+        m_notice = failure;
         LOG(ERROR) << "Zentor::Schedule::RecordingsList::Open: error=" << Util::Printable(failure);
     }
     return failure;

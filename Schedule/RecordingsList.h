@@ -49,8 +49,8 @@ public:
     /// for the user, or nothing. The list works in memory all the same, and is not saved then.
     QString Open();
 
-    /// What the file held and Open() could not use, and where that is kept, for the user; empty
-    /// when all could be used.
+    /// What Open() could not use of the file, and where that is kept, or why it could not be read
+    /// at all: for the user. Empty when all could be used.
     const QString& Notice() const { return m_notice; }
 
     /// Newest last.

@@ -22,11 +22,13 @@
 #include "CoreInt/Printable.h"
 #include "CountPendingTasks.h"
 #include "DefaultSettingsFile.h"
+#include "CrashCheck.h"
 #include "Instance.h"
 #include "Languages.h"
 #include "Log.h"
 #include "MainWindow.h"
 #include "RecordingSettings.h"
+#include "RecordingsList.h"
 #include "Resources.h"
 #include "ScreenshotTour.h"
 #include "TerminationSignals.h"
@@ -180,6 +182,16 @@ int RunWindow(const PX::SettingsStore& store, MainWindow& window, Instance& inst
     return QApplication::exec();
 }
 
+/// The list that belongs to \a settingsFile, with what a crash has left in it settled.
+std::shared_ptr<Schedule::RecordingsList> OpenRecordings(const QString& settingsFile)
+{
+    const auto list =
+        std::make_shared<Schedule::RecordingsList>(Schedule::RecordingsList::PathFor(settingsFile));
+    list->Open();
+    Schedule::CheckAfterCrash(*list);
+    return list;
+}
+
 /// Runs the tour or, as \a instance, the window on the settings in \a file, whatever they are.
 int RunOn(const QString& file, const CommandLine& line, Instance* instance)
 {
@@ -198,6 +210,7 @@ int RunOn(const QString& file, const CommandLine& line, Instance* instance)
     Appearance appearance(store, lookAndFeel, {line.language, line.theme});
     MainWindow window(store, lookAndFeel);
     window.Follow(appearance);
+    window.ShowRecordings(OpenRecordings(file));
     return instance == nullptr ? RunTour(window, line.screenshotsFolder)
                                : RunWindow(*store, window, *instance, line);
 }

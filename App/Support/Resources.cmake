@@ -5,8 +5,8 @@ set(icons
     arrow-down arrow-down-disabled arrow-left arrow-right arrow-up arrow-up-disabled
     box-information box-question box-warning calendar check
     delete delete-hover files general px-scheduler question question-hover radio-off radio-off-disabled
-    radio-off-hover radio-on radio-on-disabled radio-on-hover recording schedule tray-paused
-    tray-recording)
+    radio-off-hover radio-on radio-on-disabled radio-on-hover recording recordings schedule
+    tray-paused tray-recording)
 
 # Paints the icons in the colours of a theme: "@name@" in an icon becomes the colour of that name.
 function(paint_icons _theme)

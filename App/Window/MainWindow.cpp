@@ -21,7 +21,9 @@
 #include "HostInterfaces.h"
 #include "NoticeBar.h"
 #include "PageFrame.h"
+#include "RecorderProgram.h"
 #include "RecordingPage.h"
+#include "RecordingsPage.h"
 #include "SchedulePage.h"
 #include "StatusLine.h"
 
@@ -73,6 +75,11 @@ void MainWindow::Follow(Appearance& appearance)
     m_generalPage->Follow(appearance);
 }
 
+void MainWindow::ShowRecordings(const std::shared_ptr<Schedule::RecordingsList>& list)
+{
+    m_recordingsPage->SetList(list);
+}
+
 void MainWindow::BuildWidgets(const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel)
 {
     auto* center = new QWidget(this);
@@ -111,6 +118,8 @@ QWidget* MainWindow::CreatePageColumn(QWidget* parent,
     AddPage(m_schedulePage);
     AddPage(new RecordingPage(m_store, m_pages));
     AddPage(new FilesPage(m_store, m_pages));
+    m_recordingsPage = new RecordingsPage(Schedule::RecorderProgram(), m_pages);
+    AddPage(m_recordingsPage);
     m_generalPage = new GeneralPage(m_store, m_pages);
     AddPage(m_generalPage);
 

@@ -22,6 +22,9 @@ class ILookAndFeelManager;
 namespace PX {
 class SettingsStore;
 }
+namespace Schedule {
+class RecordingsList;
+}
 } // namespace Zentor
 
 namespace Zentor::Desktop {
@@ -31,6 +34,7 @@ class GeneralPage;
 class NoticeBar;
 class Page;
 class PageFrame;
+class RecordingsPage;
 class SchedulePage;
 
 /// The window of the application: a list of pages, the chosen page beside it, and a footer.
@@ -49,6 +53,9 @@ public:
 
     /// Shows what was chosen for this run only; \a appearance outlives the window.
     void Follow(Appearance& appearance);
+
+    /// Shows \a list, which has been opened, on the page with the recordings. Call it once.
+    void ShowRecordings(const std::shared_ptr<Schedule::RecordingsList>& list);
 
     /// The size at first, where the screen has room for it.
     static QSize FirstSize() { return {1040, 800}; }
@@ -133,6 +140,7 @@ private:
     /// In the order of the list.
     QList<PageFrame*> m_frames;
     SchedulePage* m_schedulePage = nullptr;
+    RecordingsPage* m_recordingsPage = nullptr;
     GeneralPage* m_generalPage = nullptr;
     NoticeBar* m_noticeBar = nullptr;
     /// How many of the store's notices the user has closed.

@@ -393,6 +393,7 @@ void tst_RecordingsList::isNotSavedWhenTheFileCannotBeRead()
     QVERIFY(QDir(place.Folder().path()).mkdir(QStringLiteral("recordings.json")));
     RecordingsList list(place.Path());
     QVERIFY2(list.Open().contains(place.Path()), "names the file");
+    QVERIFY(list.Notice().contains(place.Path()));
     list.Add(EntryCalled("Lecture"));
     QCOMPARE(Titles(list), QStringList{"Lecture"});
     QCOMPARE(list.SaveProblem(), QString());
