@@ -16,6 +16,7 @@
 #include "Encoders.h"
 #include "LevelSession.h"
 #include "LineSession.h"
+#include "PictureMaker.h"
 #include "RecorderOptions.h"
 #include "Remuxer.h"
 #include "Screens.h"
@@ -109,16 +110,28 @@ int WriteLevels(const QStringList& devices)
     return QCoreApplication::exec();
 }
 
-int Repair(const QString& file)
+/// Runs \a worker to its end.
+template <typename Worker> int ResultOf(Worker& worker)
 {
-    Remuxer remuxer(file, file);
-    QObject::connect(&remuxer, &Remuxer::Finished, [] { QCoreApplication::exit(EXIT_SUCCESS); });
-    QObject::connect(&remuxer, &Remuxer::Failed, [](const Failure& failure) {
+    QObject::connect(&worker, &Worker::Finished, [] { QCoreApplication::exit(EXIT_SUCCESS); });
+    QObject::connect(&worker, &Worker::Failed, [](const Failure& failure) {
         SayToUser(failure.text);
         QCoreApplication::exit(EXIT_FAILURE);
     });
-    QTimer::singleShot(0, &remuxer, &Remuxer::Start);
+    QTimer::singleShot(0, &worker, &Worker::Start);
     return QCoreApplication::exec();
+}
+
+int Repair(const QString& file)
+{
+    Remuxer remuxer(file, file);
+    return ResultOf(remuxer);
+}
+
+int MakePicture(const RecorderOptions& options)
+{
+    PictureMaker maker(options.request.file, options.picture);
+    return ResultOf(maker);
 }
 
 int Run(const RecorderOptions& options)
@@ -145,6 +158,8 @@ int Run(const RecorderOptions& options)
         return Probe();
     case RecorderOptions::Task::Repair:
         return Repair(options.request.file);
+    case RecorderOptions::Task::Picture:
+        return MakePicture(options);
     default:
         return Record(options);
     }

@@ -58,6 +58,9 @@ QList<QCommandLineOption> AllOptions()
             Flag("probe", Text::tr("Print encoders, screens and sound devices as JSON.")),
             Valued("repair", Text::tr("Complete the Matroska file <file> that a crash has left."),
                    Text::tr("file")),
+            Valued("picture",
+                   Text::tr("Make a small PNG of the first seconds of <file>, named after it."),
+                   Text::tr("file")),
             {{QStringLiteral("h"), QStringLiteral("help")}, Text::tr("Show this help.")},
             {{QStringLiteral("v"), QStringLiteral("version")}, Text::tr("Show the version.")}};
 }
@@ -182,11 +185,12 @@ void ReadFile(ValueReader& reader, RecorderOptions& options)
 RecorderOptions::Task TaskOf(const ValueReader& reader)
 {
     using Task = RecorderOptions::Task;
-    return reader.IsSet("lines") ? Task::Lines
-        : reader.IsSet("levels") ? Task::Levels
-        : reader.IsSet("probe")  ? Task::Probe
-        : reader.IsSet("repair") ? Task::Repair
-                                 : Task::Record;
+    return reader.IsSet("lines")  ? Task::Lines
+        : reader.IsSet("levels")  ? Task::Levels
+        : reader.IsSet("probe")   ? Task::Probe
+        : reader.IsSet("repair")  ? Task::Repair
+        : reader.IsSet("picture") ? Task::Picture
+                                  : Task::Record;
 }
 
 QString WithoutFullStop(QString text)
@@ -202,10 +206,18 @@ RecorderOptions Read(const QCommandLineParser& parser)
     RecorderOptions options;
     ValueReader reader(parser);
     const auto rest = parser.positionalArguments();
-    reader.Require(rest.isEmpty(), Text::tr("unexpected argument '%1'").arg(rest.value(0)));
     options.task = TaskOf(reader);
+    const int expected = options.task == RecorderOptions::Task::Picture ? 1 : 0;
+    reader.Require(rest.size() <= expected,
+                   Text::tr("unexpected argument '%1'").arg(rest.value(expected)));
     if (options.task == RecorderOptions::Task::Repair) {
         options.request.file = QDir::current().absoluteFilePath(reader.Value("repair"));
+    } else if (options.task == RecorderOptions::Task::Picture) {
+        options.request.file = QDir::current().absoluteFilePath(reader.Value("picture"));
+        options.picture = QDir::current().absoluteFilePath(rest.value(0));
+        reader.Require(!rest.isEmpty()
+                           && options.picture.endsWith(QLatin1String(".png"), Qt::CaseInsensitive),
+                       Text::tr("--picture needs the name of a .png after the recording's"));
     } else if (options.task == RecorderOptions::Task::Record) {
         ReadFile(reader, options);
         ReadPicture(reader, options);

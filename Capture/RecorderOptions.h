@@ -9,12 +9,14 @@ namespace Zentor::Capture {
 
 /// What the program was started to do.
 struct RecorderOptions {
-    enum class Task { Record, Lines, Levels, Probe, Repair, Print, Refuse };
+    enum class Task { Record, Lines, Levels, Probe, Repair, Picture, Print, Refuse };
 
     Task task = Task::Record;
     /// What to print, or why the options are refused.
     QString message;
     RecordingRequest request;
+    /// The PNG to make of request.file.
+    QString picture;
     /// Whether a screen was asked for, so that one that does not exist is a wrong option.
     bool isScreenChosen = false;
     /// 0: until a signal comes.

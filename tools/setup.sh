@@ -27,7 +27,7 @@ packages_to_test=(
     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils
     dbus at-spi2-core python3-gi gir1.2-atspi-2.0
     appstream desktop-file-utils man-db
-    ffmpeg
+    ffmpeg gstreamer1.0-libav
     pipewire pipewire-bin pipewire-pulse wireplumber pulseaudio-utils)
 
 missing_packages() {

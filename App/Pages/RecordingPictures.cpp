@@ -111,6 +111,8 @@ void RecordingPictures::Make(const Source& source)
         return;
     }
     m_patience.start();
+    // The recorder touches no file that is there, and a run that was killed may have left one.
+    QFile::remove(PathOf(source) + UnfinishedEnding);
     m_process.start(m_recorder,
                     {QStringLiteral("--picture"), source.file, PathOf(source) + UnfinishedEnding},
                     QIODevice::NotOpen);

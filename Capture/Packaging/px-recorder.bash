@@ -3,7 +3,7 @@ _px_recorder() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
     COMPREPLY=()
     case $previous in
-        --file | --repair)
+        --file | --picture | --repair)
             mapfile -t COMPREPLY < <(compgen -f -- "$current")
             return ;;
         --quality)
@@ -20,8 +20,8 @@ _px_recorder() {
             return ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "--file --screen --area --source --fps --duration --sound
-        --mix --encoder --quality --no-pointer --reserve --lines --levels --probe --repair --help
-        --version" \
+        --mix --encoder --quality --no-pointer --reserve --lines --levels --picture --probe --repair
+        --help --version" \
         -- "$current")
 }
 complete -o filenames -F _px_recorder px-recorder

@@ -1,7 +1,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include "RecorderTestSupport.h"
+#include "RecorderProgram.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {
@@ -34,6 +34,9 @@ private Q_SLOTS:
         QTest::newRow("empty encoder") << QStringList{file, "--encoder="};
         QTest::newRow("quality") << QStringList{file, "--quality=best"};
         QTest::newRow("reserve") << QStringList{file, "--reserve=-1"};
+        QTest::newRow("picture without a name") << QStringList{"--picture=new.mkv"};
+        QTest::newRow("picture of another kind") << QStringList{"--picture=new.mkv", "new.jpg"};
+        QTest::newRow("two pictures") << QStringList{"--picture=new.mkv", "a.png", "b.png"};
         QTest::newRow("source") << QStringList{file, "--source=film"};
     }
 
@@ -91,8 +94,8 @@ private Q_SLOTS:
     {
         const Surroundings surroundings;
         const QByteArray help = surroundings.Run(PX_RECORDER, {"--help"});
-        for (const char* option :
-             {"--lines", "--levels", "--probe", "--repair", "--file", "--no-pointer"}) {
+        for (const char* option : {"--lines", "--levels", "--probe", "--repair", "--picture",
+                                   "--file", "--no-pointer"}) {
             QVERIFY2(help.contains(option), option);
         }
         QVERIFY(surroundings.Run(PX_RECORDER, {"--version"}).startsWith("px-recorder "));
