@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QStandardPaths>
 #include <QUrl>
 
 #include "Controls.h"
@@ -33,6 +34,13 @@ namespace {
 constexpr int LeastHeight = 300;
 /// Long enough for a file to be closed.
 constexpr int RepairEndMilliseconds = 3000;
+
+/// Qt creates the trash, but not the folder that it is in.
+bool MoveToTrash(const QString& file)
+{
+    QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    return QFile::moveToTrash(file);
+}
 
 bool IsBroken(const RecordingEntry& entry)
 {
@@ -405,7 +413,7 @@ void RecordingsPage::Remove(Id id, const QString& file)
         return;
     }
     const QString title = m_model.ItemAt(row).entry.title;
-    if (!file.isEmpty() && QFileInfo::exists(file) && !QFile::moveToTrash(file)) {
+    if (!file.isEmpty() && QFileInfo::exists(file) && !MoveToTrash(file)) {
         ShowProblem(tr("%1 could not be moved to the trash").arg(QDir::toNativeSeparators(file)));
         return;
     }

@@ -848,6 +848,8 @@ private Q_SLOTS:
         QTest::newRow("files")
             << Desktop::PanelPart::OffModeButton << PageRow::Files
             << QStringLiteral("pageList resultsFolderEdit browseButton startRecordingButton");
+        QTest::newRow("recordings") << Desktop::PanelPart::OffModeButton << PageRow::Recordings
+                                    << QStringLiteral("pageList startRecordingButton");
         QTest::newRow("general")
             << Desktop::PanelPart::OffModeButton << PageRow::General
             << QStringLiteral(

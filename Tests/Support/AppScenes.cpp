@@ -19,6 +19,7 @@
 #include "PageRow.h"
 #include "PanelParts.h"
 #include "RecordingSettings.h"
+#include "RecordingsList.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {
@@ -331,6 +332,55 @@ void ShowGeneralPage(const Stage& stage)
     stage.ShowPage(PageRow::Schedule);
 }
 
+/// One of each kind: with and without a file, with and without a problem.
+std::shared_ptr<Schedule::RecordingsList> SampleRecordings(const Stage& stage)
+{
+    const auto& folder = stage.App().folder;
+    auto list = std::make_shared<Schedule::RecordingsList>(
+        folder.filePath(QStringLiteral("recordings.json")));
+    list->Open();
+    const auto add = [&](const QString& title, Schedule::Outcome outcome, const QString& file,
+                         const QString& reason) {
+        list->Add({title, At("10:00"), At("11:00"), outcome, file, reason});
+    };
+    using Schedule::Outcome;
+    const QString file = folder.filePath(QStringLiteral("Task 1.mkv"));
+    QFile(file).open(QIODevice::WriteOnly);
+    add(QStringLiteral("Task 1"), Outcome::Complete, file, {});
+    add(QStringLiteral("Task 2"), Outcome::Missed, {}, Schedule::Why::NotRunning);
+    add(QStringLiteral("Task 3"), Outcome::Failed, {}, QStringLiteral("no-encoder"));
+    add(QStringLiteral("Task 4"), Outcome::Stopped, folder.filePath(QStringLiteral("Task 4.mkv")),
+        Schedule::Why::User);
+    add(LongTitle(), Outcome::Partial, file, Schedule::Why::ProgramDied);
+    add(QStringLiteral("Task 5"), Outcome::Recording, {}, {});
+    return list;
+}
+
+void ShowRecordings(const Stage& stage)
+{
+    stage.App().window->ShowRecordings(SampleRecordings(stage));
+    stage.ShowPage(PageRow::Recordings);
+    auto* view = stage.Find<QAbstractItemView>("recordingsList");
+    stage.Show(QStringLiteral("recordings"), view->isVisible());
+    // The one that can be repaired.
+    view->setCurrentIndex(view->model()->index(1, 0));
+    QTRY_VERIFY(stage.App().Button("repairRecordingButton")->isEnabled());
+    stage.Show(QStringLiteral("recording that can be repaired"), true);
+    Q_EMIT view->customContextMenuRequested({});
+    stage.Show(QStringLiteral("menu of a recording"), QApplication::activePopupWidget() != nullptr);
+    QApplication::activePopupWidget()->close();
+    stage.TakeKeyboard();
+    stage.ShowBox(QStringLiteral("question about the trash"), QMessageBox::Cancel,
+                  [&] { stage.Click("removeRecordingButton"); });
+    view->setCurrentIndex(view->model()->index(2, 0));
+    stage.ShowBox(QStringLiteral("question about the list"), QMessageBox::Cancel,
+                  [&] { stage.Click("removeRecordingButton"); });
+    Q_EMIT view->activated(view->currentIndex());
+    stage.Show(QStringLiteral("recording that cannot be opened"),
+               stage.App().Find("recordingsProblemLabel")->isVisible());
+    stage.ShowPage(PageRow::Schedule);
+}
+
 void ShowCalendar(const Stage& stage)
 {
     auto* date = stage.Find<QDateTimeEdit>(Desktop::PanelPart::DateField);
@@ -509,8 +559,8 @@ void VisitAppScenes(const QSize& size, const SceneVisitor& visit)
     };
     const Part parts[] = {
         {0,
-         {ShowPages, ShowModes, ShowRecordingPage, ShowFolderProblems, ShowGeneralPage, ShowForm,
-          ShowSaveProblems, ShowNotices, ShowClosingQuestion}},
+         {ShowPages, ShowModes, ShowRecordingPage, ShowFolderProblems, ShowRecordings,
+          ShowGeneralPage, ShowForm, ShowSaveProblems, ShowNotices, ShowClosingQuestion}},
         {2, {ShowSchedule}},
         {ManyTasks, {ShowLongSchedule}}};
     for (const Part& part : parts) {

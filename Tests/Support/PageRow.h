@@ -6,6 +6,7 @@ namespace Zentor::Tests::PageRow {
 constexpr int Schedule = 0;
 constexpr int Recording = 1;
 constexpr int Files = 2;
-constexpr int General = 3;
+constexpr int Recordings = 3;
+constexpr int General = 4;
 
 } // namespace Zentor::Tests::PageRow
