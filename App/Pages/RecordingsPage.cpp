@@ -42,6 +42,14 @@ bool MoveToTrash(const QString& file)
     return QFile::moveToTrash(file);
 }
 
+/// What the recorder said last, without its name.
+QString LastLine(const QByteArray& said)
+{
+    const QString line = QString::fromUtf8(said).trimmed().section(QLatin1Char('\n'), -1);
+    const QLatin1String name("px-recorder: ");
+    return line.startsWith(name) ? line.mid(name.size()) : line;
+}
+
 bool IsBroken(const RecordingEntry& entry)
 {
     const bool hasCrashed =
@@ -363,9 +371,7 @@ void RecordingsPage::FinishRepair(bool isRepaired)
     if (isRepaired) {
         Q_EMIT Announced(tr("Repaired: %1").arg(m_repairedTitle));
     } else {
-        const QString reason = QString::fromUtf8(m_repair.readAllStandardError())
-                                   .trimmed()
-                                   .section(QLatin1Char('\n'), -1);
+        const QString reason = LastLine(m_repair.readAllStandardError());
         ShowProblem(reason.isEmpty() ? tr("%1 could not be repaired").arg(m_repairedTitle)
                                      : reason);
     }

@@ -589,6 +589,7 @@ QStringList TextsOfTheUser(const AppWindow& app)
     for (const PX::SettingsNotice& notice : app.store->Notices()) {
         texts.prepend(notice.keptPath);
     }
+    texts << QStringLiteral(".mkv");
     const auto screens = QGuiApplication::screens();
     for (const QScreen* screen : screens) {
         texts << screen->name();
