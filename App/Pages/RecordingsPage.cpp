@@ -178,10 +178,13 @@ void RecordingsPage::Connect()
     const auto* remove =
         new QShortcut(QKeySequence(Qt::Key_Delete), m_view, nullptr, nullptr, Qt::WidgetShortcut);
     connect(remove, &QShortcut::activated, m_removeButton, &QPushButton::click);
-    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
-        ShowProblem({});
-        ShowState();
-    });
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& current) {
+                // A list that receives the focus has a current row, which nobody would see.
+                m_view->selectionModel()->select(current, QItemSelectionModel::ClearAndSelect);
+                ShowProblem({});
+                ShowState();
+            });
     const auto look = [this] { m_lookTimer.start(); };
     connect(m_view->verticalScrollBar(), &QScrollBar::valueChanged, this, look);
     connect(m_view->verticalScrollBar(), &QScrollBar::rangeChanged, this, look);

@@ -149,6 +149,19 @@ private Q_SLOTS:
         QVERIFY(!Label("recordingsProblemLabel")->isVisible());
     }
 
+    void selectsTheNewestWithTheFocus()
+    {
+        m_list->Add(Entry("First"));
+        m_list->Add(Entry("Second"));
+        m_page->setFocus();
+        View()->setFocus(Qt::TabFocusReason);
+        QVERIFY(View()->selectionModel()->isSelected(View()->model()->index(0, 0)));
+        QTest::keyClick(View(), Qt::Key_Down);
+        QCOMPARE(View()->selectionModel()->selectedIndexes(),
+                 QModelIndexList{View()->model()->index(1, 0)});
+        QCOMPARE(Allowed(), QStringLiteral("remove"));
+    }
+
     void saysThatAFileIsGone()
     {
         Opener opener;
