@@ -186,7 +186,7 @@ QString RecordingsList::Open()
 /// Reads the file. Returns the reason of a failure, or nothing.
 QString RecordingsList::Read()
 {
-    const QString failure = Util::ReadFile(m_realPath, m_known);
+    QString failure = Util::ReadFile(m_realPath, m_known);
     if (!failure.isEmpty()) {
         return tr("The list of recordings %1 cannot be read: %2")
             .arg(Util::PrintableText(m_filePath), failure);
@@ -196,9 +196,9 @@ QString RecordingsList::Read()
     }
     const Document document = Parse(m_known.content);
     if (!document.problems.isEmpty()) {
-        const QString problem = KeepDamaged(document.isUnderstood, document.problems);
-        if (!problem.isEmpty()) {
-            return problem;
+        failure = KeepDamaged(document.isUnderstood, document.problems);
+        if (!failure.isEmpty()) {
+            return failure;
         }
     }
     m_fields = document.fields;
@@ -310,7 +310,7 @@ void RecordingsList::Save()
 /// Replaces the file by the list. Returns the reason of a failure, or nothing.
 QString RecordingsList::Write()
 {
-    const QString failure = KeepChanged();
+    QString failure = KeepChanged();
     if (!failure.isEmpty()) {
         return failure;
     }

@@ -334,20 +334,8 @@ private Q_SLOTS:
     /// However many there are, only those in view are drawn, and only their files are looked at.
     void scrollsThousandsOfEntriesSmoothly()
     {
-        constexpr int entries = 10'000;
-        const QByteArray entry =
-            R"({"title":"a","start":5,"end":9,"outcome":"complete","file":"%"})";
-        QByteArray text = R"({"version":1,"recordings":[)";
-        for (int number = 0; number < entries; ++number) {
-            QByteArray one = entry;
-            text += (number > 0 ? "," : "")
-                + one.replace('%', "/none/" + QByteArray::number(number) + ".mkv");
-        }
-        QFile file(Path("many.json"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(text + "]}");
-        file.close();
-        const auto list = std::make_shared<RecordingsList>(file.fileName());
+        WriteManyEntries(Path("many.json"));
+        const auto list = std::make_shared<RecordingsList>(Path("many.json"));
         QCOMPARE(list->Open(), QString());
         Desktop::RecordingsPage page(Path("recorder"), nullptr);
         page.resize(700, 500);
@@ -404,6 +392,20 @@ private:
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("recorded");
+    }
+
+    static void WriteManyEntries(const QString& path)
+    {
+        constexpr int entries = 10'000;
+        QStringList texts;
+        for (int number = 0; number < entries; ++number) {
+            texts << QStringLiteral(R"({"title":"a","start":5,"end":9,"outcome":"complete",)"
+                                    R"("file":"/none/%1.mkv"})")
+                         .arg(number);
+        }
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(R"({"version":1,"recordings":[)" + texts.join(',').toUtf8() + "]}");
     }
 
     /// Adds an entry with a file, and selects it.
