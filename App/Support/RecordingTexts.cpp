@@ -107,7 +107,7 @@ QString MomentText(Schedule::Moment moment)
 
 QString LengthText(Schedule::Length length)
 {
-    constexpr int perUnit = 60;
+    constexpr qint64 perUnit = 60;
     constexpr int base = 10;
     const auto seconds =
         std::max<qint64>(0, std::chrono::duration_cast<std::chrono::seconds>(length).count());
