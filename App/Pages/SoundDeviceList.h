@@ -29,6 +29,8 @@ public:
     /// Shows that \a devices are chosen, whether or not they are there.
     void SetChosen(const QStringList& devices);
     const QStringList& Chosen() const { return m_chosen; }
+    /// Whether it is not known yet which devices there are.
+    bool IsLooking() const { return m_state == State::Looking; }
 
 Q_SIGNALS:
     /// The user has chosen other devices; those that were chosen before come first.

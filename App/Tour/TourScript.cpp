@@ -7,8 +7,10 @@
 #include "FilesPage.h"
 #include "GeneralPage.h"
 #include "PanelParts.h"
+#include "RecordingPage.h"
 #include "SchedulePage.h"
 #include "ScreenshotTour.h"
+#include "SoundDeviceList.h"
 
 namespace Zentor::Desktop {
 namespace {
@@ -166,6 +168,20 @@ void ShowGeneral(ScreenshotTour& tour)
     WaitForNoPopup(tour);
 }
 
+void ShowRecording(ScreenshotTour& tour)
+{
+    GoTo(tour, RecordingPage::PageId());
+    tour.WaitFor(QStringLiteral("the sound devices"), [] {
+        const auto widgets = QApplication::allWidgets();
+        return std::any_of(widgets.begin(), widgets.end(), [](const QWidget* widget) {
+            const auto* list = qobject_cast<const SoundDeviceList*>(widget);
+            return list != nullptr && list->isVisible() && !list->IsLooking();
+        });
+    });
+    tour.PointAway();
+    tour.Picture(QStringLiteral("19-recording"));
+}
+
 void AddLongTask(ScreenshotTour& tour)
 {
     GoTo(tour, SchedulePage::PageId());
@@ -238,6 +254,7 @@ void WriteTourScript(ScreenshotTour& tour)
     ShowRefusedTask(tour);
     ShowFullDisk(tour);
     ShowGeneral(tour);
+    ShowRecording(tour);
 }
 
 } // namespace Zentor::Desktop

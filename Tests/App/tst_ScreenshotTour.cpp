@@ -33,7 +33,8 @@ QStringList ExpectedPictures()
             QStringLiteral("15-unsaved-task-question.png"),
             QStringLiteral("16-full-disk.png"),
             QStringLiteral("17-general.png"),
-            QStringLiteral("18-general-languages.png")};
+            QStringLiteral("18-general-languages.png"),
+            QStringLiteral("19-recording.png")};
 }
 
 int RunProgram(const QStringList& arguments, QString* error = nullptr)

@@ -1,4 +1,5 @@
 #include <QJsonArray>
+#include <QJsonDocument>
 
 #include "RecorderTestSupport.h"
 #include "SoundServer.h"
@@ -39,6 +40,24 @@ private Q_SLOTS:
         QVERIFY(std::abs(media.seconds - 2) < 0.05);
         QVERIFY(VolumeOf(file, 0, 0, 2) < Silence);
         QVERIFY(VolumeOf(file, 1, 0.2, 1.8) > -20);
+    }
+
+    void saysWhatDevicesAreCalled()
+    {
+        Surroundings surroundings;
+        SoundServer server(surroundings);
+        server.AddMicrophone("mic");
+        QVERIFY(server.IsRunning());
+        const auto found =
+            QJsonDocument::fromJson(surroundings.Run(PX_RECORDER, {"--probe"})).object();
+        const auto devices = found.value("soundDevices").toArray();
+        QVERIFY(devices.contains("mic"));
+        const auto titles = found.value("soundDeviceTitles").toObject();
+        QCOMPARE(titles.size(), devices.size());
+        for (const auto& device : devices) {
+            QVERIFY(!titles.value(device.toString()).toString().isEmpty());
+        }
+        QVERIFY(titles.value("mic").toString() != QString("mic"));
     }
 
     void mixesAllDevicesIntoOneTrack()
