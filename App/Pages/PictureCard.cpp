@@ -34,7 +34,8 @@ QSize RecordedSize(const RecordingSettings& settings)
 {
     const auto screens = QGuiApplication::screens();
     if (settings.source == RecordingSettings::Source::Area && !settings.area.isNull()) {
-        return settings.area.intersected(PixelsOfAllScreens()).size();
+        const QSize seen = settings.area.intersected(PixelsOfAllScreens()).size();
+        return seen.isEmpty() ? settings.area.size() : seen;
     }
     const int index =
         settings.source == RecordingSettings::Source::Screen ? settings.screenIndex : 0;

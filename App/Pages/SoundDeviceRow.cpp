@@ -20,7 +20,12 @@ constexpr int LevelWidth = 120;
 /// A check box that elides a text for which it has no room.
 class ElidedCheckBox final : public QCheckBox {
 public:
-    using QCheckBox::QCheckBox;
+    explicit ElidedCheckBox(QWidget* parent)
+        : QCheckBox(parent)
+    {
+        // By itself, a check box is never narrower than its text.
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    }
 
     QSize minimumSizeHint() const override
     {

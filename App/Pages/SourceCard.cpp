@@ -60,42 +60,46 @@ SourceCard::~SourceCard() = default;
 
 void SourceCard::BuildWidgets()
 {
-    m_screenButton = new QRadioButton(this);
-    m_screenButton->setObjectName(QStringLiteral("recordScreenButton"));
-    m_screenBox = CreateComboBox(QStringLiteral("recordedScreenBox"), {}, this);
-    m_areaButton = new QRadioButton(this);
-    m_areaButton->setObjectName(QStringLiteral("recordAreaButton"));
-
-    auto* screenRow = new QHBoxLayout;
-    screenRow->setSpacing(2 * ControlSpacing);
-    screenRow->addWidget(m_screenButton);
-    screenRow->addStretch(1);
-    screenRow->addWidget(m_screenBox);
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(ControlSpacing);
-    grid->setVerticalSpacing(ControlSpacing);
-    grid->setColumnMinimumWidth(0, FieldIndent);
-    AddAreaFields(*grid);
-    m_pickButton = CreateButton(QStringLiteral("pickAreaButton"), this);
-    m_outlineButton = CreateButton(QStringLiteral("outlineAreaButton"), this);
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(ControlSpacing);
-    buttons->addSpacing(FieldIndent);
-    buttons->addWidget(m_pickButton);
-    buttons->addWidget(m_outlineButton);
-    buttons->addStretch(1);
-    m_noteLabel = CreateLabel(QStringLiteral("areaNoteLabel"), this);
-    m_problemLabel = CreateLabel(QStringLiteral("sourceProblemLabel"), this);
-
+    // In the order of Tab.
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(ControlSpacing);
-    column->addLayout(screenRow);
+    column->addLayout(CreateScreenRow());
+    m_areaButton = new QRadioButton(this);
+    m_areaButton->setObjectName(QStringLiteral("recordAreaButton"));
     column->addWidget(m_areaButton, 0, Qt::AlignLeading);
-    column->addLayout(grid);
-    column->addLayout(buttons);
+    column->addLayout(CreateAreaFields());
+    column->addLayout(CreateAreaButtons());
+    m_noteLabel = CreateLabel(QStringLiteral("areaNoteLabel"), this);
     column->addWidget(m_noteLabel);
+    m_problemLabel = CreateLabel(QStringLiteral("sourceProblemLabel"), this);
     column->addWidget(m_problemLabel);
+}
+
+QLayout* SourceCard::CreateScreenRow()
+{
+    m_screenButton = new QRadioButton(this);
+    m_screenButton->setObjectName(QStringLiteral("recordScreenButton"));
+    m_screenBox = CreateComboBox(QStringLiteral("recordedScreenBox"), {}, this);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2 * ControlSpacing);
+    row->addWidget(m_screenButton);
+    row->addStretch(1);
+    row->addWidget(m_screenBox);
+    return row;
+}
+
+QLayout* SourceCard::CreateAreaButtons()
+{
+    m_pickButton = CreateButton(QStringLiteral("pickAreaButton"), this);
+    m_outlineButton = CreateButton(QStringLiteral("outlineAreaButton"), this);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(ControlSpacing);
+    row->addSpacing(FieldIndent);
+    row->addWidget(m_pickButton);
+    row->addWidget(m_outlineButton);
+    row->addStretch(1);
+    return row;
 }
 
 QSpinBox* SourceCard::CreateField(const QString& objectName, int lowest)
@@ -110,26 +114,30 @@ QSpinBox* SourceCard::CreateField(const QString& objectName, int lowest)
     return field;
 }
 
-void SourceCard::AddAreaFields(QGridLayout& grid)
+QLayout* SourceCard::CreateAreaFields()
 {
     m_xField = CreateField(QStringLiteral("areaXField"), -FarthestPixel);
     m_yField = CreateField(QStringLiteral("areaYField"), -FarthestPixel);
     m_widthField = CreateField(QStringLiteral("areaWidthField"), AreaPicker::Smallest);
     m_heightField = CreateField(QStringLiteral("areaHeightField"), AreaPicker::Smallest);
+    auto* grid = new QGridLayout;
+    grid->setSpacing(ControlSpacing);
+    grid->setColumnMinimumWidth(0, FieldIndent);
+    grid->setColumnStretch(5, 1);
     const auto add = [&](QLabel*& label, const char* name, QSpinBox* field, int place) {
         label = CreateLabel(QLatin1String(name), this);
         label->setWordWrap(false);
         label->setBuddy(field);
         const int row = place / 2;
         const int column = 1 + 2 * (place % 2);
-        grid.addWidget(label, row, column);
-        grid.addWidget(field, row, column + 1);
+        grid->addWidget(label, row, column);
+        grid->addWidget(field, row, column + 1);
     };
     add(m_xLabel, "areaXLabel", m_xField, 0);
     add(m_yLabel, "areaYLabel", m_yField, 1);
     add(m_widthLabel, "areaWidthLabel", m_widthField, 2);
     add(m_heightLabel, "areaHeightLabel", m_heightField, 3);
-    grid.setColumnStretch(5, 1);
+    return grid;
 }
 
 void SourceCard::Connect()
@@ -205,7 +213,7 @@ void SourceCard::FillScreens()
         // Not every platform has names for its screens.
         texts << (screen.name().isEmpty()
                       ? tr("Screen %1, %2").arg(index + 1).arg(size)
-                      : tr("%1: %2, %3").arg(index + 1).arg(screen.name(), size));
+                      : tr("%1: %2, %3").arg(index + 1).arg(Isolated(screen.name()), size));
         indices << QString::number(index);
     }
     if (chosen >= screens.size()) {

@@ -6,8 +6,8 @@
 #include <QPointer>
 
 class QComboBox;
-class QGridLayout;
 class QLabel;
+class QLayout;
 class QPushButton;
 class QRadioButton;
 class QSpinBox;
@@ -41,7 +41,9 @@ protected:
 
 private:
     void BuildWidgets();
-    void AddAreaFields(QGridLayout& grid);
+    QLayout* CreateScreenRow();
+    QLayout* CreateAreaFields();
+    QLayout* CreateAreaButtons();
     QSpinBox* CreateField(const QString& objectName, int lowest);
     void Connect();
     void ConnectArea();

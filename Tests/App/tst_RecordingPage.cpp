@@ -76,6 +76,7 @@ private Q_SLOTS:
     void followsChangesMadeElsewhere();
     void listsTheSoundDevices();
     void keepsDevicesThatAreAbsent();
+    void hasRoomForLongNames();
     void storesTheChosenDevices();
     void mixesOnlySeveralDevices();
     void showsLevelsOfChosenDevices();
@@ -443,6 +444,16 @@ void tst_RecordingPage::keepsDevicesThatAreAbsent()
     m_page->hide();
     m_page->show();
     QTRY_COMPARE_WITH_TIMEOUT(Devices(), (QStringList{"+Microphone", "-Speakers"}), Patience);
+}
+
+void tst_RecordingPage::hasRoomForLongNames()
+{
+    Open();
+    const int width = m_page->minimumSizeHint().width();
+    Store([](auto& settings) { settings.soundDevices = QStringList{QString(500, 'x')}; });
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(m_page->minimumSizeHint().width(), width);
+    QCOMPARE(Device(QString(500, 'x'))->toolTip(), QString(500, 'x'));
 }
 
 void tst_RecordingPage::storesTheChosenDevices()
