@@ -2,7 +2,7 @@
 
 #include <QImage>
 
-#include "RecorderProgram.h"
+#include "RecorderTestSupport.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {

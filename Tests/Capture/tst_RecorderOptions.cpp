@@ -1,7 +1,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include "RecorderProgram.h"
+#include "RecorderTestSupport.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {
