@@ -148,7 +148,7 @@ void ConnectTray(const TrayIcon& tray, MainWindow& window, Instance& instance)
 
 PendingWork PendingWorkIn(const PX::SettingsStore& store)
 {
-    return {false, CountPendingTasks(store.Settings(), Time::SystemClock().Now())};
+    return {false, Schedule::CountPendingTasks(store.Settings(), Time::SystemClock().Now())};
 }
 
 int RunWindow(const PX::SettingsStore& store, MainWindow& window, Instance& instance,

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-namespace Zentor::Desktop {
+namespace Zentor::Schedule {
 
-int CountPendingTasks(const PX::UserSettings& settings, Time::IClock::time_point now)
+int CountPendingTasks(const PX::UserSettings& settings, Moment now)
 {
     if (!settings.scheduledCaptureEnabled) {
         return 0;
@@ -15,4 +15,4 @@ int CountPendingTasks(const PX::UserSettings& settings, Time::IClock::time_point
     return static_cast<int>(count);
 }
 
-} // namespace Zentor::Desktop
+} // namespace Zentor::Schedule

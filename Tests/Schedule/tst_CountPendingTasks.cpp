@@ -28,7 +28,7 @@ private Q_SLOTS:
         PX::UserSettings settings;
         settings.scheduledCaptureEnabled = isOn;
         settings.schedule = {Record("One", "10:00"), Record("Two", "11:00")};
-        QTEST(Desktop::CountPendingTasks(settings, At(qPrintable(now))), "expected");
+        QTEST(Schedule::CountPendingTasks(settings, At(qPrintable(now))), "expected");
     }
 };
 
