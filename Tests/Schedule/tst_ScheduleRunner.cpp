@@ -1443,6 +1443,29 @@ finished 1 duration 60
 > 160 perform quit
 > 160 let sleep
 )"},
+    {"quits although a task follows at once", R"(
+task A 100 60 0 quit
+task B 160 60
+at 100
+> 90 prepare 1 A screen 0 of 100
+> 90 tell starts soon A
+> 90 hold awake
+ready 1
+> 100 start 1 now for 60
+recording 1
+> 100 list 1 A 100..100 recording file1
+> 100 tell started A
+at 160
+> 150 prepare 2 B screen 0 of 160
+> 150 tell starts soon B
+ready 2
+finished 1 duration 60
+> 160 update 1 A 100..160 complete file1
+> 160 tell ended A
+> 160 remove A
+> 160 perform quit
+> 160 start 2 now for 60
+)"},
     {"counts down as long as it is set to", R"(
 countdown 5
 record 10 hibernate

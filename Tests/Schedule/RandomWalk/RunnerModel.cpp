@@ -658,11 +658,11 @@ void RunnerModel::Act(PX::PowerAction action)
     if (action == PX::DoNothing || !CanRecord()) {
         return;
     }
-    if (const PX::RecordTime* task = TaskAtHand()) {
-        TellSkipped(action, *task);
-    } else if (action == PX::QuitApplication) {
+    if (action == PX::QuitApplication) {
         m_action = {};
         calls.push_back(PlainCall(Kind::Perform, action));
+    } else if (const PX::RecordTime* task = TaskAtHand()) {
+        TellSkipped(action, *task);
     } else {
         m_action = {action, {}};
         calls.push_back(PlainCall(Kind::Ask, action));

@@ -330,10 +330,15 @@ void RunnerWorld::Ask(PX::PowerAction action)
 void RunnerWorld::Perform(PX::PowerAction action)
 {
     calls.push_back(PlainCall(RunnerCall::Kind::Perform, action));
-    if (!m_recorders.empty()) {
-        Complain("an action is done while there is a recording");
+    for (const auto& recorder : m_recorders) {
+        if (recorder.second.isStarted || action != PX::QuitApplication) {
+            Complain("an action is done while there is a recording");
+        }
     }
-    if (m_isHeldAwake && action != PX::QuitApplication) {
+    if (action == PX::QuitApplication) {
+        return;
+    }
+    if (m_isHeldAwake) {
         Complain("an action is done while the machine is kept awake");
     }
     for (const auto& task : tasks) {
