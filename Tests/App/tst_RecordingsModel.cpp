@@ -129,25 +129,25 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(QByteArray(1500, 'x'));
         file.close();
-        m_list->Add(EntryCalled("Out of view", there));
         m_list->Add(EntryCalled("Gone", m_folder->filePath("gone.mkv")));
         m_list->Add(EntryCalled("There", there));
         m_list->Add(EntryCalled("Without"));
+        m_list->Add(EntryCalled("Out of view", m_folder->filePath("above.mkv")));
         m_model->SetList(m_list);
         QTest::qWait(0);
-        QVERIFY(!m_model->FactsAt(1));
+        QVERIFY(!m_model->FactsAt(2));
         const QSignalSpy changed(m_model.get(), &RecordingsModel::dataChanged);
-        m_model->LookAt(0, 2);
+        m_model->LookAt(1, 3);
         QTRY_COMPARE(changed.count(), 2);
-        QVERIFY(m_model->FactsAt(1)->exists);
-        QCOMPARE(m_model->FactsAt(1)->bytes, 1500);
-        QVERIFY(!m_model->FactsAt(2)->exists);
+        QVERIFY(m_model->FactsAt(2)->exists);
+        QCOMPARE(m_model->FactsAt(2)->bytes, 1500);
+        QVERIFY(!m_model->FactsAt(3)->exists);
         QVERIFY(!m_model->FactsAt(0));
         const auto details = [&](int row) {
             return m_model->index(row).data(RecordingsModel::DetailsRole).toString();
         };
-        QVERIFY2(details(1).contains("1.5 kB"), qPrintable(details(1)));
-        QVERIFY2(details(2).contains("the file is gone"), qPrintable(details(2)));
+        QVERIFY2(details(2).contains("1.5 kB"), qPrintable(details(2)));
+        QVERIFY2(details(3).contains("the file is gone"), qPrintable(details(3)));
     }
 
     void looksAnewWhenAsked()
