@@ -45,7 +45,7 @@ TrialRecording::TrialRecording(const Schedule::RecordingSettings& settings, QObj
     });
     const auto begin = std::make_shared<QElapsedTimer>();
     connect(&m_progress, &QTimer::timeout, this, [this, begin] {
-        Q_EMIT Progressed(static_cast<int>(std::min<qint64>(begin->elapsed(), Seconds * 1000)));
+        Q_EMIT Progressed(static_cast<int>(std::min(begin->elapsed(), qint64(Seconds) * 1000)));
     });
     connect(&m_patience, &QTimer::timeout, &m_process, &QProcess::kill);
     QTimer::singleShot(0, this, [this, begin] {

@@ -29,8 +29,8 @@ QFrame* CreateCard(const QString& objectName, QWidget* parent);
 /// set later. The mouse wheel does not change it.
 QComboBox* CreateComboBox(const QString& objectName, const QStringList& values, QWidget* parent);
 
-/// Has \a box offer \a texts with their \a values as data, and selects \a value. A list that is open
-/// stays so where it has nothing new to offer.
+/// Has \a box offer \a texts with their \a values as data, and selects \a value. A list that is
+/// open stays so where it has nothing new to offer.
 void OfferValues(QComboBox& box, const QStringList& texts, const QStringList& values,
                  const QString& value);
 

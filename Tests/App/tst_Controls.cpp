@@ -82,6 +82,26 @@ private Q_SLOTS:
         QTEST(box->currentIndex(), "index");
     }
 
+    void offersOtherValues()
+    {
+        QWidget parent;
+        QComboBox* box = Desktop::CreateComboBox(QStringLiteral("name"), {}, &parent);
+        const QSignalSpy inserted(box->model(), &QAbstractItemModel::rowsInserted);
+        Desktop::OfferValues(*box, {"A", "B"}, {"a", "b"}, "b");
+        QCOMPARE(box->itemText(0), QString("A"));
+        QCOMPARE(box->itemData(0).toString(), QString("a"));
+        QCOMPARE(box->currentText(), QString("B"));
+        QCOMPARE(inserted.count(), 2);
+        // The same are left alone.
+        Desktop::OfferValues(*box, {"A", "B"}, {"a", "b"}, "a");
+        QCOMPARE(box->currentText(), QString("A"));
+        QCOMPARE(inserted.count(), 2);
+        Desktop::OfferValues(*box, {"A", "C", "B"}, {"a", "c", "b"}, "c");
+        QCOMPARE(box->currentText(), QString("C"));
+        QCOMPARE(box->count(), 3);
+        QCOMPARE(box->maxVisibleItems(), 3);
+    }
+
     void leavesListsToTheStyleSheet()
     {
         QWidget parent;
