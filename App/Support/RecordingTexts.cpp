@@ -25,6 +25,7 @@ struct Reason {
 // Those of Schedule::Why, then those of the recorder.
 constexpr Reason Reasons[] = {
     {"late", QT_TRANSLATE_NOOP("RecordingTexts", "it started late")},
+    {"rest", QT_TRANSLATE_NOOP("RecordingTexts", "an earlier part of it broke off")},
     {"recorder-died", QT_TRANSLATE_NOOP("RecordingTexts", "the recorder broke down")},
     {"program-died", QT_TRANSLATE_NOOP("RecordingTexts", "the program ended unexpectedly")},
     {"gave-way", QT_TRANSLATE_NOOP("RecordingTexts", "a task was due")},

@@ -7,10 +7,10 @@
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QPointer>
-#include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
+#include <QStatusBar>
 #include <QTimer>
 
 #include "ApplicationSettings.h"
@@ -22,10 +22,10 @@
 #include "NoticeBar.h"
 #include "PageFrame.h"
 #include "RecorderProgram.h"
+#include "RecordingFooter.h"
 #include "RecordingPage.h"
 #include "RecordingsPage.h"
 #include "SchedulePage.h"
-#include "StatusLine.h"
 
 namespace Zentor::Desktop {
 namespace {
@@ -124,35 +124,15 @@ QWidget* MainWindow::CreatePageColumn(QWidget* parent,
     AddPage(m_generalPage);
 
     m_noticeBar = new NoticeBar(pageColumn);
-    QWidget* footer = CreateFooter(pageColumn);
+    m_footer = new RecordingFooter(pageColumn);
+    m_statusBar = m_footer->StatusBar();
     auto* layout = new QVBoxLayout(pageColumn);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_pages, 1);
     layout->addWidget(m_noticeBar);
-    layout->addWidget(footer);
+    layout->addWidget(m_footer);
     return pageColumn;
-}
-
-QWidget* MainWindow::CreateFooter(QWidget* parent)
-{
-    auto* footer = new QFrame(parent);
-    footer->setObjectName(QStringLiteral("footer"));
-    m_statusBar = new StatusLine(footer);
-    m_statusBar->setSizeGripEnabled(false);
-    m_saveProblemLabel = new ZLabel(m_statusBar);
-    m_saveProblemLabel->setObjectName(QStringLiteral("saveProblemLabel"));
-    // A long reason is shortened; it takes no room from the button.
-    m_saveProblemLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_saveProblemLabel->hide();
-    m_statusBar->addWidget(m_saveProblemLabel, 1);
-    m_startButton = CreateButton(QStringLiteral("startRecordingButton"), footer);
-
-    auto* layout = new QHBoxLayout(footer);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_statusBar, 1);
-    layout->addWidget(m_startButton);
-    return footer;
 }
 
 void MainWindow::AddPage(Page* page)
@@ -174,8 +154,9 @@ void MainWindow::Connect()
             QTimer::singleShot(0, this, &MainWindow::FollowPageList);
         }
     });
-    connect(m_startButton, &QPushButton::clicked, this, &MainWindow::StartRecording);
-    connect(m_store.get(), &PX::SettingsStore::SaveFailed, this, &MainWindow::ShowSaveProblem);
+    connect(m_footer, &RecordingFooter::StartRequested, this, &MainWindow::StartRecording);
+    connect(m_store.get(), &PX::SettingsStore::SaveFailed, m_footer,
+            &RecordingFooter::SetSaveProblem);
     connect(m_store.get(), &PX::SettingsStore::Saved, this, &MainWindow::ForgetSaveProblem);
     connect(m_store.get(), &PX::SettingsStore::NoticeAdded, this, &MainWindow::ShowNotices);
     connect(m_store.get(), &PX::SettingsStore::Changed, this, [this] {
@@ -367,8 +348,7 @@ void MainWindow::Retranslate()
     // What it says is in the language before.
     m_statusBar->clearMessage();
     m_pageList->setAccessibleName(tr("Settings pages"));
-    m_startButton->setText(tr("&Start recording"));
-    m_saveProblemLabel->setOriginalText(m_store->SaveProblem());
+    m_footer->SetSaveProblem(m_store->SaveProblem());
     ShowNotices();
     ShowPageTitles();
     for (PageFrame* frame : qAsConst(m_frames)) {
@@ -417,23 +397,12 @@ void MainWindow::ShowNotices()
     m_noticeBar->SetText(texts.join(QLatin1Char('\n')));
 }
 
-void MainWindow::ShowSaveProblem(const QString& problem)
-{
-    // Not while a message is shown, which would stand in the same place. After the next message,
-    // the status bar shows the problem again.
-    m_statusBar->clearMessage();
-    m_saveProblemLabel->setOriginalText(problem);
-    m_saveProblemLabel->show();
-    AlertScreenReaders(m_saveProblemLabel);
-}
-
 void MainWindow::ForgetSaveProblem()
 {
-    if (m_saveProblemLabel->originalText().isEmpty()) {
+    if (m_footer->SaveProblem().isEmpty()) {
         return;
     }
-    m_saveProblemLabel->setOriginalText({});
-    m_saveProblemLabel->hide();
+    m_footer->SetSaveProblem({});
     m_statusBar->showMessage(tr("Your changes are saved again."), MessageMilliseconds);
 }
 
@@ -478,10 +447,10 @@ bool MainWindow::IsLosingWorkAccepted()
 void MainWindow::changeEvent(QEvent* event)
 {
     // Both arrive for the first time while the window is still being built.
-    if (m_startButton != nullptr && event->type() == QEvent::LanguageChange) {
+    if (m_footer != nullptr && event->type() == QEvent::LanguageChange) {
         Retranslate();
     }
-    if (m_startButton != nullptr && event->type() == QEvent::PaletteChange) {
+    if (m_footer != nullptr && event->type() == QEvent::PaletteChange) {
         UpdateIcons();
     }
     QMainWindow::changeEvent(event);
@@ -506,8 +475,8 @@ void MainWindow::closeEvent(QCloseEvent* event)
     const QPointer<MainWindow> self(this);
     // What is unfinished in a hidden window waits for the next start.
     const bool isFinished = !isVisible() || CurrentPage()->FinishInput();
-    const bool isAccepted = isFinished && !self.isNull() && IsLosingWorkAccepted()
-        && !self.isNull() && (SaveChanges() || IsClosingWithoutSavingAccepted());
+    const bool isAccepted = isFinished && !self.isNull() && IsLosingWorkAccepted() && !self.isNull()
+        && (SaveChanges() || IsClosingWithoutSavingAccepted());
     if (isAccepted && !self.isNull()) {
         event->accept();
         Q_EMIT Closed();

@@ -10,12 +10,10 @@
 
 class QFrame;
 class QListWidget;
-class QPushButton;
 class QStackedWidget;
 class QStatusBar;
 
 namespace Zentor {
-class ZLabel;
 namespace App {
 class ILookAndFeelManager;
 }
@@ -34,6 +32,7 @@ class GeneralPage;
 class NoticeBar;
 class Page;
 class PageFrame;
+class RecordingFooter;
 class RecordingsPage;
 class SchedulePage;
 
@@ -79,6 +78,9 @@ public:
     /// Brings the window to the front, and with it the box that it waits for.
     void Raise();
 
+    /// The foot of the window, which shows what is recorded and asks for more.
+    RecordingFooter* Footer() const { return m_footer; }
+
     /// Saves everything without a question: the program is about to be ended. A task form that is
     /// open is remembered as it is. Whether everything is saved.
     bool SaveUnattended();
@@ -100,7 +102,6 @@ private:
     QWidget* CreateSidebar(QWidget* parent);
     QWidget* CreatePageColumn(QWidget* parent,
                               const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel);
-    QWidget* CreateFooter(QWidget* parent);
     void AddPage(Page* page);
     void Connect();
     void ConnectPages();
@@ -125,7 +126,6 @@ private:
     void ShowNotices();
     /// Saves what the user has changed, and the place of the window. Whether the former is saved.
     bool SaveChanges();
-    void ShowSaveProblem(const QString& problem);
     void ForgetSaveProblem();
     bool IsClosingWithoutSavingAccepted();
     /// Whether nothing is lost when the program ends, or the user agrees.
@@ -145,9 +145,8 @@ private:
     NoticeBar* m_noticeBar = nullptr;
     /// How many of the store's notices the user has closed.
     std::size_t m_readNotices = 0;
+    RecordingFooter* m_footer = nullptr;
     QStatusBar* m_statusBar = nullptr;
-    ZLabel* m_saveProblemLabel = nullptr;
-    QPushButton* m_startButton = nullptr;
     /// What the status line said last of settings that have not been changed since.
     QString m_readyMessage;
     bool m_isSidebarNarrow = false;

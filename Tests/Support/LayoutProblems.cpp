@@ -93,7 +93,9 @@ QSize NeededBy(const QLabel& label, int width)
 /// Whether \a label may shorten its text, which is the user's, and tells the whole in its tip.
 bool IsShortenedWithTip(const QLabel& label)
 {
-    const QStringList shortened{Desktop::PanelPart::RowTitle, QStringLiteral("saveProblemLabel")};
+    const QStringList shortened{Desktop::PanelPart::RowTitle, QStringLiteral("saveProblemLabel"),
+                                QStringLiteral("recordingHeadlineLabel"),
+                                QStringLiteral("recordingNoteLabel")};
     return shortened.contains(label.objectName()) && label.inherits("Zentor::ZLabel")
         && !label.toolTip().isEmpty();
 }
