@@ -38,7 +38,8 @@ LAYERS = [
     (["App/Window"], PAGES),
     (["App/Tour"], PAGES),
     (["App/Tray"], SUPPORT + ["App/Appearance"]),
-    (["App/Start"], PAGES + ["App/Window", "App/Tour", "App/Tray"]),
+    (["App/Notices"], SUPPORT),
+    (["App/Start"], PAGES + ["App/Window", "App/Tour", "App/Tray", "App/Notices"]),
 ]
 # What a header's name in an #include is relative to, where that is not its own folder.
 SEARCHED = dict({folder: "Host" for folder in CORE + HOST}, **{"Schedule/System": "Schedule"})
