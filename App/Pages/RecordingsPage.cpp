@@ -309,7 +309,7 @@ void RecordingsPage::ShowListProblem()
 void RecordingsPage::ShowMenu(const QPoint& place)
 {
     const auto row = CurrentRow();
-    if (!row) {
+    if (!row || !m_view->indexAt(place).isValid()) {
         return;
     }
     const Abilities abilities = AbilitiesOf(*row);
@@ -328,7 +328,7 @@ void RecordingsPage::ShowMenu(const QPoint& place)
     }
     menu->addSeparator();
     add(m_removeButton);
-    // By the keyboard, the place is anywhere.
+    // Other than by the mouse, the place may be that of another row.
     const QRect item = m_view->visualRect(m_view->currentIndex());
     menu->popup(m_view->viewport()->mapToGlobal(item.contains(place) ? place : item.center()));
 }

@@ -1,6 +1,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QToolButton>
 
 #include "AppWindow.h"
 #include "Boxes.h"

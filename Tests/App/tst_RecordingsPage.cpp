@@ -302,6 +302,27 @@ private Q_SLOTS:
         QTRY_VERIFY(QApplication::activePopupWidget() == nullptr);
     }
 
+    void hasNoMenuBelowTheRows()
+    {
+        Select("Lecture", "a.mkv");
+        Q_EMIT View()->customContextMenuRequested(View()->viewport()->rect().bottomLeft());
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
+    }
+
+    void tabsInReadingOrder()
+    {
+        Select("Lecture", "a.mkv", Outcome::Partial, Schedule::Why::ProgramDied);
+        QTRY_VERIFY(Button("repairRecordingButton")->isEnabled());
+        QStringList stops;
+        for (int stop = 0; stop < 5; ++stop) {
+            stops << m_page->focusWidget()->objectName();
+            QTest::keyClick(m_page->windowHandle(), Qt::Key_Tab);
+        }
+        QCOMPARE(stops,
+                 (QStringList{"recordingsList", "openRecordingButton", "showRecordingButton",
+                              "repairRecordingButton", "removeRecordingButton"}));
+    }
+
     void makesPicturesOfWhatIsInView()
     {
         QImage(4, 3, QImage::Format_RGB32).save(Path("sample.png"));
