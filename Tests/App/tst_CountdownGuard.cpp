@@ -19,7 +19,7 @@ public:
         : layout(&window)
         , nowButton(QStringLiteral("&Now"))
         , otherButton(QStringLiteral("&Other"))
-        , shortcut(QKeySequence(Qt::CTRL + Qt::Key_W), &window)
+        , shortcut(QKeySequence(QStringLiteral("Ctrl+W")), &window)
         , guard(&nowButton)
         , cancelled(&guard, &Desktop::CountdownGuard::Cancelled)
         , now(&nowButton, &QPushButton::clicked)

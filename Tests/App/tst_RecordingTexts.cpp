@@ -46,9 +46,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("reason");
         namespace Why = Schedule::Why;
         for (const QString& reason :
-             {Why::Late, Why::RecorderDied, Why::ProgramDied, Why::GaveWay, Why::ShutDown,
-              Why::Suspended, Why::NotRunning, Why::ScheduleOff, Why::ClockSet, Why::OtherRecording,
-              Why::ScreenMissing, Why::Skipped, Why::User, Why::NoRecorder}) {
+             {Why::Late, Why::Rest, Why::RecorderDied, Why::ProgramDied, Why::GaveWay,
+              Why::ShutDown, Why::Suspended, Why::NotRunning, Why::ScheduleOff, Why::ClockSet,
+              Why::OtherRecording, Why::ScreenMissing, Why::Skipped, Why::User, Why::NoRecorder}) {
             QTest::newRow(qPrintable(reason)) << reason;
         }
         // Of the recorder.
