@@ -140,7 +140,9 @@ struct Notice {
         /// The task `title` is not started, as no more than `freeBytes` are free.
         NoRoom,
         /// A service of the desktop is missing: `text` says what will not work.
-        Unavailable
+        Unavailable,
+        /// The window was closed, and the program runs on.
+        RunsOn
     };
 
     Kind kind;

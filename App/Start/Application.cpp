@@ -20,13 +20,12 @@
 #include "BackgroundSettings.h"
 #include "CommandLine.h"
 #include "CoreInt/Printable.h"
-#include "CountPendingTasks.h"
-#include "CrashCheck.h"
 #include "DefaultSettingsFile.h"
 #include "Instance.h"
 #include "Languages.h"
 #include "Log.h"
 #include "MainWindow.h"
+#include "RecordingControl.h"
 #include "RecordingSettings.h"
 #include "RecordingsList.h"
 #include "Resources.h"
@@ -146,33 +145,28 @@ void ConnectTray(const TrayIcon& tray, MainWindow& window, Instance& instance)
     QObject::connect(&tray, &TrayIcon::PauseRequested, &instance, &Instance::PauseRequested);
 }
 
-PendingWork PendingWorkIn(const PX::SettingsStore& store)
+int RunWindow(const std::shared_ptr<PX::SettingsStore>& store,
+              const std::shared_ptr<Schedule::RecordingsList>& recordings, MainWindow& window,
+              Instance& instance, const CommandLine& line)
 {
-    return {false, Schedule::CountPendingTasks(store.Settings(), Time::SystemClock().Now())};
-}
-
-int RunWindow(const PX::SettingsStore& store, MainWindow& window, Instance& instance,
-              const CommandLine& line)
-{
-    QObject::connect(&instance, &Instance::Activated, &window,
-                     [&](const QVariantMap& platformData) { Raise(window, platformData); });
+    const auto raise = [&](const QVariantMap& platformData) { Raise(window, platformData); };
+    QObject::connect(&instance, &Instance::Activated, &window, raise);
+    TrayIcon tray;
+    ConnectTray(tray, window, instance);
+    RecordingControl control(store, recordings, window, tray, instance);
+    QObject::connect(&control, &RecordingControl::WindowRequested, &window,
+                     [&](const QString& token) {
+                         raise({{QStringLiteral("activation-token"), token}});
+                     });
     const TerminationSignals signalsToEnd;
     // Also out of the loop of an open box, whose question stays unanswered.
-    const auto endUnattended = [&] {
-        QCoreApplication::exit(window.SaveUnattended() ? 0 : ExitFailed);
-    };
-    QObject::connect(&signalsToEnd, &TerminationSignals::Received, &window, endUnattended);
-    QObject::connect(&instance, &Instance::QuitRequested, &window, endUnattended);
+    QObject::connect(&signalsToEnd, &TerminationSignals::Received, &control,
+                     &RecordingControl::End);
     FollowSession(window);
-    const TrayIcon tray;
-    ConnectTray(tray, window, instance);
-    window.AskBeforeClosing([&] { return PendingWorkIn(store); },
-                            [&] { return tray.IsAvailable(); });
-    QObject::connect(&instance, &Instance::StartRequested, &window, &MainWindow::StartRecording);
+    window.AskBeforeClosing([&] { return control.Work(); }, [&] { return tray.IsAvailable(); });
     // A hidden window is not the end, nor is a box that is closed over one.
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    QObject::connect(&window, &MainWindow::Closed, qGuiApp, &QCoreApplication::quit,
-                     Qt::QueuedConnection);
+    control.Begin();
     if (!line.isHidden) {
         window.show();
     }
@@ -182,13 +176,12 @@ int RunWindow(const PX::SettingsStore& store, MainWindow& window, Instance& inst
     return QApplication::exec();
 }
 
-/// The list that belongs to \a settingsFile, with what a crash has left in it settled.
+/// The list that belongs to \a settingsFile.
 std::shared_ptr<Schedule::RecordingsList> OpenRecordings(const QString& settingsFile)
 {
     const auto list =
         std::make_shared<Schedule::RecordingsList>(Schedule::RecordingsList::PathFor(settingsFile));
     list->Open();
-    Schedule::CheckAfterCrash(*list);
     return list;
 }
 
@@ -210,9 +203,10 @@ int RunOn(const QString& file, const CommandLine& line, Instance* instance)
     Appearance appearance(store, lookAndFeel, {line.language, line.theme});
     MainWindow window(store, lookAndFeel);
     window.Follow(appearance);
-    window.ShowRecordings(OpenRecordings(file));
+    const auto recordings = OpenRecordings(file);
+    window.ShowRecordings(recordings);
     return instance == nullptr ? RunTour(window, line.screenshotsFolder)
-                               : RunWindow(*store, window, *instance, line);
+                               : RunWindow(store, recordings, window, *instance, line);
 }
 
 /// Runs the tour on a copy: it deletes tasks, which it must not do to the user's own.

@@ -162,6 +162,11 @@ NoticeText TextOfSystem(const Notice& notice)
                     .arg(SizeText(notice.neededBytes), SizeText(notice.freeBytes)),
                 {},
                 true};
+    case Notice::Kind::RunsOn:
+        return {Text::tr("The program runs on"),
+                Text::tr("Its icon shows the window again. You can change this on the page "
+                         "\"General\"."),
+                {}};
     default:
         return {Text::tr("Not everything works on this desktop"), told, {}};
     }

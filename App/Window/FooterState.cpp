@@ -1,5 +1,6 @@
 #include "FooterState.h"
 
+#include "CoreInt/Printable.h"
 #include <algorithm>
 
 #include <QCoreApplication>
@@ -162,6 +163,14 @@ FooterState FooterStateOf(const RunnerStatus& status, Moment now)
         state.event = state.headline;
     }
     return state;
+}
+
+QString EventText(const FooterState& state)
+{
+    const bool isIdle = state.event.isEmpty();
+    return QString(isIdle ? state.noteEvent : state.event)
+        .replace(SentenceLabel::TitleMark(),
+                 Util::PrintableText(isIdle ? state.noteTitle : state.title));
 }
 
 } // namespace Zentor::Desktop

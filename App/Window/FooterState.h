@@ -33,6 +33,9 @@ struct FooterState {
     std::optional<std::chrono::milliseconds> untilChange;
 };
 
+/// What happens, or else what comes next, in plain text without what changes each second.
+QString EventText(const FooterState& state);
+
 /// The footer's state at \a now.
 FooterState FooterStateOf(const Schedule::RunnerStatus& status, Schedule::Moment now);
 

@@ -160,12 +160,6 @@ void MainWindow::Connect()
             &RecordingFooter::SetSaveProblem);
     connect(m_store.get(), &PX::SettingsStore::Saved, this, &MainWindow::ForgetSaveProblem);
     connect(m_store.get(), &PX::SettingsStore::NoticeAdded, this, &MainWindow::ShowNotices);
-    connect(m_store.get(), &PX::SettingsStore::Changed, this, [this] {
-        // It was said of the settings before.
-        if (m_statusBar->currentMessage() == m_readyMessage) {
-            m_statusBar->clearMessage();
-        }
-    });
     connect(m_noticeBar, &NoticeBar::CloseRequested, this, [this] {
         m_readNotices = m_store->Notices().size();
         ShowNotices();
@@ -203,9 +197,18 @@ void MainWindow::StartRecording()
     const QPointer<MainWindow> self(this);
     const bool isReady = m_schedulePage->ValidateSettings();
     if (!self.isNull() && isReady && !ShowPageProblem()) {
-        m_readyMessage = tr("Ready to record");
-        Announce(m_statusBar, m_readyMessage, MessageMilliseconds);
+        Q_EMIT RecordingRequested();
     }
+}
+
+void MainWindow::RemoveTask(const PX::RecordTime& task)
+{
+    m_schedulePage->RemoveTask(task);
+}
+
+void MainWindow::Tell(const QString& text)
+{
+    Announce(m_statusBar, text, MessageMilliseconds);
 }
 
 bool MainWindow::ShowPageProblem()
@@ -450,6 +453,7 @@ void MainWindow::changeEvent(QEvent* event)
     // Both arrive for the first time while the window is still being built.
     if (m_footer != nullptr && event->type() == QEvent::LanguageChange) {
         Retranslate();
+        Q_EMIT LanguageChanged();
     }
     if (m_footer != nullptr && event->type() == QEvent::PaletteChange) {
         UpdateIcons();
@@ -461,6 +465,12 @@ void MainWindow::resizeEvent(QResizeEvent* event)
 {
     FitWidth();
     QMainWindow::resizeEvent(event);
+}
+
+void MainWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    Q_EMIT Shown();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

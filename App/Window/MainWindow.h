@@ -19,7 +19,8 @@ class ILookAndFeelManager;
 }
 namespace PX {
 class SettingsStore;
-}
+struct RecordTime;
+} // namespace PX
 namespace Schedule {
 class RecordingsList;
 }
@@ -72,8 +73,15 @@ public:
     /// would be missed, and about changes that cannot be saved. Closed() is sent when it ends.
     void Quit();
 
-    /// Starts a recording when the panel has nothing against it.
+    /// Sends RecordingRequested() when neither the panel nor a page has anything against a
+    /// recording. The user may be asked.
     void StartRecording();
+
+    /// Takes \a task out of the list of the panel, which is over.
+    void RemoveTask(const PX::RecordTime& task);
+
+    /// Shows \a text for a while, and has screen readers say it.
+    void Tell(const QString& text);
 
     /// Brings the window to the front, and with it the box that it waits for.
     void Raise();
@@ -86,6 +94,11 @@ public:
     bool SaveUnattended();
 
 Q_SIGNALS:
+    /// A recording is to be started by hand.
+    void RecordingRequested();
+    void Shown();
+    /// The texts of the window are those of another language.
+    void LanguageChanged();
     /// The user has closed the window for good, and everything is saved that could be.
     void Closed();
     /// The window has been hidden by closing it, for the first time since the user was told of it.
@@ -96,6 +109,7 @@ protected:
     /// Hides or minimizes the window where the program is to run on, otherwise ends as Quit() does.
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void BuildWidgets(const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel);
@@ -147,8 +161,6 @@ private:
     std::size_t m_readNotices = 0;
     RecordingFooter* m_footer = nullptr;
     QStatusBar* m_statusBar = nullptr;
-    /// What the status line said last of settings that have not been changed since.
-    QString m_readyMessage;
     bool m_isSidebarNarrow = false;
     bool m_isAskingAboutInput = false;
     std::function<PendingWork()> m_workNow = [] { return PendingWork(); };

@@ -339,6 +339,11 @@ bool RecordingFooter::IsAccidental(const QObject* button, const QEvent& event) c
     }
 }
 
+QWidget* RecordingFooter::NowButton() const
+{
+    return m_nowButton;
+}
+
 void RecordingFooter::SetSaveProblem(const QString& problem)
 {
     m_saveProblemLabel->setOriginalText(problem);

@@ -39,6 +39,9 @@ public:
     /// what is recorded.
     QStatusBar* StatusBar() const { return m_statusBar; }
 
+    /// The button that sends NowRequested().
+    QWidget* NowButton() const;
+
     /// Says why the user's changes could not be saved, until that is cleared by an empty text.
     void SetSaveProblem(const QString& problem);
     QString SaveProblem() const;
