@@ -25,7 +25,7 @@ packages_to_test=(
     qtbase5-private-dev
     xvfb xauth xdotool openbox
     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils
-    dbus at-spi2-core python3-gi gir1.2-atspi-2.0
+    dbus at-spi2-core python3-gi gir1.2-atspi-2.0 python3-dbusmock procps libglib2.0-bin
     appstream desktop-file-utils man-db
     ffmpeg gstreamer1.0-libav
     pipewire pipewire-bin pipewire-pulse wireplumber pulseaudio-utils)

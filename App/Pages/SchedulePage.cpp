@@ -61,9 +61,7 @@ QString SchedulePage::Title() const
 
 QString SchedulePage::Description() const
 {
-    return tr(
-        "Choose when a recording stops or starts by itself. Your choice is kept; this version "
-        "does not record yet.");
+    return tr("Choose when a recording stops by itself, and which recordings start by themselves.");
 }
 
 void SchedulePage::CreatePanel()

@@ -63,7 +63,7 @@ configure_file(Support/translations.qrc.in translations.qrc @ONLY)
 # tree: cmake --build <folder> --target update-translations
 list(TRANSFORM translation_sources PREPEND App/)
 add_custom_target(update-translations
-    COMMAND Qt5::lupdate -no-obsolete -locations none App Host Lib -ts ${translation_sources}
+    COMMAND Qt5::lupdate -no-obsolete -locations none App Host Lib Schedule -ts ${translation_sources}
     WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
     VERBATIM)
 

@@ -239,7 +239,7 @@ private:
         process.setProcessChannelMode(QProcess::MergedChannels);
         process.start(QStringLiteral(PX_LUPDATE),
                       {QStringLiteral("App"), QStringLiteral("Host"), QStringLiteral("Lib"),
-                       QStringLiteral("-ts"), path});
+                       QStringLiteral("Schedule"), QStringLiteral("-ts"), path});
         QVERIFY(process.waitForFinished());
         QVERIFY2(process.exitCode() == 0, process.readAll().constData());
         m_extracted = Keys(ReadEntries(path));

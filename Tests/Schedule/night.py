@@ -26,8 +26,17 @@ LONGEST_GAP_SECONDS = 1
 COUNTDOWN_SECONDS = 3
 AREA = {"x": 100, "y": 50, "width": 320, "height": 240}
 SPEAKERS = "speakers"
+# What the desktop tells of each task, in this order.
+WHOLE = ["is about to be recorded", "is being recorded", "has been recorded"]
 NOTIFICATIONS = {
-    "Area": [], "Back to back": [], "Killed": [], "Missed": [], "Quit": [], "Shut down": []}
+    "Area": WHOLE,
+    "Back to back": WHOLE,
+    "Killed": ["is about to be recorded", "is being recorded", "has been recorded in part",
+               "is being recorded", "has been recorded in part"],
+    # It is announced before the program is stopped.
+    "Missed": ["is about to be recorded", "has not been recorded"],
+    "Quit": WHOLE,
+    "Shut down": WHOLE}
 
 
 class Night:
@@ -84,10 +93,13 @@ class Night:
         return re.findall(r"^\S+ ((?:PowerOff|Reboot|Suspend|Hibernate)\b.*)$",
                           self.read("logind.log"), re.MULTILINE)
 
-    def notifications(self):
-        """Returns the titles of all notifications."""
-        return re.findall(r'^\S+ Notify "[^"]*" \d+ "[^"]*" "([^"]*)"',
-                          self.read("notifications.log"), re.MULTILINE)
+    def notifications(self, title):
+        """Returns the headings of the notifications about a task, without its title."""
+        headings = re.findall(r'^\S+ Notify "[^"]*" \d+ "[^"]*" "([^"]*)"',
+                              self.read("notifications.log"), re.MULTILINE)
+        # Titles are isolated from the text around them.
+        quoted = "\u201c\u2068%s\u2069\u201d " % title if title else ""
+        return [text[len(quoted):] for text in headings if text.startswith(quoted)]
 
     def check(self, what, found, expected):
         print("%-60s %s" % (what, found), flush=True)
@@ -168,11 +180,11 @@ def check_recordings(night, first):
 
 
 def check_services(night):
-    night.check("calls to logind", night.logind_calls(), ["PowerOff true"])
-    print(night.read("logind.log"), night.read("notifications.log"))
-    for title in ("Area", "Back to back", "Killed", "Missed", "Quit", "Shut down"):
-        night.check(title + ": notifications",
-                    [text for text in night.notifications() if title in text], NOTIFICATIONS[title])
+    night.check("calls to logind", night.logind_calls(), ["PowerOff True"])
+    for title, expected in NOTIFICATIONS.items():
+        night.check(title + ": notifications", night.notifications(title), expected)
+    night.check("countdowns", [text for text in night.notifications("") if "shuts down" in text],
+                ["The computer shuts down in %d s" % COUNTDOWN_SECONDS])
     held = night.surroundings.run("gdbus", "call", "--system", "--dest", "org.freedesktop.login1",
                                   "--object-path", "/org/freedesktop/login1", "--method",
                                   "org.freedesktop.login1.Manager.ListInhibitors").stdout
