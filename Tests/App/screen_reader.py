@@ -6,6 +6,7 @@ duplicate, corrects it, deletes it. Runs itself in a session of its own, on a di
 sees. Ends with 77 where what it needs is not installed.
 """
 
+import json
 import os
 import shutil
 import subprocess
@@ -19,6 +20,7 @@ PATIENCE_SECONDS = 60
 BUS_MILLISECONDS = 2000
 START_MILLISECONDS = 15000
 HEAD_START_SECONDS = 5
+HOUR_SECONDS = 3600
 INSIDE = "PX_SCREEN_READER_SESSION"
 
 
@@ -146,12 +148,23 @@ def run_scenario(app):
     app.find(button, "Delete Standup")
 
 
+def write_settings(folder):
+    """Plans a task that runs all day: what the scenario adds is tomorrow, and not recorded."""
+    path = os.path.join(folder, "settings.json")
+    lecture = {"title": "Lecture", "start": int(time.time() - HOUR_SECONDS) * 1000000,
+               "duration": 23 * HOUR_SECONDS * 1000000, "screenIndex": 0}
+    with open(path, "w", encoding="utf-8") as file:
+        json.dump({"version": 1, "paths": {"resultsFolder": folder},
+                   "scheduledCapture": {"enabled": True, "tasks": [lecture]}}, file)
+    return path
+
+
 def main():
     program = sys.argv[1]
     Atspi.set_timeout(BUS_MILLISECONDS, START_MILLISECONDS)
     with tempfile.TemporaryDirectory() as folder:
         process = subprocess.Popen(
-            [program, "--language", "en", "--settings", os.path.join(folder, "settings.json")])
+            [program, "--language", "en", "--settings", write_settings(folder)])
         # A list of programs that is looked at before the program is in it stays without it.
         time.sleep(HEAD_START_SECONDS)
         try:
