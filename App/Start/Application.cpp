@@ -28,6 +28,7 @@
 #include "RecordingControl.h"
 #include "RecordingSettings.h"
 #include "RecordingsList.h"
+#include "RecordingTour.h"
 #include "Resources.h"
 #include "ScreenshotTour.h"
 #include "TerminationSignals.h"
@@ -80,6 +81,7 @@ int RunTour(MainWindow& window, const QString& folder)
     QString problem;
     ScreenshotTour tour(window, folder);
     WriteTourScript(tour);
+    WriteRecordingTour(tour, window);
     QObject::connect(
         &tour, &ScreenshotTour::Finished, &window,
         [&](const QString& reason) {
@@ -205,8 +207,11 @@ int RunOn(const QString& file, const CommandLine& line, Instance* instance)
     window.Follow(appearance);
     const auto recordings = OpenRecordings(file);
     window.ShowRecordings(recordings);
-    return instance == nullptr ? RunTour(window, line.screenshotsFolder)
-                               : RunWindow(store, recordings, window, *instance, line);
+    if (instance != nullptr) {
+        return RunWindow(store, recordings, window, *instance, line);
+    }
+    AddSampleRecordings(*recordings, QFileInfo(file).path());
+    return RunTour(window, line.screenshotsFolder);
 }
 
 /// Runs the tour on a copy: it deletes tasks, which it must not do to the user's own.

@@ -122,6 +122,14 @@ void ScreenshotTour::WaitFor(const QString& state, std::function<bool()> isReach
     AddStep(state, std::move(isReached));
 }
 
+void ScreenshotTour::Do(const QString& what, const std::function<void()>& action)
+{
+    AddStep(what, [action] {
+        action();
+        return true;
+    });
+}
+
 void ScreenshotTour::PointAt(const QString& objectName)
 {
     AddStep(QStringLiteral("the mouse on %1").arg(objectName), [objectName] {

@@ -36,6 +36,8 @@ public:
 
     /// Waits until \a isReached. \a state names what is waited for, in the message of a failure.
     void WaitFor(const QString& state, std::function<bool()> isReached);
+    /// Calls \a action, which \a what names.
+    void Do(const QString& what, const std::function<void()>& action);
     /// Moves the mouse onto the widget called \a objectName, once it is on screen.
     void PointAt(const QString& objectName);
     /// Moves the mouse away from everything, to the lower right corner of the window.

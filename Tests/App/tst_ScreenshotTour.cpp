@@ -34,7 +34,12 @@ QStringList ExpectedPictures()
             QStringLiteral("16-full-disk.png"),
             QStringLiteral("17-general.png"),
             QStringLiteral("18-general-languages.png"),
-            QStringLiteral("19-recording.png")};
+            QStringLiteral("19-recording.png"),
+            QStringLiteral("20-recordings.png"),
+            QStringLiteral("21-next-task.png"),
+            QStringLiteral("22-task-is-recorded.png"),
+            QStringLiteral("23-paused.png"),
+            QStringLiteral("24-countdown.png")};
 }
 
 int RunProgram(const QStringList& arguments, QString* error = nullptr)
