@@ -60,15 +60,15 @@ RunnerStatus::Phase PhaseOf(const RecordingSession& session)
     }
 }
 
-/// How long to wait after the last of \a failures in a row.
-Length DelayAfter(int failures, bool isDeath)
+/// How long to wait after the last of \a breaks in a row.
+Length DelayAfter(int breaks, bool isFirstAtOnce)
 {
     constexpr int mostDoublings = 5;
     constexpr seconds longest{30};
-    if (isDeath && failures == 1) {
+    if (isFirstAtOnce && breaks == 1) {
         return Length::zero();
     }
-    return std::min<Length>(seconds(1 << std::min(failures - 1, mostDoublings)), longest);
+    return std::min<Length>(seconds(1 << std::min(breaks - 1, mostDoublings)), longest);
 }
 
 } // namespace
@@ -740,6 +740,9 @@ void ScheduleRunner::OnFinished(RecordingId id, const RecordingResult& result, c
         // It may have reached its end while it was being stopped.
         const bool isUsers = session.end == End::User || session.end == End::Withdrawn;
         Settle(session, isWhole && !isUsers && verdict.reason != Why::Suspended);
+    } else {
+        // A display may be reported present and end each recording all the same.
+        PutOff(session, true);
     }
     Evaluate(now);
 }
@@ -801,17 +804,14 @@ void ScheduleRunner::Break(Session session, const QString& reason, const QString
         // Nothing was recorded, and nothing was to be.
         return;
     }
-    const bool wasLong =
-        session.HasFrames() && m_now.sinceBoot - session.started.sinceBoot >= LongRecording;
     if (session.isTask) {
-        BreakTask(session, reason, wasLong, isDeath);
+        BreakTask(session, reason, isDeath);
     } else {
-        BreakByHand(session, reason, wasLong);
+        BreakByHand(session, reason);
     }
 }
 
-void ScheduleRunner::BreakTask(const Session& session, const QString& reason, bool wasLong,
-                               bool isDeath)
+void ScheduleRunner::BreakTask(const Session& session, const QString& reason, bool isDeath)
 {
     const bool isOver = session.end != End::None || session.TaskEnd() <= m_now.wall;
     if (isOver && session.HasFrames()) {
@@ -820,17 +820,31 @@ void ScheduleRunner::BreakTask(const Session& session, const QString& reason, bo
         return;
     }
     TaskNote& note = NoteOf(session.task);
-    note.failures = wasLong ? 1 : note.failures + 1;
+    note.failures = WasLong(session) ? 1 : note.failures + 1;
     note.failure = reason;
-    note.notBefore = m_now.sinceBoot + DelayAfter(note.failures, isDeath);
+    PutOff(session, isDeath);
     if (note.failures == 1 && !isOver) {
         Tell(Notice::Kind::Failed, session, true);
     }
 }
 
-void ScheduleRunner::BreakByHand(Session session, const QString& reason, bool wasLong)
+/// Has the rest of a task wait, longer each time, after \a session broke off.
+void ScheduleRunner::PutOff(const Session& session, bool isFirstAtOnce)
 {
-    m_breaksByHand = wasLong ? 1 : m_breaksByHand + 1;
+    TaskNote& note = NoteOf(session.task);
+    note.breaks = WasLong(session) ? 1 : note.breaks + 1;
+    note.notBefore = m_now.sinceBoot + DelayAfter(note.breaks, isFirstAtOnce);
+}
+
+/// Whether \a session, which has just ended, recorded long enough to be no part of a series.
+bool ScheduleRunner::WasLong(const Session& session) const
+{
+    return session.HasFrames() && m_now.sinceBoot - session.started.sinceBoot >= LongRecording;
+}
+
+void ScheduleRunner::BreakByHand(Session session, const QString& reason)
+{
+    m_breaksByHand = WasLong(session) ? 1 : m_breaksByHand + 1;
     if (!session.HasFrames()) {
         session.entry = {TitleByHand, m_now.wall, m_now.wall, Outcome::Failed, QString(), reason};
         m_ports.recordings.Add(session.entry);

@@ -132,6 +132,9 @@ private:
         /// How often the recorder has failed or died in a row, and why last.
         int failures = 0;
         QString failure;
+        /// How often its recording broke off in a row, those included that the recorder ended in
+        /// good order.
+        int breaks = 0;
         /// Of the next attempt, by Instant::sinceBoot.
         Length notBefore{0};
     };
@@ -180,8 +183,10 @@ private:
     void List(Session& session, Moment firstFrame, const QString& file);
     void Close(Session& session, const Verdict& verdict, const QString& file);
     void Break(Session session, const QString& reason, const QString& file, bool isDeath);
-    void BreakTask(const Session& session, const QString& reason, bool wasLong, bool isDeath);
-    void BreakByHand(Session session, const QString& reason, bool wasLong);
+    void BreakTask(const Session& session, const QString& reason, bool isDeath);
+    void PutOff(const Session& session, bool isFirstAtOnce);
+    bool WasLong(const Session& session) const;
+    void BreakByHand(Session session, const QString& reason);
     bool ContinueByHand(const Session& broken);
     void Settle(const Session& session, bool mayAct);
     void RemoveTask(const PX::RecordTime& task);

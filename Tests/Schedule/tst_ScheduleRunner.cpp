@@ -486,6 +486,48 @@ finished 2 duration 30
 > 160 remove A
 > 160 let sleep
 )"},
+    {"waits longer each time when its screen is there and ends each recording", R"(
+task A 100 60 1
+at 100
+> 90 prepare 1 A screen 1 of 100
+> 90 tell starts soon A
+> 90 hold awake
+ready 1
+> 100 start 1 now for 60
+recording 1
+> 100 list 1 A 100..100 recording file1
+> 100 tell started A
+at 102
+finished 1 no-display 2
+> 102 update 1 A 100..102 partial no-display file1
+> 102 tell ended A goes on
+> 102 prepare 2 A screen 1 of 102
+ready 2
+> 102 start 2 now for 58
+recording 2
+> 102 list 2 A 102..102 recording file2
+> 102 tell started A
+finished 2 no-display 0
+> 102 update 2 A 102..102 partial no-display file2
+> 102 tell ended A goes on
+> 102 let sleep
+at 103.9
+at 105
+> 104 prepare 3 A screen 1 of 104
+> 104 hold awake
+ready 3
+> 105 start 3 now for 55
+recording 3
+> 105 list 3 A 105..105 recording file3
+> 105 tell started A
+finished 3 no-display 0
+> 105 update 3 A 105..105 partial no-display file3
+> 105 tell ended A goes on
+> 105 let sleep
+at 110
+> 109 prepare 4 A screen 1 of 109
+> 109 hold awake
+)"},
     {"is over with its end when its screen does not come back", R"(
 task A 100 60 1
 at 100

@@ -643,7 +643,9 @@ void RunnerModel::OnFinished(RecordingId id, const QString& reason, Length lengt
     const bool isOver =
         isWhole || cause != Cause::None || !attempt->isTask || EndOf(attempt->task) <= now.wall;
     TellOf(Notice::Kind::Ended, *attempt, !isOver);
-    if (isOver && attempt->isTask) {
+    if (!isOver) {
+        WaitAfter(*attempt, now.sinceBoot - attempt->first.sinceBoot >= seconds(30), true);
+    } else if (attempt->isTask) {
         RemoveTask(attempt->task);
     }
     if (isWhole && verdict.second != Why::Suspended && cause != Cause::User
@@ -713,13 +715,20 @@ void RunnerModel::BreakTask(const Attempt& attempt, const QString& reason, bool 
     Memory& memory = MemoryOf(attempt.task);
     memory.failures = wasLong ? 1 : memory.failures + 1;
     memory.failure = reason;
-    static constexpr int delays[] = {1, 2, 4, 8, 16, 30};
-    const int delay =
-        isDeath && memory.failures == 1 ? 0 : delays[std::min(memory.failures, 6) - 1];
-    memory.retryAt = m_now.sinceBoot + seconds(delay);
+    WaitAfter(attempt, wasLong, isDeath);
     if (memory.failures == 1 && !isOver) {
         TellOf(Notice::Kind::Failed, attempt, true);
     }
+}
+
+void RunnerModel::WaitAfter(const Attempt& attempt, bool wasLong, bool isFirstFree)
+{
+    static constexpr int delays[] = {1, 2, 4, 8, 16, 30};
+    Memory& memory = MemoryOf(attempt.task);
+    memory.breaks = wasLong ? 1 : memory.breaks + 1;
+    const bool isFree = isFirstFree && memory.breaks == 1;
+    memory.retryAt =
+        m_now.sinceBoot + seconds(isFree ? 0 : delays[std::min(memory.breaks, 6) - 1]);
 }
 
 void RunnerModel::BreakByHand(Attempt attempt, const QString& reason, bool wasLong)

@@ -88,6 +88,7 @@ private:
         QString obstacle;
         int failures = 0;
         QString failure;
+        int breaks = 0;
         Schedule::Length retryAt{0};
     };
 
@@ -133,6 +134,7 @@ private:
     void Break(Schedule::RecordingId id, const QString& reason, const QString& file, bool isDeath,
                const Schedule::Instant& now);
     void BreakTask(const Attempt& attempt, const QString& reason, bool isDeath, bool wasLong);
+    void WaitAfter(const Attempt& attempt, bool wasLong, bool isFirstFree);
     void BreakByHand(Attempt attempt, const QString& reason, bool wasLong);
     void Act(PX::PowerAction action);
     void RemoveTask(const PX::RecordTime& task);
