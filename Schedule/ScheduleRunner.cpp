@@ -503,6 +503,7 @@ RunnerStatus ScheduleRunner::Status() const
     RunnerStatus status;
     if (const PX::RecordTime* next = NextTask()) {
         status.next = *next;
+        status.isNextThere = m_ports.screens.IsThere(next->screenIndex);
     }
     if (const Session* session = m_active ? &*m_active : m_upcoming ? &*m_upcoming : nullptr) {
         status.phase = PhaseOf(*session);

@@ -37,6 +37,9 @@ struct RunnerStatus {
     Moment countdownEnd;
     /// The first task that is still to be recorded.
     std::optional<PX::RecordTime> next;
+    /// Whether what `next` records is there now: it is waited for, and nothing gives way to it,
+    /// while it is not.
+    bool isNextThere = true;
 };
 
 /// What the runner acts on.

@@ -91,7 +91,7 @@ void ShowPreparing(FooterState& state, const RunnerStatus& status, Moment now)
 /// The note of a recording by hand about the task that is due next.
 void ShowTaskAfter(FooterState& state, const RunnerStatus& status, Moment now)
 {
-    if (status.isTask || !status.next) {
+    if (status.isTask || !status.next || !status.isNextThere) {
         return;
     }
     const Moment start = status.next->start;

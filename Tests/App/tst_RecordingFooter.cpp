@@ -144,6 +144,13 @@ RunnerStatus Kept()
     return status;
 }
 
+/// As \a status while what the next task records is not there.
+RunnerStatus WithoutScreen(RunnerStatus status)
+{
+    status.isNextThere = false;
+    return status;
+}
+
 /// A window that has nothing but the footer and something else that takes the focus.
 class Stage {
 public:
@@ -242,6 +249,8 @@ private Q_SLOTS:
         row("giving way later", GivingWay(61s), "Recording", "", "Pause,Stop");
         row("kept", Kept(), "Recording", "“Lecture” starts when this recording has ended",
             "Pause,Stop");
+        row("giving way to nothing", WithoutScreen(GivingWay(55s)), "Recording", "", "Pause,Stop");
+        row("kept for nothing", WithoutScreen(Kept()), "Recording", "", "Pause,Stop");
         row("closing", Closing(), "“Lecture” is being saved", "", "Stop");
         row("countdown", CountingDown(45s), "The computer shuts down in 45 s", "", "Now,Cancel");
         row("countdown to sleep", CountingDown(60s, PX::Sleep),

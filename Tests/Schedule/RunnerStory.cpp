@@ -244,7 +244,7 @@ QString RunnerStory::Status() const
     words << (status.isPaused ? "paused" : "") << (status.isKept ? "kept" : "")
           << (m_runner->IsAtRest() ? "at rest" : "");
     if (status.next) {
-        words << "next" << status.next->title;
+        words << "next" << status.next->title << (status.isNextThere ? "" : "not there");
     }
     return words.join(' ').simplified();
 }

@@ -682,6 +682,8 @@ record 0
 > 95 prepare 1 by hand of 95
 > 95 start 1 now for 0
 > 95 hold awake
+status
+> preparing from 95 next A not there
 screen 1
 > 95 cancel 1
 > 95 prepare 2 A screen 1 of 100
