@@ -178,7 +178,8 @@ int RunWindow(const std::shared_ptr<PX::SettingsStore>& store,
     return QApplication::exec();
 }
 
-/// The list that belongs to \a settingsFile.
+/// The list that belongs to \a settingsFile; where that cannot be used it is kept in memory, and
+/// says so.
 std::shared_ptr<Schedule::RecordingsList> OpenRecordings(const QString& settingsFile)
 {
     const auto list =

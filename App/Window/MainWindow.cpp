@@ -25,6 +25,7 @@
 #include "RecorderProgram.h"
 #include "RecordingFooter.h"
 #include "RecordingPage.h"
+#include "RecordingsList.h"
 #include "RecordingsPage.h"
 #include "SchedulePage.h"
 
@@ -78,7 +79,11 @@ void MainWindow::Follow(Appearance& appearance)
 
 void MainWindow::ShowRecordings(const std::shared_ptr<Schedule::RecordingsList>& list)
 {
+    m_recordings = list;
     m_recordingsPage->SetList(list);
+    connect(list.get(), &Schedule::RecordingsList::SaveProblemChanged, this,
+            &MainWindow::ShowNotices);
+    ShowNotices();
 }
 
 void MainWindow::BuildWidgets(const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel)
@@ -162,6 +167,7 @@ void MainWindow::Connect()
     connect(m_store.get(), &PX::SettingsStore::NoticeAdded, this, &MainWindow::ShowNotices);
     connect(m_noticeBar, &NoticeBar::CloseRequested, this, [this] {
         m_readNotices = m_store->Notices().size();
+        m_readListProblems = ListProblems();
         ShowNotices();
     });
     const auto* quit = new QShortcut(Qt::CTRL + Qt::Key_Q, this);
@@ -398,7 +404,32 @@ void MainWindow::ShowNotices()
          ++notice) {
         texts << notice->Text();
     }
+    texts << UnreadListProblems();
     m_noticeBar->SetText(texts.join(QLatin1Char('\n')));
+}
+
+QStringList MainWindow::UnreadListProblems()
+{
+    QStringList problems = ListProblems();
+    // What is over, and comes again, is told again.
+    QStringList read;
+    for (const QString& problem : qAsConst(m_readListProblems)) {
+        if (problems.removeAll(problem) > 0) {
+            read << problem;
+        }
+    }
+    m_readListProblems = read;
+    return problems;
+}
+
+QStringList MainWindow::ListProblems() const
+{
+    if (m_recordings == nullptr) {
+        return {};
+    }
+    QStringList problems{m_recordings->Notice(), m_recordings->SaveProblem()};
+    problems.removeAll({});
+    return problems;
 }
 
 void MainWindow::ForgetSaveProblem()

@@ -54,7 +54,8 @@ public:
     /// Shows what was chosen for this run only; \a appearance outlives the window.
     void Follow(Appearance& appearance);
 
-    /// Shows \a list, which has been opened, on the page with the recordings. Call it once.
+    /// Shows \a list, which has been opened, on the page with the recordings, and on every page
+    /// what could not be used of it or not be saved. Call it once.
     void ShowRecordings(const std::shared_ptr<Schedule::RecordingsList>& list);
 
     /// The size at first, where the screen has room for it.
@@ -136,8 +137,12 @@ private:
     void ApplyPages();
     /// Shows the first page that keeps a recording from being started. Whether there is one.
     bool ShowPageProblem();
-    /// Shows what the store has to say and the user has not read yet.
+    /// Shows what the store and the list of recordings have to say and the user has not read yet.
     void ShowNotices();
+    /// What of the list of recordings could not be used or not be saved, for the user.
+    QStringList ListProblems() const;
+    /// Those that the user has not closed.
+    QStringList UnreadListProblems();
     /// Saves what the user has changed, and the place of the window. Whether the former is saved.
     bool SaveChanges();
     void ForgetSaveProblem();
@@ -159,6 +164,9 @@ private:
     NoticeBar* m_noticeBar = nullptr;
     /// How many of the store's notices the user has closed.
     std::size_t m_readNotices = 0;
+    std::shared_ptr<Schedule::RecordingsList> m_recordings;
+    /// Those of ListProblems() that the user has closed.
+    QStringList m_readListProblems;
     RecordingFooter* m_footer = nullptr;
     QStatusBar* m_statusBar = nullptr;
     bool m_isSidebarNarrow = false;

@@ -18,6 +18,7 @@
 #include "MarkingTranslator.h"
 #include "PageRow.h"
 #include "PanelParts.h"
+#include "RecordingsList.h"
 #include "RecordSchedulerWidget.h"
 #include "Resources.h"
 #include "Theme.h"
@@ -548,6 +549,40 @@ private Q_SLOTS:
         QCOMPARE(Find<QLabel>("noticeLabel")->text(),
                  QStringList({notices[2].Text(), notices[3].Text(), notices[4].Text()})
                      .join(QLatin1Char('\n')));
+    }
+
+    void tellsOnEachPageWhatIsWrongWithTheRecordings()
+    {
+        Open();
+        const QString path = m_app->folder.filePath("recordings.json");
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.write("no list") > 0);
+        file.close();
+        const auto list = std::make_shared<Schedule::RecordingsList>(path);
+        list->Open();
+        auto* bar = Find<QFrame>("noticeBar");
+        const auto* label = Find<QLabel>("noticeLabel");
+        QVERIFY(!bar->isVisible());
+        Window().ShowRecordings(list);
+        QVERIFY(bar->isVisible());
+        QVERIFY(!list->Notice().isEmpty());
+        QCOMPARE(label->text(), list->Notice());
+        Click("noticeCloseButton");
+        QVERIFY(!bar->isVisible());
+
+        for (int round = 0; round < 2; ++round) {
+            {
+                const FullDisk disk(10);
+                list->Add({});
+                QVERIFY(!list->SaveProblem().isEmpty());
+                QCOMPARE(label->text(), list->SaveProblem());
+                Click("noticeCloseButton");
+                QVERIFY(!bar->isVisible());
+            }
+            list->Add({});
+            QVERIFY(!bar->isVisible());
+        }
     }
 
     void movesOnlyAsFarAsItsFrameNeeds()
