@@ -141,7 +141,7 @@ RecorderProcess* RecorderPool::Find(RecordingId id) const
 QString RecorderPool::Release(RecordingId id)
 {
     const auto recorder = m_recorders.find(id);
-    const QString left = LeftOf(recorder->second.file);
+    QString left = LeftOf(recorder->second.file);
     // It is sending a signal.
     recorder->second.process.release()->deleteLater();
     m_recorders.erase(recorder);

@@ -46,6 +46,7 @@ RecordingService::RecordingService(ServiceParts parts, QObject* parent)
     m_scheduleTimer.setSingleShot(true);
     m_scheduleTimer.setInterval(0);
     ConnectRecorders();
+    ConnectEnds();
     ConnectMachine();
 }
 
@@ -72,6 +73,18 @@ void RecordingService::ConnectRecorders()
         m_runner.OnWarning(id, text);
         Follow();
     });
+    connect(&m_recorders, &RecorderPool::NoRoomFound, this,
+            [this](const QString& title, qint64 freeBytes) {
+                Notice notice;
+                notice.kind = Notice::Kind::NoRoom;
+                notice.title = title;
+                notice.freeBytes = freeBytes;
+                Q_EMIT Noticed(notice);
+            });
+}
+
+void RecordingService::ConnectEnds()
+{
     connect(&m_recorders, &RecorderPool::Finished, this,
             [this](RecordingId id, const RecordingResult& result) {
                 m_runner.OnFinished(id, result, Now());
@@ -90,14 +103,6 @@ void RecordingService::ConnectRecorders()
         m_runner.OnCancelled(id, Now());
         Follow();
     });
-    connect(&m_recorders, &RecorderPool::NoRoomFound, this,
-            [this](const QString& title, qint64 freeBytes) {
-                Notice notice;
-                notice.kind = Notice::Kind::NoRoom;
-                notice.title = title;
-                notice.freeBytes = freeBytes;
-                Q_EMIT Noticed(notice);
-            });
 }
 
 void RecordingService::ConnectMachine()

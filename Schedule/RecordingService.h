@@ -102,6 +102,8 @@ private:
     void Tell(const Notice& notice) override;
 
     void ConnectRecorders();
+    /// To what ends a recording.
+    void ConnectEnds();
     void ConnectMachine();
     Instant Now() const { return m_parts.clock->Now(); }
     /// Does what is due.

@@ -172,7 +172,7 @@ QString RecordingsList::PathFor(const QString& settingsFile)
 QString RecordingsList::Open()
 {
     m_realPath = Util::RealPath(m_filePath);
-    const QString failure = Read();
+    QString failure = Read();
     m_isOpen = failure.isEmpty();
     if (m_isOpen) {
         Util::RemoveUnfinishedFiles(m_realPath);

@@ -182,7 +182,7 @@ int RunWindow(const std::shared_ptr<PX::SettingsStore>& store,
 /// says so.
 std::shared_ptr<Schedule::RecordingsList> OpenRecordings(const QString& settingsFile)
 {
-    const auto list =
+    auto list =
         std::make_shared<Schedule::RecordingsList>(Schedule::RecordingsList::PathFor(settingsFile));
     list->Open();
     return list;

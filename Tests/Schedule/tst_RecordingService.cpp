@@ -18,7 +18,6 @@ using Schedule::Outcome;
 using Schedule::RecordingEntry;
 using Schedule::RecordingService;
 using Schedule::RecordingsList;
-using Schedule::RunnerStatus;
 
 constexpr qint64 PlentyOfBytes = 1'000'000'000'000;
 constexpr int Patience = 60'000;
