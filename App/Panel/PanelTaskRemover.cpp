@@ -42,14 +42,27 @@ PanelTaskRemover::PanelTaskRemover(std::shared_ptr<PX::SettingsStore> store, QOb
     : QObject(parent)
     , m_store(std::move(store))
 {
+    connect(m_store.get(), &PX::SettingsStore::Changed, this, &PanelTaskRemover::NoteListed);
 }
 
 PanelTaskRemover::~PanelTaskRemover() = default;
 
 void PanelTaskRemover::SetPanel(QWidget* panel, std::shared_ptr<DeletionConsent> consent)
 {
+    m_panel = panel;
     m_parts = std::make_unique<PanelParts>(*panel);
     m_consent = std::move(consent);
+    m_listed.clear();
+    NoteListed();
+}
+
+/// Takes the tasks over when they are those of the list, which stores its own when it is complete.
+void PanelTaskRemover::NoteListed()
+{
+    const auto& schedule = m_store->Settings().schedule;
+    if (!m_panel.isNull() && m_parts->DeleteButtons().size() == static_cast<int>(schedule.size())) {
+        m_listed = schedule;
+    }
 }
 
 void PanelTaskRemover::Remove(const PX::RecordTime& task)
@@ -112,14 +125,13 @@ void PanelTaskRemover::RemoveNow(const PX::RecordTime& task)
 /// The delete button of \a task. Rows and tasks have the same order.
 QAbstractButton* PanelTaskRemover::ButtonOf(const PX::RecordTime& task) const
 {
-    const auto& schedule = m_store->Settings().schedule;
-    const auto found = std::find_if(schedule.begin(), schedule.end(), [&](const auto& other) {
+    const auto found = std::find_if(m_listed.begin(), m_listed.end(), [&](const auto& other) {
         return other.title == task.title && other.start == task.start;
     });
     const auto buttons = m_parts->DeleteButtons();
-    const auto index = static_cast<int>(found - schedule.begin());
+    const auto index = static_cast<int>(found - m_listed.begin());
     const bool isListed =
-        found != schedule.end() && buttons.size() == static_cast<int>(schedule.size());
+        found != m_listed.end() && buttons.size() == static_cast<int>(m_listed.size());
     return isListed ? buttons.at(index) : nullptr;
 }
 

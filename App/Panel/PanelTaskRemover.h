@@ -4,6 +4,8 @@
 #include <vector>
 
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 
 #include "HostInterfaces.h"
 #include "PanelParts.h"
@@ -44,8 +46,8 @@ public:
     /// Works on \a panel, whose questions \a consent answers, until it is told of another one.
     void SetPanel(QWidget* panel, std::shared_ptr<DeletionConsent> consent);
 
-    /// Removes \a task as soon as no box is open. Does nothing when the list has no such task then:
-    /// none of this title with this start.
+    /// Removes \a task as soon as no box is open, whether or not the store still has it. Does
+    /// nothing when the list has no such task then: none of this title with this start.
     void Remove(const PX::RecordTime& task);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -55,6 +57,7 @@ Q_SIGNALS:
     void Removing(const QString& title);
 
 private:
+    void NoteListed();
     void RemoveAll();
     void WaitForAnswer(QWidget* box);
     void RemoveNow(const PX::RecordTime& task);
@@ -63,7 +66,10 @@ private:
 
     const std::shared_ptr<PX::SettingsStore> m_store;
     std::shared_ptr<DeletionConsent> m_consent;
+    QPointer<QWidget> m_panel;
     std::unique_ptr<PanelParts> m_parts;
+    /// What the list shows, in its order: from the store a task may be gone before its row.
+    std::vector<PX::RecordTime> m_listed;
     std::vector<PX::RecordTime> m_tasks;
     QMetaObject::Connection m_answer;
 };

@@ -115,6 +115,22 @@ private Q_SLOTS:
         QCOMPARE(app.StatusText(), QString());
     }
 
+    void removesTasksThatTheStoreHasLost()
+    {
+        const AppWindow app(3);
+        QVERIFY(app.Show());
+        const auto tasks = app.store->Settings().schedule;
+        app.store->Change([&](auto& settings) { settings.schedule = {tasks[1]}; });
+        QCOMPARE(RowCount(app), 3);
+        PageOf(app).RemoveTask(tasks[0]);
+        QCOMPARE(RowCount(app), 2);
+        QVERIFY(DeleteButtonFor(app, "Task 1") == nullptr);
+        PageOf(app).RemoveTask(tasks[2]);
+        QCOMPARE(RowCount(app), 1);
+        QVERIFY(DeleteButtonFor(app, "Task 2") != nullptr);
+        QCOMPARE(app.Titles(), QStringLiteral("Task 2"));
+    }
+
     void doesNotRememberTheAnswer()
     {
         const AppWindow app(3);
