@@ -38,6 +38,7 @@ RecordingControl::RecordingControl(const std::shared_ptr<PX::SettingsStore>& sto
                                    MainWindow& window, TrayIcon& tray, Instance& instance)
     : m_window(window)
     , m_tray(tray)
+    , m_recordings(recordings)
     , m_screens(std::make_shared<DesktopScreens>(store))
     , m_service({store, recordings, m_screens, std::make_shared<Schedule::MachineClock>(),
                  Schedule::RecorderProgram(), FreeBytesAt})
@@ -68,7 +69,8 @@ void RecordingControl::ConnectService()
     connect(&m_service, &RecordingService::TaskRemoved, &m_window, &MainWindow::RemoveTask);
     connect(&m_service, &RecordingService::QuitRequested, this, &RecordingControl::End);
     connect(&m_service, &RecordingService::AtRest, &m_window, [this] {
-        const bool isSaved = m_isClosed || m_window.SaveUnattended();
+        const bool isSaved =
+            (m_isClosed || m_window.SaveUnattended()) && m_recordings->SaveProblem().isEmpty();
         QCoreApplication::exit(isSaved ? EXIT_SUCCESS : EXIT_FAILURE);
     });
 }

@@ -58,6 +58,7 @@ private:
 
     MainWindow& m_window;
     TrayIcon& m_tray;
+    const std::shared_ptr<const Schedule::RecordingsList> m_recordings;
     const std::shared_ptr<DesktopScreens> m_screens;
     Schedule::RecordingService m_service;
     Schedule::DesktopNotifier m_notifier;
