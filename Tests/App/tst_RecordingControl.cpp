@@ -1,7 +1,8 @@
 #include "RecordingControl.h"
 
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
-#include <QSignalSpy>
 
 #include "AppWindow.h"
 #include "Boxes.h"
