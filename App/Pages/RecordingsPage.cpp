@@ -57,6 +57,16 @@ bool IsBroken(const RecordingEntry& entry)
     return hasCrashed && entry.file.endsWith(QLatin1String(".mkv"), Qt::CaseInsensitive);
 }
 
+/// Has \a heir take the focus from a \a button that is disabled: the next one, which would have it
+/// otherwise, does something else.
+void SetEnabled(QPushButton& button, bool isEnabled, QWidget& heir)
+{
+    if (!isEnabled && button.window()->focusWidget() == &button) {
+        heir.setFocus(Qt::OtherFocusReason);
+    }
+    button.setEnabled(isEnabled);
+}
+
 } // namespace
 
 RecordingsPage::RecordingsPage(const QString& recorder, QWidget* parent)
@@ -288,10 +298,10 @@ void RecordingsPage::ShowState()
     m_buttons->setVisible(!isEmpty);
     const auto row = CurrentRow();
     const Abilities abilities = row ? AbilitiesOf(*row) : Abilities();
-    m_openButton->setEnabled(abilities.isOpenable);
-    m_showButton->setEnabled(abilities.isShowable);
-    m_repairButton->setEnabled(abilities.isRepairable);
-    m_removeButton->setEnabled(abilities.isRemovable);
+    SetEnabled(*m_openButton, abilities.isOpenable, *m_view);
+    SetEnabled(*m_showButton, abilities.isShowable, *m_view);
+    SetEnabled(*m_repairButton, abilities.isRepairable, *m_view);
+    SetEnabled(*m_removeButton, abilities.isRemovable, *m_view);
     m_removeButton->setText(RemovalText(!row || abilities.hasFile));
 }
 

@@ -274,8 +274,10 @@ private Q_SLOTS:
         WriteRecorder("test \"$1\" = --picture && exit 1\necho \"$1 $2\" > " + Path("called") + "\n"
                       + work);
         const QSignalSpy announced(m_page.get(), &Desktop::Page::Announced);
+        Button("repairRecordingButton")->setFocus();
         Button("repairRecordingButton")->click();
         QVERIFY(!Button("repairRecordingButton")->isEnabled());
+        QCOMPARE(m_page->window()->focusWidget(), View());
         QTRY_VERIFY_WITH_TIMEOUT(Button("repairRecordingButton")->isEnabled(), Patience);
         QFile called(Path("called"));
         QVERIFY(called.open(QIODevice::ReadOnly));
