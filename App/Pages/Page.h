@@ -48,6 +48,8 @@ public:
 Q_SIGNALS:
     /// Something has been done that is hard to see; \a text says what.
     void Announced(const QString& text);
+    /// \a part of the page has something to show that has just been asked for.
+    void RevealRequested(QWidget* part);
 
 protected:
     Page(const QString& id, QWidget* parent);

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "Controls.h"
@@ -122,6 +123,10 @@ PageFrame::PageFrame(Page* page, QWidget* parent)
     column->addStretch(1);
     setWidget(contents);
     WatchFocus(contents);
+    connect(page, &Page::RevealRequested, this, [this](QWidget* part) {
+        // Later: the part may have grown, and has its new size only then.
+        QTimer::singleShot(0, part, [this, part] { ScrollTo(*this, *part); });
+    });
 }
 
 void PageFrame::Retranslate()

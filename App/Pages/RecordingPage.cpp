@@ -25,6 +25,8 @@ RecordingPage::RecordingPage(const std::shared_ptr<PX::SettingsStore>& store, QW
     column->addWidget(trialCard);
     StyleComboBoxLists(*this);
     connect(trialCard, &TrialCard::Announced, this, &RecordingPage::Announced);
+    connect(trialCard, &TrialCard::Grown, this,
+            [this, trialCard] { Q_EMIT RevealRequested(trialCard); });
 }
 
 RecordingPage::~RecordingPage() = default;

@@ -78,6 +78,7 @@ void TrialCard::Start()
     m_progressBar->show();
     m_resultLabel->hide();
     Retranslate();
+    Q_EMIT Grown();
 }
 
 void TrialCard::ShowProgress(int milliseconds)
@@ -117,6 +118,10 @@ void TrialCard::Say(const QString& text, bool isProblem)
                            "SubStyle");
     m_resultLabel->show();
     Retranslate();
+    // Not when the user has gone on to another setting. The window may be behind the player.
+    if (window()->focusWidget() == m_button) {
+        Q_EMIT Grown();
+    }
     Q_EMIT Announced(text);
 }
 

@@ -28,6 +28,8 @@ public:
 Q_SIGNALS:
     /// The trial is over, as \a text says.
     void Announced(const QString& text);
+    /// More is shown in the card, which the user is still at.
+    void Grown();
 
 protected:
     void changeEvent(QEvent* event) override;

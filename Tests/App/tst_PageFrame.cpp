@@ -135,6 +135,19 @@ private Q_SLOTS:
     }
 
     /// A page that becomes too long must not move what is above it.
+    void scrollsToWhatThePageReveals()
+    {
+        const Window window;
+        auto* part = window.page->last;
+        part->setFixedHeight(20);
+        QTRY_COMPARE(window.frame.verticalScrollBar()->value(), 0);
+        QVERIFY(!window.IsInView(part));
+        Q_EMIT window.page->RevealRequested(part);
+        // As a layout does it: in a later pass of the event loop.
+        QVERIFY(!window.IsInView(part));
+        QTRY_VERIFY(window.IsInView(part));
+    }
+
     void headIsWrappedAlikeWithAndWithoutAScrollBar()
     {
         const Window small({100, 100});

@@ -565,10 +565,14 @@ void tst_RecordingPage::opensATrialRecording()
     m_recorder->SetRecording("echo 5 seconds > \"$2\"");
     Open();
     const QSignalSpy announced(m_page.get(), &Desktop::Page::Announced);
+    const QSignalSpy revealed(m_page.get(), &Desktop::Page::RevealRequested);
     QVERIFY(!Find<QProgressBar>("trialProgressBar")->isVisible());
+    Find<QPushButton>("trialButton")->setFocus();
     Click("trialButton");
     QVERIFY(Find<QProgressBar>("trialProgressBar")->isVisible());
+    QCOMPARE(revealed.count(), 1);
     QTRY_VERIFY_WITH_TIMEOUT(IsTrialOver(), Patience);
+    QCOMPARE(revealed.count(), 2);
     QCOMPARE(desktop.shown.size(), 1);
     QVERIFY(desktop.shown.constFirst().endsWith(".mkv"));
     QCOMPARE(desktop.content, QByteArray("5 seconds\n"));
@@ -590,8 +594,12 @@ void tst_RecordingPage::recordsATrialWithTheSettings()
         settings.soundDevices = QStringList{"mic"};
     });
     Open();
+    const QSignalSpy revealed(m_page.get(), &Desktop::Page::RevealRequested);
     Click("trialButton");
+    Find<QPushButton>("outlineAreaButton")->setFocus();
     QTRY_VERIFY_WITH_TIMEOUT(IsTrialOver(), Patience);
+    // Who has gone on is not fetched back.
+    QCOMPARE(revealed.count(), 1);
     const QString call = m_recorder->Calls().filter("--file").join('\n');
     QVERIFY2(call.contains(".mp4 --fps 24 ") && call.contains("--duration 5 ")
                  && call.contains("--screen 0") && call.contains("--sound=mic"),
