@@ -181,8 +181,12 @@ void RecordingService::Follow()
 
 void RecordingService::TellOutside()
 {
-    for (const PX::RecordTime& task : std::exchange(m_removedTasks, {})) {
-        Q_EMIT TaskRemoved(task);
+    const auto removedTasks = std::exchange(m_removedTasks, {});
+    for (const PX::RecordTime& task : removedTasks) {
+        Q_EMIT TaskOver(task);
+    }
+    if (!removedTasks.empty()) {
+        RemoveTasks(*m_parts.store, removedTasks);
     }
     for (const Notice& notice : std::exchange(m_notices, {})) {
         Q_EMIT Noticed(notice);
@@ -299,7 +303,6 @@ void RecordingService::RemoveTask(const PX::RecordTime& task)
 {
     m_doneTasks.push_back(task);
     m_removedTasks.push_back(task);
-    RemoveTasks(*m_parts.store, {task});
 }
 
 IRecordings::EntryId RecordingService::Add(const RecordingEntry& entry)

@@ -84,8 +84,8 @@ Q_SIGNALS:
     void Progressed();
     /// The user should be told of \a notice.
     void Noticed(const Notice& notice);
-    /// \a task is over and has been taken out of the settings.
-    void TaskRemoved(const PX::RecordTime& task);
+    /// \a task is over, and is taken out of the settings once all have been told.
+    void TaskOver(const PX::RecordTime& task);
     /// The finish action is to quit the program.
     void QuitRequested();
     /// After Leave(): nothing is recorded any more.

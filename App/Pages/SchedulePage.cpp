@@ -109,8 +109,8 @@ void SchedulePage::AssistPanel()
     m_announcer = new PanelAnnouncer(m_panel, m_store);
     connect(m_announcer, &PanelAnnouncer::Announced, this, &SchedulePage::Announced);
     connect(m_announcer, &PanelAnnouncer::ProblemChanged, this, &SchedulePage::ProblemChanged);
-    connect(m_taskRemover, &PanelTaskRemover::Removing, m_announcer,
-            &PanelAnnouncer::KeepQuietAbout);
+    connect(m_taskRemover, &PanelTaskRemover::RemovingChanged, m_announcer,
+            &PanelAnnouncer::SetQuiet);
     const auto* nameGuard = new PanelNameGuard(m_panel);
     connect(nameGuard, &PanelNameGuard::RefusalChanged, m_announcer, &PanelAnnouncer::SetRefusal);
 }

@@ -49,19 +49,15 @@ PanelAnnouncer::~PanelAnnouncer() = default;
 void PanelAnnouncer::CompareSchedule()
 {
     const QStringList before = std::exchange(m_titles, TitlesOf(m_store->Settings().schedule));
+    if (m_isQuiet) {
+        return;
+    }
     if (m_titles.size() == before.size() + 1) {
         Q_EMIT Announced(tr("Task added: %1").arg(ExtraOf(m_titles, before)));
     } else if (m_titles.isEmpty() && before.size() > 1) {
         Q_EMIT Announced(tr("All tasks deleted"));
     } else if (before.size() == m_titles.size() + 1) {
-        AnnounceDeletion(ExtraOf(before, m_titles));
-    }
-}
-
-void PanelAnnouncer::AnnounceDeletion(const QString& title)
-{
-    if (std::exchange(m_quietTitle, {}) != title) {
-        Q_EMIT Announced(tr("Task deleted: %1").arg(title));
+        Q_EMIT Announced(tr("Task deleted: %1").arg(ExtraOf(before, m_titles)));
     }
 }
 

@@ -28,8 +28,8 @@ public:
     /// problems; empty when it has not.
     void SetRefusal(const QString& reason);
 
-    /// Does not announce it when the task called \a title is the next one to be deleted.
-    void KeepQuietAbout(const QString& title) { m_quietTitle = title; }
+    /// While it is quiet, tasks come and go without being announced. Not quiet by default.
+    void SetQuiet(bool isQuiet) { m_isQuiet = isQuiet; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -42,7 +42,6 @@ Q_SIGNALS:
 
 private:
     void CompareSchedule();
-    void AnnounceDeletion(const QString& title);
     void UpdateProblem();
     QString ShownProblem() const;
 
@@ -51,7 +50,7 @@ private:
     QString m_refusal;
     QString m_problem;
     QStringList m_titles;
-    QString m_quietTitle;
+    bool m_isQuiet = false;
 };
 
 } // namespace Zentor::Desktop

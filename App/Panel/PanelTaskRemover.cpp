@@ -42,33 +42,23 @@ PanelTaskRemover::PanelTaskRemover(std::shared_ptr<PX::SettingsStore> store, QOb
     : QObject(parent)
     , m_store(std::move(store))
 {
-    connect(m_store.get(), &PX::SettingsStore::Changed, this, &PanelTaskRemover::NoteListed);
 }
 
 PanelTaskRemover::~PanelTaskRemover() = default;
 
 void PanelTaskRemover::SetPanel(QWidget* panel, std::shared_ptr<DeletionConsent> consent)
 {
-    m_panel = panel;
     m_parts = std::make_unique<PanelParts>(*panel);
     m_consent = std::move(consent);
-    m_listed.clear();
-    NoteListed();
-}
-
-/// Takes the tasks over when they are those of the list, which stores its own when it is complete.
-void PanelTaskRemover::NoteListed()
-{
-    const auto& schedule = m_store->Settings().schedule;
-    if (!m_panel.isNull() && m_parts->DeleteButtons().size() == static_cast<int>(schedule.size())) {
-        m_listed = schedule;
-    }
 }
 
 void PanelTaskRemover::Remove(const PX::RecordTime& task)
 {
-    m_tasks.push_back(task);
-    RemoveAll();
+    if (QAbstractButton* button = ButtonOf(task)) {
+        m_buttons.push_back(button);
+        Q_EMIT RemovingChanged(true);
+        RemoveAll();
+    }
 }
 
 void PanelTaskRemover::RemoveAll()
@@ -77,10 +67,13 @@ void PanelTaskRemover::RemoveAll()
         WaitForAnswer(box);
         return;
     }
-    const auto tasks = std::exchange(m_tasks, {});
-    for (const PX::RecordTime& task : tasks) {
-        RemoveNow(task);
+    const auto buttons = std::exchange(m_buttons, {});
+    for (const auto& button : buttons) {
+        if (IsListed(button)) {
+            RemoveNow(*button);
+        }
     }
+    Q_EMIT RemovingChanged(false);
 }
 
 void PanelTaskRemover::WaitForAnswer(QWidget* box)
@@ -101,19 +94,20 @@ bool PanelTaskRemover::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-void PanelTaskRemover::RemoveNow(const PX::RecordTime& task)
+/// False for the button of a row that the user has deleted meanwhile.
+bool PanelTaskRemover::IsListed(const QPointer<QAbstractButton>& button) const
 {
-    QAbstractButton* button = ButtonOf(task);
-    if (button == nullptr) {
-        return;
-    }
-    const QRect row = button->parentWidget()->geometry();
+    return !button.isNull() && m_parts->rows->layout()->indexOf(button->parentWidget()) >= 0;
+}
+
+void PanelTaskRemover::RemoveNow(QAbstractButton& button)
+{
+    const QRect row = button.parentWidget()->geometry();
     QScrollBar& bar = *m_parts->list->verticalScrollBar();
     const int place = bar.value();
     const bool isAboveView = row.bottom() < place;
-    Q_EMIT Removing(task.title);
     m_consent->SetGiven(true);
-    button->click();
+    button.click();
     m_consent->SetGiven(false);
     m_parts->rows->layout()->activate();
     if (isAboveView) {
@@ -122,16 +116,27 @@ void PanelTaskRemover::RemoveNow(const PX::RecordTime& task)
     CheckForm();
 }
 
-/// The delete button of \a task. Rows and tasks have the same order.
+/// The delete button of \a task. Rows and tasks have the same order; a row that waits to be removed
+/// may have lost its task already.
 QAbstractButton* PanelTaskRemover::ButtonOf(const PX::RecordTime& task) const
 {
-    const auto found = std::find_if(m_listed.begin(), m_listed.end(), [&](const auto& other) {
+    const auto& schedule = m_store->Settings().schedule;
+    const auto found = std::find_if(schedule.begin(), schedule.end(), [&](const auto& other) {
         return other.title == task.title && other.start == task.start;
     });
-    const auto buttons = m_parts->DeleteButtons();
-    const auto index = static_cast<int>(found - m_listed.begin());
+    auto buttons = m_parts->DeleteButtons();
+    if (buttons.size() > static_cast<int>(schedule.size())) {
+        buttons.erase(std::remove_if(buttons.begin(), buttons.end(),
+                                     [&](const QToolButton* button) {
+                                         return std::find(m_buttons.begin(), m_buttons.end(),
+                                                          button)
+                                             != m_buttons.end();
+                                     }),
+                      buttons.end());
+    }
+    const auto index = static_cast<int>(found - schedule.begin());
     const bool isListed =
-        found != m_listed.end() && buttons.size() == static_cast<int>(m_listed.size());
+        found != schedule.end() && buttons.size() == static_cast<int>(schedule.size());
     return isListed ? buttons.at(index) : nullptr;
 }
 

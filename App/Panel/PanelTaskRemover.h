@@ -5,10 +5,11 @@
 
 #include <QObject>
 #include <QPointer>
-#include <QWidget>
 
 #include "HostInterfaces.h"
 #include "PanelParts.h"
+
+class QAbstractButton;
 
 namespace Zentor::PX {
 class SettingsStore;
@@ -46,31 +47,29 @@ public:
     /// Works on \a panel, whose questions \a consent answers, until it is told of another one.
     void SetPanel(QWidget* panel, std::shared_ptr<DeletionConsent> consent);
 
-    /// Removes \a task as soon as no box is open, whether or not the store still has it. Does
-    /// nothing when the list has no such task then: none of this title with this start.
+    /// Removes \a task as soon as no box is open, whatever the settings have by then. Does nothing
+    /// when the settings have no such task now: none of this title with this start.
     void Remove(const PX::RecordTime& task);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The task called \a title is about to be removed.
-    void Removing(const QString& title);
+    /// From now on tasks that are over leave the list, or none is left that is to leave it.
+    void RemovingChanged(bool isRemoving);
 
 private:
-    void NoteListed();
     void RemoveAll();
     void WaitForAnswer(QWidget* box);
-    void RemoveNow(const PX::RecordTime& task);
+    void RemoveNow(QAbstractButton& button);
+    bool IsListed(const QPointer<QAbstractButton>& button) const;
     QAbstractButton* ButtonOf(const PX::RecordTime& task) const;
     void CheckForm() const;
 
     const std::shared_ptr<PX::SettingsStore> m_store;
     std::shared_ptr<DeletionConsent> m_consent;
-    QPointer<QWidget> m_panel;
     std::unique_ptr<PanelParts> m_parts;
-    /// What the list shows, in its order: from the store a task may be gone before its row.
-    std::vector<PX::RecordTime> m_listed;
-    std::vector<PX::RecordTime> m_tasks;
+    /// The delete buttons of what is to be removed.
+    std::vector<QPointer<QAbstractButton>> m_buttons;
     QMetaObject::Connection m_answer;
 };
 

@@ -66,7 +66,7 @@ void RecordingControl::ConnectService()
         }
     });
     connect(&m_service, &RecordingService::Noticed, this, &RecordingControl::Tell);
-    connect(&m_service, &RecordingService::TaskRemoved, &m_window, &MainWindow::RemoveTask);
+    connect(&m_service, &RecordingService::TaskOver, &m_window, &MainWindow::RemoveTask);
     connect(&m_service, &RecordingService::QuitRequested, this, &RecordingControl::End);
     connect(&m_service, &RecordingService::AtRest, &m_window, [this] {
         const bool isSaved =

@@ -115,22 +115,6 @@ private Q_SLOTS:
         QCOMPARE(app.StatusText(), QString());
     }
 
-    void removesTasksThatTheStoreHasLost()
-    {
-        const AppWindow app(3);
-        QVERIFY(app.Show());
-        const auto tasks = app.store->Settings().schedule;
-        app.store->Change([&](auto& settings) { settings.schedule = {tasks[1]}; });
-        QCOMPARE(RowCount(app), 3);
-        PageOf(app).RemoveTask(tasks[0]);
-        QCOMPARE(RowCount(app), 2);
-        QVERIFY(DeleteButtonFor(app, "Task 1") == nullptr);
-        PageOf(app).RemoveTask(tasks[2]);
-        QCOMPARE(RowCount(app), 1);
-        QVERIFY(DeleteButtonFor(app, "Task 2") != nullptr);
-        QCOMPARE(app.Titles(), QStringLiteral("Task 2"));
-    }
-
     void doesNotRememberTheAnswer()
     {
         const AppWindow app(3);
@@ -245,6 +229,30 @@ private Q_SLOTS:
         QVERIFY(!IsBoxOpen());
         QTest::qWait(0);
         QCOMPARE(RowCount(app), left.count(',') + 1);
+    }
+
+    void waitsForAnAnswerWhileTheSettingsGoOn()
+    {
+        const AppWindow app(4);
+        QVERIFY(app.Show());
+        const QSignalSpy announced(&PageOf(app), &Desktop::Page::Announced);
+        const ExpectedBox box([&](QMessageBox& opened) {
+            for (const auto* title : {"Task 2", "Task 3"}) {
+                Remove(app, title);
+                app.store->Change([&](PX::UserSettings& settings) {
+                    settings.schedule.erase(settings.schedule.begin() + 1);
+                });
+            }
+            QCOMPARE(app.Titles(), QStringLiteral("Task 1,Task 4"));
+            QCOMPARE(RowCount(app), 4);
+            opened.button(QMessageBox::Cancel)->click();
+        });
+        DeleteButtonFor(app, "Task 1")->click();
+        QVERIFY(box.Came());
+        QTRY_COMPARE(RowCount(app), 2);
+        QCOMPARE(app.Titles(), QStringLiteral("Task 1,Task 4"));
+        QVERIFY(DeleteButtonFor(app, "Task 4") != nullptr);
+        QCOMPARE(announced.count(), 0);
     }
 
     void waitsForTheQuestionAboutTheForm()

@@ -205,7 +205,12 @@ void tst_RecordingService::recordsATaskInItsTime()
     SetTasks({Task("Lecture", start, 1s)});
     QCOMPARE(m_service->PendingTasks(), 1);
     int removed = 0;
-    connect(m_service.get(), &RecordingService::TaskRemoved, this, [&] { ++removed; });
+    connect(m_service.get(), &RecordingService::TaskOver, this, [&](const PX::RecordTime& task) {
+        ++removed;
+        QCOMPARE(task.title, QStringLiteral("Lecture"));
+        // A list finds its row by it.
+        QCOMPARE(m_store->Settings().schedule.size(), std::size_t(1));
+    });
     QTRY_VERIFY_WITH_TIMEOUT(HasOutcomes({Outcome::Complete}), Patience);
     QVERIFY(Entries().front().start == start);
     QVERIFY(m_store->Settings().schedule.empty());
