@@ -1,5 +1,7 @@
 #include "RecordingControl.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
@@ -106,6 +108,11 @@ void RecordingControl::ConnectInstance(const Instance& instance)
 
 void RecordingControl::ConnectNotices()
 {
+    connect(&m_notifier, &Schedule::DesktopNotifier::Unavailable, this, [this] {
+        m_isNotifierMissing = true;
+        TellOfMissingNotifier();
+    });
+    connect(&m_window, &MainWindow::Shown, this, &RecordingControl::TellOfMissingNotifier);
     connect(&m_notices, &DesktopNotices::Announced, &m_window, &MainWindow::Tell);
     connect(&m_notices, &DesktopNotices::SkipRequested, &m_service, &RecordingService::Skip);
     connect(&m_notices, &DesktopNotices::KeepRequested, &m_service,
@@ -144,6 +151,14 @@ void RecordingControl::StartByHand()
 void RecordingControl::Tell(const Notice& notice)
 {
     m_notices.Tell(notice);
+}
+
+void RecordingControl::TellOfMissingNotifier()
+{
+    if (m_window.isVisible() && std::exchange(m_isNotifierMissing, false)) {
+        m_window.Tell(tr("The desktop shows no notifications. The page \"Recordings\" tells what "
+                         "was recorded, and what was not."));
+    }
 }
 
 void RecordingControl::Open(const QString& file)

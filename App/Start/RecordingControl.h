@@ -50,6 +50,8 @@ private:
     void ConnectNotices();
     void StartByHand();
     void Tell(const Schedule::Notice& notice);
+    /// In the window, as soon as that is shown: there is no other place.
+    void TellOfMissingNotifier();
     void Open(const QString& file);
     void ShowStatus();
     void ShowTray(const Schedule::RunnerStatus& status);
@@ -65,6 +67,8 @@ private:
     DesktopNotices m_notices;
     CountdownGuard m_guard;
     bool m_isCountingDown = false;
+    /// The desktop shows no notifications, and the user has not been told yet.
+    bool m_isNotifierMissing = false;
     /// The window was closed, with all that it had to ask.
     bool m_isClosed = false;
 };

@@ -63,6 +63,7 @@ private Q_SLOTS:
     void obeysOtherCommandLines();
     void takesATaskThatIsDoneOutOfThePanel();
     void recordsOnWhileItsWindowIsClosed();
+    void tellsWhereNothingElseCan();
     void closesTheFileBeforeItQuits();
     void savesWhatIsTypedWhenItEnds();
     void saysThatSomethingIsNotSaved_data();
@@ -77,6 +78,7 @@ private:
     std::vector<RecordingEntry> Entries() const;
     bool HasOutcomes(const std::vector<Outcome>& outcomes) const;
     int RowsInPanel() const;
+    bool IsToldOnRaising() const;
 
     std::unique_ptr<AppWindow> m_app;
     std::shared_ptr<RecordingsList> m_list;
@@ -209,6 +211,29 @@ void tst_RecordingControl::recordsOnWhileItsWindowIsClosed()
     Window().Raise();
     QTRY_VERIFY_WITH_TIMEOUT(Button("stopRecordingButton")->isVisible(), Patience);
     QVERIFY(HasOutcomes({Outcome::Recording}));
+}
+
+void tst_RecordingControl::tellsWhereNothingElseCan()
+{
+    Begin();
+    Window().hide();
+    Q_EMIT m_instance->StartRequested();
+    QTRY_VERIFY_WITH_TIMEOUT(HasOutcomes({Outcome::Recording}), Patience);
+    Q_EMIT m_instance->StopRequested();
+    QTRY_VERIFY_WITH_TIMEOUT(HasOutcomes({Outcome::Stopped}), Patience);
+    // The answer of the bus that there is nobody to show them.
+    QVERIFY(QTest::qWaitFor([this] { return IsToldOnRaising(); }, Patience));
+    QVERIFY(!IsToldOnRaising());
+}
+
+/// Whether the window says that there are no notifications when it is brought up.
+bool tst_RecordingControl::IsToldOnRaising() const
+{
+    Window().findChild<QStatusBar*>()->clearMessage();
+    Window().Raise();
+    const bool isTold = m_app->StatusText().contains(QLatin1String("notifications"));
+    Window().hide();
+    return isTold;
 }
 
 void tst_RecordingControl::closesTheFileBeforeItQuits()
