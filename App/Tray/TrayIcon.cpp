@@ -122,8 +122,7 @@ void TrayIcon::ShowState()
     m_pauseAction->setEnabled(m_state.canPause);
     if (m_icon != nullptr) {
         m_icon->setIcon(IconOf(m_state));
-        m_icon->setToolTip(
-            tr("%1: %2").arg(QGuiApplication::applicationDisplayName(), text));
+        m_icon->setToolTip(tr("%1: %2").arg(QGuiApplication::applicationDisplayName(), text));
     }
 }
 
