@@ -15,6 +15,7 @@
 #include "PanelFormAssistant.h"
 #include "PanelFormKeys.h"
 #include "PanelFormMemory.h"
+#include "PanelFormTimer.h"
 #include "PanelListHeight.h"
 #include "PanelListKeys.h"
 #include "PanelMouse.h"
@@ -101,6 +102,7 @@ void SchedulePage::AssistPanel()
     new PanelAreaTip(m_panel, m_store);
     new PanelFormAssistant(m_panel, m_store);
     new PanelFormKeys(m_panel);
+    new PanelFormTimer(m_panel);
     m_formMemory = new PanelFormMemory(m_panel, m_store);
     new RadioGroupTabStop(m_parts->modeGroup);
     new RadioGroupTabStop(m_parts->areaGroup);
