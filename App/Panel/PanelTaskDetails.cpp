@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDateTime>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLayout>
@@ -72,6 +73,7 @@ PanelTaskDetails::PanelTaskDetails(QWidget* panel, std::shared_ptr<PX::SettingsS
     connect(qGuiApp, &QGuiApplication::screenAdded, this, &PanelTaskDetails::DescribeAnew);
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &PanelTaskDetails::DescribeAnew);
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &PanelTaskDetails::DescribeAnew);
+    m_parts.rows->installEventFilter(this);
     Update();
 }
 
@@ -124,10 +126,22 @@ void PanelTaskDetails::ScheduleUpdate(TimePoint now)
         return task.start + task.duration > now;
     });
     // Without one to come, a clock that is set back is noticed with the next change.
-    if (next != schedule.end()) {
+    if (next == schedule.end() || !m_parts.rows->isVisible()) {
+        m_timer->stop();
+    } else {
         const auto wait = std::chrono::ceil<milliseconds>(next->start + next->duration - now);
         m_timer->start(std::min<milliseconds>(wait, LongestWait));
     }
+}
+
+bool PanelTaskDetails::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Show) {
+        Update();
+    } else if (event->type() == QEvent::Hide) {
+        m_timer->stop();
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 QString PanelTaskDetails::DetailsOf(const PX::RecordTime& task, bool isOver) const

@@ -21,7 +21,8 @@ namespace Zentor::Desktop {
 ///
 /// A task that is over is marked, there and for the style sheet: the labels of its row have the
 /// property "TaskState" with the value "Over", any other value or none being a task to come. The
-/// marks follow the clock.
+/// marks follow the clock while the list is on screen, and are brought up to date when it comes
+/// there.
 class PanelTaskDetails final : public QObject {
     Q_OBJECT
 
@@ -29,6 +30,8 @@ public:
     /// Belongs to \a panel, which has been restored and keeps its schedule in \a store.
     PanelTaskDetails(QWidget* panel, std::shared_ptr<PX::SettingsStore> store);
     ~PanelTaskDetails() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void Update();

@@ -3,11 +3,13 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QTimeEdit>
+#include <QTimer>
 #include <QToolButton>
 
 #include "AppWindow.h"
 #include "FakeScreen.h"
 #include "PanelParts.h"
+#include "PanelTaskDetails.h"
 #include "Resources.h"
 #include "Theme.h"
 #include "WidgetTest.h"
@@ -153,6 +155,25 @@ private Q_SLOTS:
         QVERIFY(SaysOver(*Row(app, 0)));
         QVERIFY(Row(app, 0)->findChild<QLabel*>(Desktop::PanelPart::RowTitle)->font().italic());
         QVERIFY(!IsMarkedOver(*Row(app, 1)));
+    }
+
+    void restsWhileTheListIsNotOnScreen()
+    {
+        const AppWindow app(
+            {Task("Ends soon", Now() - 1min, 1min + 1s), Task("To come", Now() + 2h, 1h)});
+        const auto* timer =
+            app.window->findChild<Desktop::PanelTaskDetails*>()->findChild<QTimer*>();
+        QVERIFY(!timer->isActive());
+        QVERIFY(app.Show());
+        QVERIFY(timer->isActive());
+        app.window->hide();
+        QVERIFY(!timer->isActive());
+        QTRY_VERIFY_WITH_TIMEOUT(app.store->Settings().schedule.front().start + 1min + 1s < Now(),
+                                 60000);
+        QVERIFY(!IsMarkedOver(*Row(app, 0)));
+        app.window->show();
+        QVERIFY(IsMarkedOver(*Row(app, 0)));
+        QVERIFY(timer->isActive());
     }
 };
 
