@@ -60,6 +60,7 @@ void RecordingService::ConnectRecorders()
     });
     connect(&m_recorders, &RecorderPool::Recording, this,
             [this](RecordingId id, Moment firstFrame, const QString& file) {
+                m_titleWithoutRoom.clear();
                 m_runner.OnRecording(id, firstFrame, file, Now());
                 Follow();
                 TellBudget();
@@ -75,6 +76,11 @@ void RecordingService::ConnectRecorders()
     });
     connect(&m_recorders, &RecorderPool::NoRoomFound, this,
             [this](const QString& title, qint64 freeBytes) {
+                // It is tried again and again, and told once.
+                if (title == m_titleWithoutRoom) {
+                    return;
+                }
+                m_titleWithoutRoom = title;
                 Notice notice;
                 notice.kind = Notice::Kind::NoRoom;
                 notice.title = title;

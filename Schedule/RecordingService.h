@@ -132,6 +132,8 @@ private:
     std::vector<Notice> m_notices;
     std::vector<PX::RecordTime> m_removedTasks;
     bool m_isQuitAsked = false;
+    /// The task that was told not to start for want of room, while nothing has started since.
+    QString m_titleWithoutRoom;
     /// How many tasks were to come when the disk was looked at last.
     int m_budgetedTasks = 0;
     bool m_isLeaving = false;

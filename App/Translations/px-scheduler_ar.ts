@@ -1096,6 +1096,10 @@
         <source>A task is about to start.</source>
         <translation>توشك مهمة أن تبدأ.</translation>
     </message>
+    <message>
+        <source>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</source>
+        <translation>لا يعرض سطح المكتب إشعارات. تبيّن صفحة ”التسجيلات“ ما سُجّل وما لم يُسجّل.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::RecordingFooter</name>

@@ -1092,6 +1092,10 @@
         <source>A task is about to start.</source>
         <translation>Eine Aufgabe beginnt gleich.</translation>
     </message>
+    <message>
+        <source>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</source>
+        <translation>Der Desktop zeigt keine Benachrichtigungen an. Was aufgenommen wurde und was nicht, steht auf der Seite „Aufnahmen“.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::RecordingFooter</name>

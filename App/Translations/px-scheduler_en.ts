@@ -1092,6 +1092,10 @@
         <source>A task is about to start.</source>
         <translation>A task is about to start.</translation>
     </message>
+    <message>
+        <source>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</source>
+        <translation>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::RecordingFooter</name>

@@ -1092,6 +1092,10 @@
         <source>A task is about to start.</source>
         <translation>Una tarea está a punto de empezar.</translation>
     </message>
+    <message>
+        <source>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</source>
+        <translation>El escritorio no muestra notificaciones. La página «Grabaciones» indica qué se ha grabado y qué no.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::RecordingFooter</name>

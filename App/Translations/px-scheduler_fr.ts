@@ -1092,6 +1092,10 @@
         <source>A task is about to start.</source>
         <translation>Une tâche va démarrer.</translation>
     </message>
+    <message>
+        <source>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</source>
+        <translation>Le bureau n’affiche pas de notifications. La page « Enregistrements » indique ce qui a été enregistré et ce qui ne l’a pas été.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::RecordingFooter</name>

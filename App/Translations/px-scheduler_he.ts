@@ -1092,6 +1092,10 @@
         <source>A task is about to start.</source>
         <translation>משימה עומדת להתחיל.</translation>
     </message>
+    <message>
+        <source>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</source>
+        <translation>שולחן העבודה אינו מציג התראות. בדף ”הקלטות“ רואים מה הוקלט ומה לא.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::RecordingFooter</name>

@@ -1092,6 +1092,10 @@
         <source>A task is about to start.</source>
         <translation>Un’attività sta per iniziare.</translation>
     </message>
+    <message>
+        <source>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</source>
+        <translation>Il desktop non mostra notifiche. La pagina «Registrazioni» indica che cosa è stato registrato e che cosa no.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::RecordingFooter</name>

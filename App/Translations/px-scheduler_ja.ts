@@ -1091,6 +1091,10 @@
         <source>A task is about to start.</source>
         <translation>タスクがまもなく始まります。</translation>
     </message>
+    <message>
+        <source>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</source>
+        <translation>このデスクトップは通知を表示しません。録画できたものとできなかったものは「録画一覧」ページで確認できます。</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::RecordingFooter</name>

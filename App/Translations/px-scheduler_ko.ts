@@ -1091,6 +1091,10 @@
         <source>A task is about to start.</source>
         <translation>작업이 곧 시작됩니다.</translation>
     </message>
+    <message>
+        <source>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</source>
+        <translation>데스크톱이 알림을 표시하지 않습니다. 녹화된 것과 녹화되지 않은 것은 &apos;녹화 목록&apos; 페이지에서 확인할 수 있습니다.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::RecordingFooter</name>

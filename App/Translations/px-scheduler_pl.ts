@@ -1093,6 +1093,10 @@
         <source>A task is about to start.</source>
         <translation>Zadanie zaraz się zacznie.</translation>
     </message>
+    <message>
+        <source>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</source>
+        <translation>Pulpit nie pokazuje powiadomień. Strona „Nagrania” pokazuje, co zostało nagrane, a co nie.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::RecordingFooter</name>

@@ -1092,6 +1092,10 @@
         <source>A task is about to start.</source>
         <translation>Uma tarefa está prestes a começar.</translation>
     </message>
+    <message>
+        <source>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</source>
+        <translation>A área de trabalho não mostra notificações. A página “Gravações” informa o que foi gravado e o que não foi.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::RecordingFooter</name>

@@ -1093,6 +1093,10 @@
         <source>A task is about to start.</source>
         <translation>Задача вот-вот начнётся.</translation>
     </message>
+    <message>
+        <source>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</source>
+        <translation>Рабочий стол не показывает уведомлений. На странице «Записи» видно, что было записано, а что нет.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::RecordingFooter</name>

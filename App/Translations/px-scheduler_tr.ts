@@ -1091,6 +1091,10 @@
         <source>A task is about to start.</source>
         <translation>Bir görev birazdan başlıyor.</translation>
     </message>
+    <message>
+        <source>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</source>
+        <translation>Masaüstü bildirim göstermiyor. “Kayıtlar” sayfası nelerin kaydedildiğini, nelerin kaydedilmediğini gösterir.</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::RecordingFooter</name>

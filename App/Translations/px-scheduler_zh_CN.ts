@@ -1091,6 +1091,10 @@
         <source>A task is about to start.</source>
         <translation>任务即将开始。</translation>
     </message>
+    <message>
+        <source>The desktop shows no notifications. The page &quot;Recordings&quot; tells what was recorded, and what was not.</source>
+        <translation>桌面不显示通知。在“录制列表”页面上可以查看录制了什么、没有录制什么。</translation>
+    </message>
 </context>
 <context>
     <name>Zentor::Desktop::RecordingFooter</name>

@@ -281,10 +281,11 @@ void tst_RecordingService::startsNoTaskWithoutRoom()
     QFETCH(bool, isStarted);
     m_freeBytes = freeBytes;
     Begin();
-    SetTasks({Task("Lecture", SoonAfter(1s), 2s)});
+    SetTasks({Task("Lecture", SoonAfter(1s), 5s)});
     QTRY_VERIFY_WITH_TIMEOUT(HasOutcomes({isStarted ? Outcome::Complete : Outcome::Failed}),
                              Patience);
-    QCOMPARE(NoticesOf(Notice::Kind::NoRoom).empty(), isStarted);
+    // Once, however often it was tried.
+    QCOMPARE(NoticesOf(Notice::Kind::NoRoom).size(), std::size_t(isStarted ? 0 : 1));
     if (!isStarted) {
         QCOMPARE(Entries().front().reason, QString("disk-full"));
         QCOMPARE(NoticesOf(Notice::Kind::NoRoom).front().freeBytes, freeBytes);
