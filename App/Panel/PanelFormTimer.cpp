@@ -1,9 +1,9 @@
 #include "PanelFormTimer.h"
 
 #include <QCoreApplication>
+#include <QPushButton>
 #include <QTimer>
 #include <QTimerEvent>
-#include <QWidget>
 
 #include "PanelParts.h"
 
@@ -16,6 +16,10 @@ PanelFormTimer::PanelFormTimer(QWidget* panel)
 {
     if (m_timer != nullptr) {
         m_form->installEventFilter(this);
+        // The panel opens the form when it is clicked. A form on screen would tell what is wrong
+        // with its last input.
+        connect(PanelParts(*panel).addButton, &QAbstractButton::pressed, this,
+                &PanelFormTimer::Fire);
         m_timer->stop();
     }
 }
@@ -24,15 +28,18 @@ PanelFormTimer::~PanelFormTimer() = default;
 
 void PanelFormTimer::Fire()
 {
+    m_timer->start();
     QTimerEvent event(m_timer->timerId());
     QCoreApplication::sendEvent(m_timer, &event);
+    if (!m_form->isVisible()) {
+        m_timer->stop();
+    }
 }
 
 bool PanelFormTimer::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Show) {
         m_timer->start();
-        Fire();
     } else if (event->type() == QEvent::Hide) {
         m_timer->stop();
     }

@@ -8,8 +8,8 @@ class QWidget;
 namespace Zentor::Desktop {
 
 /// Has the task form of a scheduler panel keep its start in the future only while it is on screen,
-/// so that an idle program is not woken up several times a second. A form that comes on screen is
-/// brought up to date at once.
+/// so that an idle program is not woken up several times a second. A form that is opened is brought
+/// up to date first.
 class PanelFormTimer final : public QObject {
     Q_OBJECT
 
