@@ -68,8 +68,9 @@ QString FileSentence(const QString& file)
 NoticeText TextOfEntry(const Notice& notice)
 {
     NoticeText text;
-    const QString rest =
-        notice.goesOn ? Text::tr("The rest is recorded into a new file.") : QString();
+    // Where nothing was recorded yet, there is no rest.
+    const bool hasRest = notice.goesOn && !notice.entry.file.isEmpty();
+    const QString rest = hasRest ? Text::tr("The rest is recorded into a new file.") : QString();
     text.title = TitleOfEnd(notice);
     text.body =
         Sentences({ReasonSentence(notice.entry.reason), FileSentence(notice.entry.file), rest});

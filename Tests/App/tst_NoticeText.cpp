@@ -146,6 +146,15 @@ private Q_SLOTS:
         QVERIFY(text.body.endsWith(QLatin1String("The rest is recorded into a new file.")));
     }
 
+    void speaksOfNoRestOfWhatHasNotBegun()
+    {
+        Notice notice =
+            OfEntry(Notice::Kind::Failed, Outcome::Failed, QString(), Schedule::Why::NoRecorder);
+        notice.goesOn = true;
+        QCOMPARE(Desktop::TextOf(notice).body,
+                 QStringLiteral("Reason: the recorder is not installed."));
+    }
+
     void tellsEachAction_data()
     {
         QTest::addColumn<int>("action");

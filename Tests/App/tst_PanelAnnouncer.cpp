@@ -207,9 +207,12 @@ private Q_SLOTS:
         QTest::newRow("limited") << 0 << Desktop::PanelPart::LimitedModeButton << false << 7;
         QTest::newRow("schedule") << 0 << Desktop::PanelPart::ScheduledModeButton << false << 9;
         QTest::newRow("form") << 0 << Desktop::PanelPart::ScheduledModeButton << true << 14;
-        QTest::newRow("files") << PageRow::Files << Desktop::PanelPart::ScheduledModeButton << false << 4;
-        QTest::newRow("recording") << PageRow::Recording << Desktop::PanelPart::ScheduledModeButton << false << 12;
-        QTest::newRow("general") << PageRow::General << Desktop::PanelPart::ScheduledModeButton << false << 7;
+        QTest::newRow("files") << PageRow::Files << Desktop::PanelPart::ScheduledModeButton << false
+                               << 4;
+        QTest::newRow("recording")
+            << PageRow::Recording << Desktop::PanelPart::ScheduledModeButton << false << 12;
+        QTest::newRow("general") << PageRow::General << Desktop::PanelPart::ScheduledModeButton
+                                 << false << 7;
     }
 
     void namesEveryControl()

@@ -727,8 +727,7 @@ void RunnerModel::WaitAfter(const Attempt& attempt, bool wasLong, bool isFirstFr
     Memory& memory = MemoryOf(attempt.task);
     memory.breaks = wasLong ? 1 : memory.breaks + 1;
     const bool isFree = isFirstFree && memory.breaks == 1;
-    memory.retryAt =
-        m_now.sinceBoot + seconds(isFree ? 0 : delays[std::min(memory.breaks, 6) - 1]);
+    memory.retryAt = m_now.sinceBoot + seconds(isFree ? 0 : delays[std::min(memory.breaks, 6) - 1]);
 }
 
 void RunnerModel::BreakByHand(Attempt attempt, const QString& reason, bool wasLong)
