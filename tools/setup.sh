@@ -5,7 +5,8 @@
 
 # To build the application and run it: compiler and libraries; what compiles the translations; Qt's
 # plugins for SVG icons and for Wayland; Qt's own translations; fonts for every language. For the
-# recorder: GStreamer with what captures X11, PipeWire and sound, and what encodes it.
+# recorder: GStreamer with what captures X11, PipeWire and sound, what encodes it, and what decodes it
+# for the small pictures in the list of recordings.
 packages_to_run=(
     g++ cmake ninja-build
     qtbase5-dev libboost-dev libgoogle-glog-dev
@@ -15,7 +16,7 @@ packages_to_run=(
     pkg-config libgstreamer1.0-dev libgstreamer-plugins-base1.0-dev
     libx11-dev libxcb1-dev libxcb-randr0-dev
     gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-plugins-ugly
-    gstreamer1.0-x gstreamer1.0-pulseaudio gstreamer1.0-pipewire)
+    gstreamer1.0-x gstreamer1.0-pulseaudio gstreamer1.0-pipewire gstreamer1.0-libav)
 
 # To test it, in addition: linters; Qt's private headers, for stand-ins of a screen; a display that
 # nobody sees, with what works a window on it; the accessibility bus; what checks the files that the
@@ -27,7 +28,7 @@ packages_to_test=(
     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils
     dbus at-spi2-core python3-gi gir1.2-atspi-2.0 python3-dbusmock procps libglib2.0-bin
     appstream desktop-file-utils man-db
-    ffmpeg gstreamer1.0-libav
+    ffmpeg
     pipewire pipewire-bin pipewire-pulse wireplumber pulseaudio-utils)
 
 missing_packages() {
