@@ -6,6 +6,7 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QPushButton>
+#include <QTimer>
 #include <QUrl>
 
 #include "FooterState.h"
@@ -143,7 +144,8 @@ void RecordingControl::End()
 
 void RecordingControl::StartByHand()
 {
-    if (!m_service.StartByHand() && !m_service.IsRecording()) {
+    m_startsAfterClosing = m_service.Status().phase == RunnerStatus::Phase::Closing;
+    if (!m_startsAfterClosing && !m_service.StartByHand() && !m_service.IsRecording()) {
         m_window.Tell(tr("A task is about to start."));
     }
 }
@@ -174,6 +176,11 @@ void RecordingControl::ShowStatus()
     m_window.Footer()->SetStatus(status, Schedule::MachineClock().Now().wall);
     ShowTray(status);
     ShowCountdown(status.phase == RunnerStatus::Phase::Countdown);
+    if (m_startsAfterClosing && status.phase != RunnerStatus::Phase::Closing) {
+        m_startsAfterClosing = false;
+        // Later: the service is telling of the end.
+        QTimer::singleShot(0, this, &RecordingControl::StartByHand);
+    }
 }
 
 void RecordingControl::ShowTray(const RunnerStatus& status)

@@ -67,6 +67,8 @@ private:
     DesktopNotices m_notices;
     CountdownGuard m_guard;
     bool m_isCountingDown = false;
+    /// A recording was asked for while the last one is being closed.
+    bool m_startsAfterClosing = false;
     /// The desktop shows no notifications, and the user has not been told yet.
     bool m_isNotifierMissing = false;
     /// The window was closed, with all that it had to ask.

@@ -61,6 +61,7 @@ private Q_SLOTS:
 
     void recordsFromTheWindow();
     void obeysOtherCommandLines();
+    void startsAnewAsSoonAsTheLastFileIsClosed();
     void takesATaskThatIsDoneOutOfThePanel();
     void recordsOnWhileItsWindowIsClosed();
     void tellsWhereNothingElseCan();
@@ -183,6 +184,17 @@ void tst_RecordingControl::obeysOtherCommandLines()
     Q_EMIT m_instance->StopRequested();
     QCOMPARE(ExitCodeAfter([this] { Q_EMIT m_instance->QuitRequested(); }), EXIT_SUCCESS);
     QVERIFY(HasOutcomes({Outcome::Stopped}));
+}
+
+void tst_RecordingControl::startsAnewAsSoonAsTheLastFileIsClosed()
+{
+    Begin();
+    QVERIFY(m_instance->Do("start"));
+    QTRY_VERIFY_WITH_TIMEOUT(HasOutcomes({Outcome::Recording}), Patience);
+    QVERIFY(m_instance->Do("stop"));
+    QVERIFY(m_instance->Do("start"));
+    QVERIFY(HasOutcomes({Outcome::Recording}));
+    QTRY_VERIFY_WITH_TIMEOUT(HasOutcomes({Outcome::Stopped, Outcome::Recording}), Patience);
 }
 
 void tst_RecordingControl::takesATaskThatIsDoneOutOfThePanel()
