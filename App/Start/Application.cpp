@@ -21,6 +21,7 @@
 #include "CommandLine.h"
 #include "CoreInt/Printable.h"
 #include "DefaultSettingsFile.h"
+#include "DesktopEntryName.h"
 #include "Instance.h"
 #include "Languages.h"
 #include "Log.h"
@@ -295,7 +296,7 @@ int RunApplication(int argc, char** argv)
     const QVariantMap platformData = PlatformDataOfStart();
     const QApplication application(argc, argv);
     // So that the desktop finds name and icon of the window in the installed desktop entry.
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.zentor.PxScheduler"));
+    QGuiApplication::setDesktopFileName(DesktopEntryName());
     return line.screenshotsFolder.isEmpty() ? RunOnce(line, platformData) : RunOnCopy(line);
 }
 

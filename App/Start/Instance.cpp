@@ -6,21 +6,17 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <glog/logging.h>
 
 #include "ApplicationAdaptor.h"
+#include "DesktopEntryName.h"
+#include "PXUserSettings/PrivateFile.h"
 
 namespace Zentor::Desktop {
 namespace {
-
-/// The name of the desktop entry.
-QString DesktopName()
-{
-    return QStringLiteral("org.zentor.PxScheduler");
-}
 
 QString ObjectPath()
 {
@@ -56,20 +52,6 @@ QDBusMessage CallFor(Request request, const QString& busName, const QVariantMap&
     return callOf(application, "Activate") << platformData;
 }
 
-/// The path of \a file without symbolic links, also while it does not exist.
-QString RealPath(const QString& file)
-{
-    QFileInfo info(QFileInfo(file).absoluteFilePath());
-    constexpr int mostLinks = 40;
-    for (int links = 0; info.isSymLink() && !info.exists() && links < mostLinks; ++links) {
-        info.setFile(info.symLinkTarget());
-    }
-    if (info.exists()) {
-        return info.canonicalFilePath();
-    }
-    return info.isRoot() ? info.filePath() : QDir(RealPath(info.path())).filePath(info.fileName());
-}
-
 } // namespace
 
 QVariantMap PlatformDataOfStart()
@@ -98,7 +80,7 @@ Instance::Instance(const QString& settingsFile, const QString& defaultSettingsFi
 Instance::~Instance()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
-    for (const QString& name : {m_name, DesktopName()}) {
+    for (const QString& name : {m_name, DesktopEntryName()}) {
         bus.unregisterService(name);
     }
     bus.unregisterObject(ObjectPath());
@@ -106,10 +88,11 @@ Instance::~Instance()
 
 QString Instance::BusName(const QString& settingsFile)
 {
-    const QByteArray hash = QCryptographicHash::hash(QFile::encodeName(RealPath(settingsFile)),
-                                                     QCryptographicHash::Sha256);
+    const QString realPath = Util::RealPath(QFileInfo(settingsFile).absoluteFilePath());
+    const QByteArray hash =
+        QCryptographicHash::hash(QFile::encodeName(realPath), QCryptographicHash::Sha256);
     // No part of a bus name starts with a digit.
-    return QStringLiteral("%1.File%2").arg(DesktopName(), QString::fromLatin1(hash.toHex()));
+    return QStringLiteral("%1.File%2").arg(DesktopEntryName(), QString::fromLatin1(hash.toHex()));
 }
 
 bool Instance::IsFirst(const QVariantMap& platformData, Request request)
@@ -145,8 +128,9 @@ bool Instance::TakeName()
         return false;
     }
     // Another one on a default file, in another configuration folder, may have it.
-    if (m_isDefault && !bus.registerService(DesktopName())) {
-        LOG(INFO) << "Zentor::Desktop::Instance: name taken; name=" << DesktopName().toStdString();
+    if (m_isDefault && !bus.registerService(DesktopEntryName())) {
+        LOG(INFO) << "Zentor::Desktop::Instance: name taken; name="
+                  << DesktopEntryName().toStdString();
     }
     return true;
 }

@@ -9,6 +9,7 @@
 #include <QTimer>
 #include <QUrl>
 
+#include "DesktopEntryName.h"
 #include "FooterState.h"
 #include "HostInterfaces.h"
 #include "Instance.h"
@@ -25,6 +26,11 @@ namespace {
 using Schedule::Notice;
 using Schedule::RecordingService;
 using Schedule::RunnerStatus;
+
+Schedule::Moment Now()
+{
+    return Schedule::MachineClock().Now().wall;
+}
 
 /// As the panel asks for it.
 qint64 FreeBytesAt(const QString& folder)
@@ -45,7 +51,7 @@ RecordingControl::RecordingControl(const std::shared_ptr<PX::SettingsStore>& sto
     , m_screens(std::make_shared<DesktopScreens>(store))
     , m_service({store, recordings, m_screens, std::make_shared<Schedule::MachineClock>(),
                  Schedule::RecorderProgram(), FreeBytesAt})
-    , m_notifier(QStringLiteral("org.zentor.PxScheduler"))
+    , m_notifier(DesktopEntryName())
     , m_notices(m_notifier, [&window] { return window.isActiveWindow(); })
     , m_guard(window.Footer()->NowButton())
 {
@@ -65,10 +71,10 @@ void RecordingControl::ConnectService()
     connect(&m_service, &RecordingService::StatusChanged, this, &RecordingControl::ShowStatus);
     connect(&m_service, &RecordingService::Progressed, this, [this] {
         if (m_window.isVisible()) {
-            m_window.Footer()->SetStatus(m_service.Status(), Schedule::MachineClock().Now().wall);
+            m_window.Footer()->SetStatus(m_service.Status(), Now());
         }
     });
-    connect(&m_service, &RecordingService::Noticed, this, &RecordingControl::Tell);
+    connect(&m_service, &RecordingService::Noticed, &m_notices, &DesktopNotices::Tell);
     connect(&m_service, &RecordingService::TaskOver, &m_window, &MainWindow::RemoveTask);
     connect(&m_service, &RecordingService::QuitRequested, this, &RecordingControl::End);
     connect(&m_service, &RecordingService::AtRest, &m_window, [this] {
@@ -150,11 +156,6 @@ void RecordingControl::StartByHand()
     }
 }
 
-void RecordingControl::Tell(const Notice& notice)
-{
-    m_notices.Tell(notice);
-}
-
 void RecordingControl::TellOfMissingNotifier()
 {
     if (m_window.isVisible() && std::exchange(m_isNotifierMissing, false)) {
@@ -173,7 +174,7 @@ void RecordingControl::Open(const QString& file)
 void RecordingControl::ShowStatus()
 {
     const RunnerStatus status = m_service.Status();
-    m_window.Footer()->SetStatus(status, Schedule::MachineClock().Now().wall);
+    m_window.Footer()->SetStatus(status, Now());
     ShowTray(status);
     ShowCountdown(status.phase == RunnerStatus::Phase::Countdown);
     if (m_startsAfterClosing && status.phase != RunnerStatus::Phase::Closing) {
@@ -187,7 +188,7 @@ void RecordingControl::ShowTray(const RunnerStatus& status)
 {
     using Phase = RunnerStatus::Phase;
     TrayState state;
-    state.text = EventText(FooterStateOf(status, Schedule::MachineClock().Now().wall));
+    state.text = EventText(FooterStateOf(status, Now()));
     state.isRecording = status.phase == Phase::Recording;
     state.isPaused = status.isPaused;
     state.canStart = status.phase == Phase::Idle || status.phase == Phase::Countdown;

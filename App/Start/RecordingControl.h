@@ -49,7 +49,6 @@ private:
     void ConnectInstance(const Instance& instance);
     void ConnectNotices();
     void StartByHand();
-    void Tell(const Schedule::Notice& notice);
     /// In the window, as soon as that is shown: there is no other place.
     void TellOfMissingNotifier();
     void Open(const QString& file);

@@ -8,6 +8,8 @@
 
 #include "CoreInt/Printable.h"
 #include "DefaultSettingsFile.h"
+#include "DesktopEntryName.h"
+#include "PXUserSettings/PrivateFile.h"
 
 namespace Zentor::Desktop {
 namespace {
@@ -32,11 +34,9 @@ QString Quoted(const QString& argument)
     return QStringLiteral("\"%1\"").arg(quoted);
 }
 
-/// The real path of \a file, or the absolute one while it does not exist.
 QString RealPath(const QString& file)
 {
-    const QFileInfo info(file);
-    return info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
+    return Util::RealPath(QFileInfo(file).absoluteFilePath());
 }
 
 /// The value of \a line, when it has the form of an entry's line with \a key.
@@ -79,7 +79,7 @@ AutostartEntry AutostartEntry::OfThisProgram(const QString& settingsFile)
 QString AutostartEntry::FilePath()
 {
     return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
-        .filePath(QStringLiteral("autostart/org.zentor.PxScheduler.desktop"));
+        .filePath(QStringLiteral("autostart/%1.desktop").arg(DesktopEntryName()));
 }
 
 bool AutostartEntry::IsSet()
