@@ -3,18 +3,6 @@
 namespace Zentor::Schedule {
 namespace {
 
-QString NameOf(RecordingSettings::Quality quality)
-{
-    switch (quality) {
-    case RecordingSettings::Quality::Small:
-        return QStringLiteral("small");
-    case RecordingSettings::Quality::High:
-        return QStringLiteral("high");
-    default:
-        return QStringLiteral("normal");
-    }
-}
-
 QStringList SourceArguments(const RecordingSettings& settings)
 {
     if (settings.source == RecordingSettings::Source::Screen) {

@@ -128,7 +128,7 @@ QJsonObject Format(const RecordingSettings& settings)
 {
     return {{Key::Container, settings.container},
             {Key::FramesPerSecond, settings.framesPerSecond},
-            {Key::Quality, Qualities.at(static_cast<int>(settings.quality))},
+            {Key::Quality, NameOf(settings.quality)},
             {Key::ShowPointer, settings.showPointer},
             {Key::SoundDevices, QJsonArray::fromStringList(settings.soundDevices)},
             {Key::MixSound, settings.mixSound},
@@ -140,6 +140,11 @@ QJsonObject Format(const RecordingSettings& settings)
 }
 
 } // namespace
+
+QString NameOf(RecordingSettings::Quality quality)
+{
+    return Qualities.at(static_cast<int>(quality));
+}
 
 PX::SettingsSection RecordingSettingsSection()
 {

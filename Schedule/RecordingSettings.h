@@ -46,6 +46,9 @@ struct RecordingSettings {
     int countdownSeconds = 60;
 };
 
+/// What \a quality is called in the file and by the recorder: "small", "normal" or "high".
+QString NameOf(RecordingSettings::Quality quality);
+
 /// The section of the file, for PX::SettingsStore::AddSection().
 PX::SettingsSection RecordingSettingsSection();
 

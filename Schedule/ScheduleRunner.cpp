@@ -8,7 +8,6 @@ namespace Zentor::Schedule {
 namespace {
 
 using std::chrono::milliseconds;
-using std::chrono::minutes;
 using std::chrono::seconds;
 
 /// How long after its end a recording that was not paused may end by itself before it is stopped:

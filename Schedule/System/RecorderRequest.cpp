@@ -26,14 +26,6 @@ QJsonObject SourceOf(const RecorderRequest& request)
     return source;
 }
 
-QLatin1String NameOf(RecordingSettings::Quality quality)
-{
-    using Quality = RecordingSettings::Quality;
-    return quality == Quality::Small ? Capture::QualityName::Small
-        : quality == Quality::High   ? Capture::QualityName::High
-                                     : Capture::QualityName::Normal;
-}
-
 } // namespace
 
 QJsonObject LineOf(const RecorderRequest& request)
