@@ -48,6 +48,8 @@ class Night:
         self.settings = surroundings.path("settings.json")
         self.videos = surroundings.path("Videos")
         self.process = None
+        # When the recorder of the task "Killed" was killed.
+        self.killed = 0
         self.problems = []
 
     def write_settings(self, tasks):
@@ -132,6 +134,7 @@ def run_first_half(night, first):
     sleep_until(first + 16)
     night.check("one recorder runs", len(night.recorders()), 1)
     os.kill(night.recorders()[0], signal.SIGKILL)
+    night.killed = time.time()
     wait_for(lambda: len(night.entries("Killed")) == 2 and
              night.entries("Killed")[1]["outcome"] != "recording")
     wait_for(lambda: "Killed" not in night.tasks())
@@ -164,8 +167,10 @@ def check_recordings(night, first):
     gap = LONGEST_GAP_SECONDS * FRAMES_A_SECOND
     night.check_frames(night.entries("Back to back")[0], 5 * FRAMES_A_SECOND - gap,
                        5 * FRAMES_A_SECOND)
-    night.check_frames(night.entries("Killed")[0], 3 * FRAMES_A_SECOND, 4 * FRAMES_A_SECOND)
-    night.check_frames(night.entries("Killed")[1], 8 * FRAMES_A_SECOND - gap, 8 * FRAMES_A_SECOND)
+    before = int((night.killed - (first + 12)) * FRAMES_A_SECOND)
+    night.check_frames(night.entries("Killed")[0], before - gap, before)
+    night.check_frames(night.entries("Killed")[1], 12 * FRAMES_A_SECOND - before - gap,
+                       12 * FRAMES_A_SECOND - before)
     area = subprocess.run(
         ["ffprobe", "-v", "error", "-select_streams", "v", "-show_entries", "stream=width,height",
          "-of", "csv=p=0", night.entries("Area")[0]["file"]],
