@@ -35,6 +35,13 @@ void RemoveTasks(PX::SettingsStore& store, const std::vector<PX::RecordTime>& ta
     });
 }
 
+void LogEntry(const RecordingEntry& entry)
+{
+    LOG(INFO) << "Zentor::Schedule::RecordingService: outcome="
+              << NameOf(entry.outcome).toStdString() << "; reason=" << entry.reason.toStdString()
+              << "; title=" << Util::Printable(entry.title);
+}
+
 } // namespace
 
 RecordingService::RecordingService(ServiceParts parts, QObject* parent)
@@ -313,17 +320,13 @@ void RecordingService::RemoveTask(const PX::RecordTime& task)
 
 IRecordings::EntryId RecordingService::Add(const RecordingEntry& entry)
 {
-    LOG(INFO) << "Zentor::Schedule::RecordingService: outcome="
-              << NameOf(entry.outcome).toStdString() << "; reason=" << entry.reason.toStdString()
-              << "; title=" << Util::Printable(entry.title);
+    LogEntry(entry);
     return m_parts.recordings->Add(entry);
 }
 
 void RecordingService::Update(IRecordings::EntryId id, const RecordingEntry& entry)
 {
-    LOG(INFO) << "Zentor::Schedule::RecordingService: outcome="
-              << NameOf(entry.outcome).toStdString() << "; reason=" << entry.reason.toStdString()
-              << "; title=" << Util::Printable(entry.title);
+    LogEntry(entry);
     m_parts.recordings->Update(id, entry);
 }
 
