@@ -192,7 +192,7 @@ private Q_SLOTS:
         Start({});
         QCOMPARE(CurrentTheme(), Theme::Dark);
         portal.Prefer(2);
-        QTRY_COMPARE(CurrentTheme(), Theme::Light);
+        QTRY_COMPARE_WITH_TIMEOUT(CurrentTheme(), Theme::Light, Patience);
         Choose({}, QStringLiteral("light"));
         Witness witness(m_lookAndFeel);
         witness.show();
@@ -201,7 +201,7 @@ private Q_SLOTS:
         // Hears of the change after the application does.
         const Desktop::DesktopTheme other;
         portal.Prefer(1);
-        QTRY_COMPARE(other.Current(), Theme::Dark);
+        QTRY_COMPARE_WITH_TIMEOUT(other.Current(), Theme::Dark, Patience);
         QCOMPARE(CurrentTheme(), Theme::Light);
         QCOMPARE(witness.styleChanges, 0);
         Choose({}, QStringLiteral("dark"));

@@ -311,7 +311,7 @@ void tst_AreaPicker::outlineGoesByItself()
     QVERIFY(outline.windowFlags().testFlag(Qt::WindowTransparentForInput));
     // What it frames can be seen.
     QVERIFY(!outline.mask().contains(outline.rect().center()));
-    QTRY_VERIFY_WITH_TIMEOUT(WidgetsCalled("areaOutline").isEmpty(), 30000);
+    QTRY_VERIFY_WITH_TIMEOUT(WidgetsCalled("areaOutline").isEmpty(), Patience);
 }
 
 void tst_AreaPicker::outlineReplacesTheOneBefore()

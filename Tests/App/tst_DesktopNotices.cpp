@@ -9,8 +9,6 @@ namespace {
 using Desktop::DesktopNotices;
 using Schedule::Notice;
 
-constexpr int Patience = 20000;
-
 Notice Of(Notice::Kind kind, const QString& title = QStringLiteral("Lecture"))
 {
     Notice notice;

@@ -80,7 +80,7 @@ void tst_DesktopScreens::tellsOfScreensThatComeAndGo()
     const int before = changed.count();
     screen->LeaveDesktop();
     QWindowSystemInterface::handleScreenRemoved(screen);
-    QTRY_VERIFY(changed.count() > before);
+    QTRY_VERIFY_WITH_TIMEOUT(changed.count() > before, Patience);
     QVERIFY(!screens.IsThere(count));
 }
 

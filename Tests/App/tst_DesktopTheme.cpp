@@ -67,10 +67,10 @@ private Q_SLOTS:
         const DesktopTheme theme;
         const QSignalSpy changed(&theme, &DesktopTheme::Changed);
         portal.Prefer(1);
-        QTRY_COMPARE(theme.Current(), Theme::Dark);
+        QTRY_COMPARE_WITH_TIMEOUT(theme.Current(), Theme::Dark, Patience);
         QCOMPARE(changed.count(), 1);
         portal.Prefer(0);
-        QTRY_COMPARE(theme.Current(), Theme::Light);
+        QTRY_COMPARE_WITH_TIMEOUT(theme.Current(), Theme::Light, Patience);
         QCOMPARE(changed.count(), 2);
     }
 
@@ -86,7 +86,7 @@ private Q_SLOTS:
                                      QDBusVariant(2U));
         // What is sent later arrives later.
         portal.Prefer(2);
-        QTRY_COMPARE(theme.Current(), Theme::Light);
+        QTRY_COMPARE_WITH_TIMEOUT(theme.Current(), Theme::Light, Patience);
         QCOMPARE(changed.count(), 1);
     }
 

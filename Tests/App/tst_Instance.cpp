@@ -196,17 +196,17 @@ private Q_SLOTS:
     void servesWhileItRuns()
     {
         Program first({QStringLiteral("--settings"), SettingsFile()});
-        QTRY_VERIFY(IsOnBus(Instance::BusName(SettingsFile())));
+        QTRY_VERIFY_WITH_TIMEOUT(IsOnBus(Instance::BusName(SettingsFile())), Patience);
         QVERIFY(!IsOnBus(DesktopName));
         Program second({QStringLiteral("--settings"), SettingsFile()});
         QCOMPARE(second.ExitCode(), 0);
         const QString otherFile = m_folder->filePath(QStringLiteral("other.json"));
         Program other({QStringLiteral("--settings"), otherFile});
-        QTRY_VERIFY(IsOnBus(Instance::BusName(otherFile)));
+        QTRY_VERIFY_WITH_TIMEOUT(IsOnBus(Instance::BusName(otherFile)), Patience);
         QCOMPARE(first.process.state(), QProcess::Running);
         first.process.terminate();
         QCOMPARE(first.ExitCode(), 0);
-        QTRY_VERIFY(!IsOnBus(Instance::BusName(SettingsFile())));
+        QTRY_VERIFY_WITH_TIMEOUT(!IsOnBus(Instance::BusName(SettingsFile())), Patience);
     }
 
     void hasTheNameOfTheDesktopEntryOnTheDefaultFile()
@@ -290,7 +290,7 @@ private Q_SLOTS:
     void startsHiddenAndIsQuit()
     {
         Program first({QStringLiteral("--settings"), SettingsFile(), QStringLiteral("--hidden")});
-        QTRY_VERIFY_WITH_TIMEOUT(IsOnBus(Instance::BusName(SettingsFile())), 60000);
+        QTRY_VERIFY_WITH_TIMEOUT(IsOnBus(Instance::BusName(SettingsFile())), Patience);
         for (const auto& options : {QStringList{"--hidden"}, QStringList{}, QStringList{"--start"},
                                     QStringList{"--stop"}}) {
             Program other(QStringList{QStringLiteral("--settings"), SettingsFile()} + options);

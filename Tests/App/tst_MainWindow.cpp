@@ -159,7 +159,8 @@ private Q_SLOTS:
         // In a window without room for more rows than the style sheet asks for.
         Window().resize(Desktop::MainWindow::FirstSize().width(), 400);
         Click(Desktop::PanelPart::ScheduledModeButton);
-        QTRY_COMPARE(Find<QWidget>(Desktop::PanelPart::Table)->size(), QSize(710, height));
+        QTRY_COMPARE_WITH_TIMEOUT(Find<QWidget>(Desktop::PanelPart::Table)->size(),
+                                  QSize(710, height), Patience);
 
         // The numbers that the height is made of are the heights of what is shown.
         QCOMPARE(Find<QWidget>("headerFrame")->height(), 36);
@@ -167,7 +168,8 @@ private Q_SLOTS:
             count == 0 ? Desktop::PanelPart::PlaceholderRow : Desktop::PanelPart::Row;
         QCOMPARE(Find<QWidget>(row)->height(), 40);
         const auto* scrollArea = Find<QScrollArea>(Desktop::PanelPart::List);
-        QTRY_COMPARE(scrollArea->verticalScrollBar()->isVisible(), count > 5);
+        QTRY_COMPARE_WITH_TIMEOUT(scrollArea->verticalScrollBar()->isVisible(), count > 5,
+                                  Patience);
         QVERIFY(!scrollArea->horizontalScrollBar()->isVisible());
     }
 
@@ -315,7 +317,7 @@ private Q_SLOTS:
         Button("startRecordingButton")->setFocus();
         QTest::keyClick(Window().windowHandle(), static_cast<Qt::Key>(key),
                         Qt::KeyboardModifiers(modifier));
-        QTRY_COMPARE(m_requests, 1);
+        QTRY_COMPARE_WITH_TIMEOUT(m_requests, 1, Patience);
     }
 
     void startsNothingWhileATaskIsUnsettled_data()
@@ -434,7 +436,7 @@ private Q_SLOTS:
             page->ensureWidgetVisible(deleteButton);
             return deleteButton->visibleRegion();
         };
-        QTRY_COMPARE(regionInView(), QRegion(deleteButton->rect()));
+        QTRY_COMPARE_WITH_TIMEOUT(regionInView(), QRegion(deleteButton->rect()), Patience);
     }
 
     void hasOnlyIconsBesideThePageWhenNarrow()
@@ -445,15 +447,15 @@ private Q_SLOTS:
         QCOMPARE(entry->text(), QString());
         QCOMPARE(entry->toolTip(), QStringLiteral("Files"));
         QCOMPARE(entry->data(Qt::AccessibleTextRole).toString(), QStringLiteral("Files"));
-        QTRY_COMPARE(Find<QWidget>("sidebar")->width(), 62);
+        QTRY_COMPARE_WITH_TIMEOUT(Find<QWidget>("sidebar")->width(), 62, Patience);
         QCOMPARE(Find<QWidget>(Desktop::PanelPart::Table)->width(), 710);
         Window().resize(863, 700);
-        QTRY_COMPARE(Find<QWidget>(Desktop::PanelPart::Table)->width(), 512);
+        QTRY_COMPARE_WITH_TIMEOUT(Find<QWidget>(Desktop::PanelPart::Table)->width(), 512, Patience);
         Window().resize(1010, 700);
-        QTRY_COMPARE(Find<QWidget>(Desktop::PanelPart::Table)->width(), 710);
+        QTRY_COMPARE_WITH_TIMEOUT(Find<QWidget>(Desktop::PanelPart::Table)->width(), 710, Patience);
         QCOMPARE(entry->text(), QStringLiteral("Files"));
         QCOMPARE(entry->toolTip(), QString());
-        QTRY_COMPARE(Find<QWidget>("sidebar")->width(), 208);
+        QTRY_COMPARE_WITH_TIMEOUT(Find<QWidget>("sidebar")->width(), 208, Patience);
     }
 
     void tellsWhenSavingFailsAndWhenItWorksAgain()
@@ -699,8 +701,8 @@ private Q_SLOTS:
                                [&question] { question.button(QMessageBox::No)->click(); });
         });
         PageList()->setCurrentRow(PageRow::Files);
-        QTRY_VERIFY(box.Came());
-        QTRY_VERIFY(!NameEdit()->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(box.Came(), Patience);
+        QTRY_VERIFY_WITH_TIMEOUT(!NameEdit()->isVisible(), Patience);
         QCOMPARE(PageList()->currentRow(), PageRow::General);
         QVERIFY(Find<QWidget>("languageBox")->isVisible());
     }
@@ -732,7 +734,7 @@ private Q_SLOTS:
         BeginTask(title);
         const ExpectedBox box(static_cast<QMessageBox::StandardButton>(answer));
         ClickPage(PageRow::Files);
-        QTRY_VERIFY(box.Came());
+        QTRY_VERIFY_WITH_TIMEOUT(box.Came(), Patience);
         QCOMPARE(PageList()->currentRow(), isFinished ? PageRow::Files : PageRow::Schedule);
         QCOMPARE(PageList()->selectedItems(), QList{PageList()->currentItem()});
         QCOMPARE(Find<QLineEdit>("resultsFolderEdit")->isVisible(), isFinished);
@@ -780,7 +782,7 @@ private Q_SLOTS:
         } else {
             ClickPage(PageRow::Files);
         }
-        QTRY_VERIFY(box.Came());
+        QTRY_VERIFY_WITH_TIMEOUT(box.Came(), Patience);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 

@@ -85,7 +85,7 @@ private Q_SLOTS:
         QVERIFY(!Window().close());
         QVERIFY(!Window().isVisible());
         Window().Raise();
-        QTRY_VERIFY(m_app->IsFormOpen());
+        QTRY_VERIFY_WITH_TIMEOUT(m_app->IsFormOpen(), Patience);
         QCOMPARE(NameEdit()->text(), QStringLiteral("Unfinished"));
     }
 
@@ -186,7 +186,7 @@ private Q_SLOTS:
         QCOMPARE(closed.count(), 1);
         m_app->Reopen();
         QVERIFY(m_app->Show());
-        QTRY_VERIFY(m_app->IsFormOpen());
+        QTRY_VERIFY_WITH_TIMEOUT(m_app->IsFormOpen(), Patience);
         QCOMPARE(NameEdit()->text(), QStringLiteral("Unfinished"));
     }
 
@@ -210,7 +210,7 @@ private Q_SLOTS:
         const ExpectedBox box([this](QMessageBox&) { m_app->window.reset(); });
         // As a user does it, who leaves no caller behind in the window.
         QTimer::singleShot(0, &Window(), &MainWindow::Quit);
-        QTRY_VERIFY(box.Came());
+        QTRY_VERIFY_WITH_TIMEOUT(box.Came(), Patience);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 

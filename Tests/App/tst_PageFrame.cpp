@@ -113,7 +113,7 @@ private Q_SLOTS:
         QGuiApplication::setLayoutDirection(direction);
         Window window;
         QVERIFY(QTest::qWaitForWindowActive(&window.frame));
-        QTRY_VERIFY(window.frame.verticalScrollBar()->maximum() > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(window.frame.verticalScrollBar()->maximum() > 0, Patience);
         window.page->last->setFocus(Qt::TabFocusReason);
         QVERIFY(window.IsInView(window.page->last));
         QVERIFY(!window.IsInView(window.page->first));
@@ -125,7 +125,7 @@ private Q_SLOTS:
     {
         Window window;
         QVERIFY(QTest::qWaitForWindowActive(&window.frame));
-        QTRY_VERIFY(window.frame.verticalScrollBar()->maximum() > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(window.frame.verticalScrollBar()->maximum() > 0, Patience);
         window.page->last->setFocus(Qt::TabFocusReason);
         window.page->first->move(window.page->last->pos() - QPoint(0, 60));
         const int before = window.frame.verticalScrollBar()->value();
@@ -140,19 +140,19 @@ private Q_SLOTS:
         const Window window;
         auto* part = window.page->last;
         part->setFixedHeight(20);
-        QTRY_COMPARE(window.frame.verticalScrollBar()->value(), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(window.frame.verticalScrollBar()->value(), 0, Patience);
         QVERIFY(!window.IsInView(part));
         Q_EMIT window.page->RevealRequested(part);
         // As a layout does it: in a later pass of the event loop.
         QVERIFY(!window.IsInView(part));
-        QTRY_VERIFY(window.IsInView(part));
+        QTRY_VERIFY_WITH_TIMEOUT(window.IsInView(part), Patience);
     }
 
     void headIsWrappedAlikeWithAndWithoutAScrollBar()
     {
         const Window small({100, 100});
         const Window big({100, 2000});
-        QTRY_VERIFY(big.frame.verticalScrollBar()->maximum() > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(big.frame.verticalScrollBar()->maximum() > 0, Patience);
         QCOMPARE(small.frame.verticalScrollBar()->maximum(), 0);
         QCOMPARE(big.Label("pageTitle")->parentWidget()->maximumWidth(),
                  small.Label("pageTitle")->parentWidget()->maximumWidth());

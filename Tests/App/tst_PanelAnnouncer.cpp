@@ -172,7 +172,7 @@ private Q_SLOTS:
         } else {
             app.Press(Qt::Key_Escape);
         }
-        QTRY_VERIFY(box.Came());
+        QTRY_VERIFY_WITH_TIMEOUT(box.Came(), Patience);
         QCOMPARE(app.StatusText(), QString());
     }
 

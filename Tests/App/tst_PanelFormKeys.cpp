@@ -208,7 +208,7 @@ private Q_SLOTS:
         box->showPopup();
         QVERIFY(QApplication::activePopupWidget() != nullptr);
         app.Press(static_cast<Qt::Key>(key));
-        QTRY_VERIFY(QApplication::activePopupWidget() == nullptr);
+        QTRY_VERIFY_WITH_TIMEOUT(QApplication::activePopupWidget() == nullptr, Patience);
         QVERIFY(app.IsFormOpen());
         QVERIFY(!IsBoxOpen());
 
@@ -216,9 +216,9 @@ private Q_SLOTS:
         date->setFocus();
         QTest::mouseClick(date, Qt::LeftButton, Qt::NoModifier,
                           QPoint(date->width() - 8, date->height() / 2));
-        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        QTRY_VERIFY_WITH_TIMEOUT(QApplication::activePopupWidget() != nullptr, Patience);
         app.Press(static_cast<Qt::Key>(key));
-        QTRY_VERIFY(QApplication::activePopupWidget() == nullptr);
+        QTRY_VERIFY_WITH_TIMEOUT(QApplication::activePopupWidget() == nullptr, Patience);
         QVERIFY(app.IsFormOpen());
         QCOMPARE(app.Titles(), QStringLiteral("Task 1"));
     }
@@ -284,7 +284,7 @@ private Q_SLOTS:
         app.Press(Qt::Key_Down);
         QCOMPARE(date->calendarWidget()->selectedDate(), QDate(2031, 3, 20));
         app.Press(static_cast<Qt::Key>(key));
-        QTRY_VERIFY(!date->calendarWidget()->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!date->calendarWidget()->isVisible(), Patience);
         QCOMPARE(date->date(), QDate(2031, 3, 12).addDays(days));
         QVERIFY(date->hasFocus());
         QVERIFY(app.IsFormOpen());

@@ -51,7 +51,7 @@ private Q_SLOTS:
         QVERIFY(app.window->SaveUnattended());
         app.Reopen();
         QVERIFY(app.Show());
-        QTRY_VERIFY(app.IsFormOpen());
+        QTRY_VERIFY_WITH_TIMEOUT(app.IsFormOpen(), Patience);
         QCOMPARE(app.Find<QLineEdit>(PanelPart::NameField)->text(), QStringLiteral("Lecture "));
         QCOMPARE(app.Find<QDateTimeEdit>(PanelPart::DateField)->date(), InTwoDays().date());
         QCOMPARE(app.Find<QDateTimeEdit>(PanelPart::StartField)->dateTime(), InTwoDays());
@@ -71,9 +71,9 @@ private Q_SLOTS:
         Desktop::RememberUnfinishedTask(*app.store, task);
         app.Reopen();
         QVERIFY(app.Show());
-        QTRY_VERIFY(app.IsFormOpen());
+        QTRY_VERIFY_WITH_TIMEOUT(app.IsFormOpen(), Patience);
         const auto* start = app.Find<QDateTimeEdit>(PanelPart::StartField);
-        QTRY_VERIFY(start->dateTime() > QDateTime::currentDateTime());
+        QTRY_VERIFY_WITH_TIMEOUT(start->dateTime() > QDateTime::currentDateTime(), Patience);
         constexpr int atMostSeconds = 10;
         QVERIFY(start->dateTime() <= QDateTime::currentDateTime().addSecs(atMostSeconds));
     }
@@ -95,7 +95,7 @@ private Q_SLOTS:
         QVERIFY(app.window->SaveUnattended());
         app.Reopen();
         QVERIFY(app.Show());
-        QTRY_VERIFY(app.IsFormOpen());
+        QTRY_VERIFY_WITH_TIMEOUT(app.IsFormOpen(), Patience);
         QVERIFY(Desktop::UnfinishedTaskIn(*app.store));
         const ExpectedBox box(QMessageBox::No);
         app.Button(button)->click();

@@ -25,14 +25,14 @@ private Q_SLOTS:
         const AppWindow app(20);
         QVERIFY(app.Show());
         app.window->resize(1040, 800);
-        QTRY_VERIFY(IsFull(app));
+        QTRY_VERIFY_WITH_TIMEOUT(IsFull(app), Patience);
         const int rows = RowsInView(app);
         QVERIFY(rows > LeastRows);
         app.window->resize(1040, 800 + 4 * RowHeight);
-        QTRY_COMPARE(RowsInView(app), rows + 4);
-        QTRY_VERIFY(IsFull(app));
+        QTRY_COMPARE_WITH_TIMEOUT(RowsInView(app), rows + 4, Patience);
+        QTRY_VERIFY_WITH_TIMEOUT(IsFull(app), Patience);
         app.window->resize(1040, 800);
-        QTRY_COMPARE(RowsInView(app), rows);
+        QTRY_COMPARE_WITH_TIMEOUT(RowsInView(app), rows, Patience);
     }
 
     void keepsTheLeastRowsInASmallWindow()
@@ -40,7 +40,7 @@ private Q_SLOTS:
         const AppWindow app(20);
         QVERIFY(app.Show());
         app.window->resize(640, 360);
-        QTRY_COMPARE(RowsInView(app), LeastRows);
+        QTRY_COMPARE_WITH_TIMEOUT(RowsInView(app), LeastRows, Patience);
     }
 
     void isNoLongerThanItsTasks()
@@ -49,7 +49,8 @@ private Q_SLOTS:
         QVERIFY(app.Show());
         app.window->resize(1040, 1400);
         QCoreApplication::sendPostedEvents();
-        QTRY_COMPARE(app.Find(Desktop::PanelPart::List)->height() / RowHeight, 3);
+        QTRY_COMPARE_WITH_TIMEOUT(app.Find(Desktop::PanelPart::List)->height() / RowHeight, 3,
+                                  Patience);
         QCOMPARE(List(app).verticalScrollBar()->maximum(), 0);
     }
 
@@ -58,12 +59,12 @@ private Q_SLOTS:
         const AppWindow app(20);
         QVERIFY(app.Show());
         app.window->resize(1040, 1000);
-        QTRY_VERIFY(IsFull(app));
+        QTRY_VERIFY_WITH_TIMEOUT(IsFull(app), Patience);
         const int rows = RowsInView(app);
         Desktop::ApplyTheme(Desktop::Theme::Dark);
-        QTRY_COMPARE(RowsInView(app), rows);
+        QTRY_COMPARE_WITH_TIMEOUT(RowsInView(app), rows, Patience);
         Desktop::ApplyTheme(Desktop::Theme::Light);
-        QTRY_COMPARE(RowsInView(app), rows);
+        QTRY_COMPARE_WITH_TIMEOUT(RowsInView(app), rows, Patience);
     }
 
     void staysWhenTheLanguageChanges()
@@ -71,11 +72,11 @@ private Q_SLOTS:
         const AppWindow app(20);
         QVERIFY(app.Show());
         app.window->resize(1040, 1000);
-        QTRY_VERIFY(IsFull(app));
+        QTRY_VERIFY_WITH_TIMEOUT(IsFull(app), Patience);
         const int rows = RowsInView(app);
         LanguageSwitch language;
         language.Toggle();
-        QTRY_COMPARE(RowsInView(app), rows);
+        QTRY_COMPARE_WITH_TIMEOUT(RowsInView(app), rows, Patience);
     }
 
 private:

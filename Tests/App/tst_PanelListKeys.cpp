@@ -220,7 +220,7 @@ private Q_SLOTS:
         QCOMPARE(Rows(app).size(), 21);
         QAbstractButton* button = Rows(app).constFirst();
         QCOMPARE(button->accessibleName(), QStringLiteral("Delete Standup"));
-        QTRY_COMPARE(button->visibleRegion(), QRegion(button->rect()));
+        QTRY_COMPARE_WITH_TIMEOUT(button->visibleRegion(), QRegion(button->rect()), Patience);
     }
 
     void tabsThroughNewTasksInTheirOrder()
@@ -238,7 +238,7 @@ private Q_SLOTS:
                                    QStringLiteral("Delete Task 2"),
                                    AddButton,
                                    QStringLiteral("startRecordingButton")};
-        QTRY_COMPARE(app.TabStops(), expected);
+        QTRY_COMPARE_WITH_TIMEOUT(app.TabStops(), expected, Patience);
     }
 
 private:

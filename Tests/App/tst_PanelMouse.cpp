@@ -84,7 +84,7 @@ private Q_SLOTS:
         const AppWindow app(20);
         QVERIFY(app.Show());
         auto* list = app.Find<QScrollArea>(Desktop::PanelPart::List);
-        QTRY_VERIFY(list->verticalScrollBar()->maximum() > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(list->verticalScrollBar()->maximum() > 0, Patience);
         Wheel(list->viewport(), -120);
         QVERIFY(list->verticalScrollBar()->value() > 0);
         Wheel(list->viewport(), 120);
@@ -102,7 +102,7 @@ private Q_SLOTS:
             Wheel(app.Find<QScrollArea>(Desktop::PanelPart::List)->viewport(), -120);
             return page->verticalScrollBar()->value();
         };
-        QTRY_VERIFY(scrollPage() > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(scrollPage() > 0, Patience);
     }
 
 private:

@@ -60,7 +60,7 @@ private Q_SLOTS:
         QCOMPARE(changes.size(), 1);
 
         app.Type("c");
-        QTRY_VERIFY(!QToolTip::isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!QToolTip::isVisible(), Patience);
         QCOMPARE(app.StatusText(), QString());
         QCOMPARE(changes.size(), 2);
         app.Type("d");
@@ -141,7 +141,7 @@ private Q_SLOTS:
         const ExpectedBox box(QMessageBox::No);
         app.Press(Qt::Key_Escape);
         QVERIFY(box.Came());
-        QTRY_VERIFY(!QToolTip::isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!QToolTip::isVisible(), Patience);
         QCOMPARE(app.StatusText(), QString());
     }
 

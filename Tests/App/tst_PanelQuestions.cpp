@@ -191,7 +191,7 @@ private Q_SLOTS:
             return box.Came() && isInView;
         };
         // The list takes the height that it has in the window only after some rounds.
-        QTRY_VERIFY(isInViewWhenAsked());
+        QTRY_VERIFY_WITH_TIMEOUT(isInViewWhenAsked(), Patience);
     }
 
     void marksNothingForOtherQuestions()

@@ -115,7 +115,8 @@ private Q_SLOTS:
         app.Find<QTimeEdit>(Desktop::PanelPart::DurationField)->setTime(QTime(0, 30));
         app.Find<QComboBox>(Desktop::PanelPart::ActionBox)->setCurrentIndex(PX::Hibernate);
         app.Button(Desktop::PanelPart::CreateButton)->click();
-        QTRY_VERIFY(Row(app, 0)->toolTip().endsWith(QLatin1String("Afterwards: Hibernate")));
+        QTRY_VERIFY_WITH_TIMEOUT(
+            Row(app, 0)->toolTip().endsWith(QLatin1String("Afterwards: Hibernate")), Patience);
         QVERIFY(Row(app, 1)->toolTip().endsWith(QLatin1String("Afterwards: Restart")));
     }
 
@@ -124,9 +125,12 @@ private Q_SLOTS:
         const AppWindow app({Task("A", At("10:00"), 1h, 1)});
         QVERIFY(Row(app, 0)->toolTip().contains(QLatin1String("not connected")));
         FakeScreen* screen = Plug(QStringLiteral("HDMI-A-1"));
-        QTRY_VERIFY(Row(app, 0)->toolTip().contains(QLatin1String("Records: HDMI-A-1\n")));
+        QTRY_VERIFY_WITH_TIMEOUT(
+            Row(app, 0)->toolTip().contains(QLatin1String("Records: HDMI-A-1\n")), Patience);
         Unplug(screen);
-        QTRY_VERIFY(Row(app, 0)->accessibleDescription().contains(QLatin1String("not connected")));
+        QTRY_VERIFY_WITH_TIMEOUT(
+            Row(app, 0)->accessibleDescription().contains(QLatin1String("not connected")),
+            Patience);
     }
 
     void marksWhatIsOver()
@@ -151,7 +155,7 @@ private Q_SLOTS:
             {Task("Ends soon", Now() - 1min, 1min + 1s), Task("To come", Now() + 2h, 1h)});
         QVERIFY(app.Show());
         QVERIFY(!IsMarkedOver(*Row(app, 0)));
-        QTRY_VERIFY_WITH_TIMEOUT(IsMarkedOver(*Row(app, 0)), 60000);
+        QTRY_VERIFY_WITH_TIMEOUT(IsMarkedOver(*Row(app, 0)), Patience);
         QVERIFY(SaysOver(*Row(app, 0)));
         QVERIFY(Row(app, 0)->findChild<QLabel*>(Desktop::PanelPart::RowTitle)->font().italic());
         QVERIFY(!IsMarkedOver(*Row(app, 1)));

@@ -196,7 +196,7 @@ private Q_SLOTS:
         QVERIFY(!create->isEnabled());
         Remove(app, "Task 1");
         QVERIFY(create->isEnabled());
-        QTRY_COMPARE(app.StatusText(), QString());
+        QTRY_COMPARE_WITH_TIMEOUT(app.StatusText(), QString(), Patience);
     }
 
     void waitsForAnAnswer_data()
@@ -225,7 +225,7 @@ private Q_SLOTS:
         });
         DeleteButtonFor(app, asked)->click();
         QVERIFY(box.Came());
-        QTRY_COMPARE(app.Titles(), left);
+        QTRY_COMPARE_WITH_TIMEOUT(app.Titles(), left, Patience);
         QVERIFY(!IsBoxOpen());
         QTest::qWait(0);
         QCOMPARE(RowCount(app), left.count(',') + 1);
@@ -249,7 +249,7 @@ private Q_SLOTS:
         });
         DeleteButtonFor(app, "Task 1")->click();
         QVERIFY(box.Came());
-        QTRY_COMPARE(RowCount(app), 2);
+        QTRY_COMPARE_WITH_TIMEOUT(RowCount(app), 2, Patience);
         QCOMPARE(app.Titles(), QStringLiteral("Task 1,Task 4"));
         QVERIFY(DeleteButtonFor(app, "Task 4") != nullptr);
         QCOMPARE(announced.count(), 0);
@@ -269,7 +269,7 @@ private Q_SLOTS:
         });
         app.Press(Qt::Key_Escape);
         QVERIFY(box.Came());
-        QTRY_COMPARE(app.Titles(), QString());
+        QTRY_COMPARE_WITH_TIMEOUT(app.Titles(), QString(), Patience);
         QVERIFY(app.IsFormOpen());
     }
 
@@ -283,18 +283,18 @@ private Q_SLOTS:
         Remove(app, "Task 1");
         QCOMPARE(RowCount(app), 2);
         box.hide();
-        QTRY_COMPARE(RowCount(app), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(RowCount(app), 1, Patience);
     }
 
     void keepsTheScrollPlace()
     {
         const AppWindow app(ManyTasks - 20);
         QVERIFY(app.Show());
-        QTRY_VERIFY(ListBar(app)->maximum() > 100);
+        QTRY_VERIFY_WITH_TIMEOUT(ListBar(app)->maximum() > 100, Patience);
         ListBar(app)->setValue(100);
         const int top = TopOf(app, "Task 6");
         Remove(app, "Task 1");
-        QTRY_COMPARE(ListBar(app)->value(), 60);
+        QTRY_COMPARE_WITH_TIMEOUT(ListBar(app)->value(), 60, Patience);
         QTest::qWait(0);
         QCOMPARE(TopOf(app, "Task 6"), top);
         Remove(app, "Task 20");

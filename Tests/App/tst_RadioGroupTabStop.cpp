@@ -75,7 +75,7 @@ private Q_SLOTS:
         m_buttons[0]->setFocus();
         QTest::keyClick(m_buttons[0], Qt::Key_Down);
         QVERIFY(m_buttons[0]->isChecked());
-        QTRY_VERIFY(m_buttons[0]->hasFocus());
+        QTRY_VERIFY_WITH_TIMEOUT(m_buttons[0]->hasFocus(), Patience);
         QCOMPARE(Stops(), QStringLiteral("0"));
     }
 

@@ -38,7 +38,6 @@ using Schedule::Outcome;
 using Schedule::RecordingEntry;
 using Schedule::RecordingsList;
 
-constexpr int Patience = 60'000;
 constexpr int NeverEnded = -1;
 
 /// A task called "Lecture" that starts in a moment.

@@ -580,13 +580,14 @@ private Q_SLOTS:
         RunnerStatus status = Preparing(8s);
         status.title = title;
         stage.Set(status);
-        QTRY_VERIFY(
-            stage.Text("recordingHeadlineLabel").endsWith(QStringLiteral("…” starts in 8 s")));
+        QTRY_VERIFY_WITH_TIMEOUT(
+            stage.Text("recordingHeadlineLabel").endsWith(QStringLiteral("…” starts in 8 s")),
+            Patience);
         const auto* label = stage.Find<QLabel>("recordingHeadlineLabel");
         QCOMPARE(label->textFormat(), Qt::PlainText);
         QVERIFY(label->toolTip().contains(title.trimmed().toHtmlEscaped()));
         stage.window.resize(4000, 160);
-        QTRY_VERIFY(stage.Text("recordingHeadlineLabel").contains(title));
+        QTRY_VERIFY_WITH_TIMEOUT(stage.Text("recordingHeadlineLabel").contains(title), Patience);
         QCOMPARE(label->toolTip(), QString());
     }
 

@@ -138,7 +138,7 @@ private Q_SLOTS:
         QVERIFY(!m_model->FactsAt(2));
         const QSignalSpy changed(m_model.get(), &RecordingsModel::dataChanged);
         m_model->LookAt(1, 3);
-        QTRY_COMPARE(changed.count(), 2);
+        QTRY_COMPARE_WITH_TIMEOUT(changed.count(), 2, Patience);
         QVERIFY(m_model->FactsAt(2)->exists);
         QCOMPARE(m_model->FactsAt(2)->bytes, 1500);
         QVERIFY(!m_model->FactsAt(3)->exists);
@@ -156,7 +156,7 @@ private Q_SLOTS:
         m_list->Add(EntryCalled("Lecture", path));
         m_model->SetList(m_list);
         m_model->LookAt(0, 0);
-        QTRY_VERIFY(m_model->FactsAt(0));
+        QTRY_VERIFY_WITH_TIMEOUT(m_model->FactsAt(0), Patience);
         QVERIFY(!m_model->FactsAt(0)->exists);
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
@@ -166,7 +166,7 @@ private Q_SLOTS:
         m_model->ForgetFiles();
         QVERIFY(m_model->FactsAt(0));
         m_model->LookAt(0, 0);
-        QTRY_VERIFY(m_model->FactsAt(0)->exists);
+        QTRY_VERIFY_WITH_TIMEOUT(m_model->FactsAt(0)->exists, Patience);
     }
 
     void showsPictures()
@@ -175,7 +175,7 @@ private Q_SLOTS:
         m_list->Add(EntryCalled("Lecture", path));
         m_model->SetList(m_list);
         m_model->LookAt(0, 0);
-        QTRY_VERIFY(m_model->FactsAt(0));
+        QTRY_VERIFY_WITH_TIMEOUT(m_model->FactsAt(0), Patience);
         const QSignalSpy changed(m_model.get(), &RecordingsModel::dataChanged);
         m_model->SetPicture(path, QImage(4, 3, QImage::Format_RGB32));
         QCOMPARE(changed.count(), 1);

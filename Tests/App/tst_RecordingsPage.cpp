@@ -20,9 +20,6 @@ using Schedule::Outcome;
 using Schedule::RecordingEntry;
 using Schedule::RecordingsList;
 
-/// Long enough for a loaded machine to start some programs.
-constexpr int Patience = 60000;
-
 /// Takes the place of the programs of the desktop.
 class Opener : public QObject {
     Q_OBJECT
@@ -120,7 +117,7 @@ private Q_SLOTS:
         m_list->Add({"Lecture", Moment(5s), Moment(9s), Outcome(outcome), path, reason});
         QCOMPARE(Allowed(), QString());
         View()->setCurrentIndex(View()->model()->index(0, 0));
-        QTRY_COMPARE(Allowed(), allowed);
+        QTRY_COMPARE_WITH_TIMEOUT(Allowed(), allowed, Patience);
     }
 
     void opens_data()
@@ -173,7 +170,7 @@ private Q_SLOTS:
         // Files are looked at anew when the page is shown again.
         m_page->hide();
         m_page->show();
-        QTRY_COMPARE(Allowed(), QStringLiteral("show remove"));
+        QTRY_COMPARE_WITH_TIMEOUT(Allowed(), QStringLiteral("show remove"), Patience);
         QVERIFY(View()->currentIndex().data(Qt::AccessibleTextRole).toString().contains("gone"));
     }
 
@@ -182,7 +179,7 @@ private Q_SLOTS:
         Opener opener;
         Select("Lecture", "a.mkv");
         Button("showRecordingButton")->click();
-        QTRY_COMPARE(opener.opened, QStringList{m_folder->path()});
+        QTRY_COMPARE_WITH_TIMEOUT(opener.opened, QStringList{m_folder->path()}, Patience);
     }
 
     void movesToTheTrash_data()
@@ -270,7 +267,7 @@ private Q_SLOTS:
         QFETCH(QString, work);
         QFETCH(QString, problem);
         Select("Lecture", "a.mkv", Outcome::Partial, Schedule::Why::ProgramDied);
-        QTRY_VERIFY(Button("repairRecordingButton")->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(Button("repairRecordingButton")->isEnabled(), Patience);
         WriteRecorder("test \"$1\" = --picture && exit 1\necho \"$1 $2\" > " + Path("called") + "\n"
                       + work);
         const QSignalSpy announced(m_page.get(), &Desktop::Page::Announced);
@@ -293,7 +290,7 @@ private Q_SLOTS:
         AllowWarning("^This plugin does not support grabbing the keyboard");
         Opener opener;
         Select("Lecture", "a.mkv");
-        QTRY_COMPARE(Allowed(), QStringLiteral("open show remove"));
+        QTRY_COMPARE_WITH_TIMEOUT(Allowed(), QStringLiteral("open show remove"), Patience);
         Q_EMIT View()->customContextMenuRequested({});
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         QVERIFY(menu != nullptr);
@@ -301,7 +298,7 @@ private Q_SLOTS:
         menu->actions().first()->trigger();
         QCOMPARE(opener.opened, QStringList{Path("a.mkv")});
         menu->close();
-        QTRY_VERIFY(QApplication::activePopupWidget() == nullptr);
+        QTRY_VERIFY_WITH_TIMEOUT(QApplication::activePopupWidget() == nullptr, Patience);
     }
 
     void hasNoMenuBelowTheRows()
@@ -314,7 +311,7 @@ private Q_SLOTS:
     void tabsInReadingOrder()
     {
         Select("Lecture", "a.mkv", Outcome::Partial, Schedule::Why::ProgramDied);
-        QTRY_VERIFY(Button("repairRecordingButton")->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(Button("repairRecordingButton")->isEnabled(), Patience);
         QStringList stops;
         for (int stop = 0; stop < 5; ++stop) {
             stops << m_page->focusWidget()->objectName();
@@ -439,7 +436,7 @@ private:
         m_list->Add({title, Moment(5s), Moment(9s), outcome, Path(file), reason});
         View()->setCurrentIndex(View()->model()->index(0, 0));
         View()->setFocus();
-        QTRY_VERIFY(Button("openRecordingButton")->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(Button("openRecordingButton")->isEnabled(), Patience);
     }
 
     void WriteRecorder(const QString& work) const

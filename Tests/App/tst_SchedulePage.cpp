@@ -67,13 +67,13 @@ private Q_SLOTS:
             QVERIFY(box.Came());
         }
         QVERIFY(app.Button(ScheduleButton)->isChecked());
-        QTRY_COMPARE(app.Focused(), ScheduleButton);
+        QTRY_COMPARE_WITH_TIMEOUT(app.Focused(), ScheduleButton, Patience);
         {
             const ExpectedBox box(QMessageBox::Cancel);
             QTest::mouseClick(app.Button(Desktop::PanelPart::OffModeButton), Qt::LeftButton);
             QVERIFY(box.Came());
         }
-        QTRY_COMPARE(app.Focused(), ScheduleButton);
+        QTRY_COMPARE_WITH_TIMEOUT(app.Focused(), ScheduleButton, Patience);
     }
 
     void tabsInReadingOrder_data()

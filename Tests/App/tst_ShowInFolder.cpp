@@ -68,7 +68,7 @@ private Q_SLOTS:
         QFile file(m_folder.filePath("100 % \"ä\" #1.mkv"));
         QVERIFY(file.open(QIODevice::WriteOnly));
         Desktop::ShowInFolder(file.fileName(), this);
-        QTRY_COMPARE(manager.shown.size(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(manager.shown.size(), 1, Patience);
         QCOMPARE(QUrl(manager.shown.first()).toLocalFile(), file.fileName());
         QVERIFY(manager.shown.first().contains("%23"));
         QCOMPARE(opener.opened, QStringList());
@@ -80,7 +80,7 @@ private Q_SLOTS:
         QFile file(m_folder.filePath("a.mkv"));
         QVERIFY(file.open(QIODevice::WriteOnly));
         Desktop::ShowInFolder(file.fileName(), this);
-        QTRY_COMPARE(opener.opened, QStringList{m_folder.path()});
+        QTRY_COMPARE_WITH_TIMEOUT(opener.opened, QStringList{m_folder.path()}, Patience);
     }
 
     void opensTheFolderOfAFileThatIsGone()
@@ -88,7 +88,7 @@ private Q_SLOTS:
         const FileManager manager;
         const Opener opener;
         Desktop::ShowInFolder(m_folder.filePath("gone.mkv"), this);
-        QTRY_COMPARE(opener.opened, QStringList{m_folder.path()});
+        QTRY_COMPARE_WITH_TIMEOUT(opener.opened, QStringList{m_folder.path()}, Patience);
         QCOMPARE(manager.shown, QStringList());
     }
 

@@ -59,10 +59,10 @@ private Q_SLOTS:
         line.show();
         line.showMessage("Message");
         QVERIFY(QTest::qWaitForWindowExposed(&line));
-        QTRY_VERIFY(!line.painted.isEmpty());
+        QTRY_VERIFY_WITH_TIMEOUT(!line.painted.isEmpty(), Patience);
         line.painted = {};
         line.clearMessage();
-        QTRY_COMPARE(line.painted.boundingRect(), line.rect());
+        QTRY_COMPARE_WITH_TIMEOUT(line.painted.boundingRect(), line.rect(), Patience);
     }
 
     void paintsTheMessageShortened()

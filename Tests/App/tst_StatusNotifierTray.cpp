@@ -15,7 +15,7 @@ private Q_SLOTS:
     void knowsThatThereIsNone()
     {
         const StatusNotifierTray tray;
-        QTRY_VERIFY(tray.IsKnown());
+        QTRY_VERIFY_WITH_TIMEOUT(tray.IsKnown(), Patience);
         QVERIFY(!tray.IsThere());
     }
 
@@ -32,7 +32,7 @@ private Q_SLOTS:
         const FakeTray fake(hasHost);
         QVERIFY(fake.IsRegistered());
         const StatusNotifierTray tray;
-        QTRY_VERIFY(tray.IsKnown());
+        QTRY_VERIFY_WITH_TIMEOUT(tray.IsKnown(), Patience);
         QCOMPARE(tray.IsThere(), hasHost);
     }
 
@@ -40,13 +40,13 @@ private Q_SLOTS:
     {
         FakeTray fake(false);
         const StatusNotifierTray tray;
-        QTRY_VERIFY(tray.IsKnown());
+        QTRY_VERIFY_WITH_TIMEOUT(tray.IsKnown(), Patience);
         const QSignalSpy changed(&tray, &StatusNotifierTray::Changed);
         fake.SetHasHost(true);
-        QTRY_VERIFY(tray.IsThere());
+        QTRY_VERIFY_WITH_TIMEOUT(tray.IsThere(), Patience);
         QCOMPARE(changed.count(), 1);
         fake.SetHasHost(false);
-        QTRY_VERIFY(!tray.IsThere());
+        QTRY_VERIFY_WITH_TIMEOUT(!tray.IsThere(), Patience);
         QCOMPARE(changed.count(), 2);
     }
 
@@ -54,13 +54,13 @@ private Q_SLOTS:
     void followsARegistryThatComesAndGoes()
     {
         const StatusNotifierTray tray;
-        QTRY_VERIFY(tray.IsKnown());
+        QTRY_VERIFY_WITH_TIMEOUT(tray.IsKnown(), Patience);
         for (int round = 0; round < 2; ++round) {
             auto fake = std::make_unique<FakeTray>(true);
             QVERIFY(fake->IsRegistered());
-            QTRY_VERIFY(tray.IsThere());
+            QTRY_VERIFY_WITH_TIMEOUT(tray.IsThere(), Patience);
             fake.reset();
-            QTRY_VERIFY(!tray.IsThere());
+            QTRY_VERIFY_WITH_TIMEOUT(!tray.IsThere(), Patience);
         }
     }
 };

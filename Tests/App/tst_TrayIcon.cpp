@@ -194,7 +194,7 @@ private Q_SLOTS:
         TrayIcon shown;
         // Before there is an icon, and after.
         shown.SetState(state);
-        QTRY_VERIFY(shown.IsAvailable());
+        QTRY_VERIFY_WITH_TIMEOUT(shown.IsAvailable(), Patience);
         const auto* inTray = shown.findChild<QSystemTrayIcon*>();
         const auto pixels = [](const QIcon& of) { return of.pixmap(22).toImage(); };
         for (const TrayState& before : {state, TrayState(), Recording({}, true)}) {
@@ -211,7 +211,7 @@ private Q_SLOTS:
         AllowMissingTrays();
         const FakeTray tray(true);
         const TrayIcon icon;
-        QTRY_VERIFY(icon.IsAvailable());
+        QTRY_VERIFY_WITH_TIMEOUT(icon.IsAvailable(), Patience);
         auto* inTray = icon.findChild<QSystemTrayIcon*>();
         const QSignalSpy wanted(&icon, &TrayIcon::ShowRequested);
         Q_EMIT inTray->activated(QSystemTrayIcon::Trigger);
@@ -227,11 +227,11 @@ private Q_SLOTS:
         QVERIFY(!icon.IsAvailable());
         FakeTray tray(true);
         QVERIFY(tray.IsRegistered());
-        QTRY_VERIFY(icon.IsAvailable());
+        QTRY_VERIFY_WITH_TIMEOUT(icon.IsAvailable(), Patience);
         tray.SetHasHost(false);
-        QTRY_VERIFY(!icon.IsAvailable());
+        QTRY_VERIFY_WITH_TIMEOUT(!icon.IsAvailable(), Patience);
         tray.SetHasHost(true);
-        QTRY_VERIFY(icon.IsAvailable());
+        QTRY_VERIFY_WITH_TIMEOUT(icon.IsAvailable(), Patience);
         // With an icon on screen.
         icon.SetState(Recording({}, false));
         QCOMPARE(Entries().section(QLatin1Char('|'), 0, 0), QStringLiteral("[Recording]"));

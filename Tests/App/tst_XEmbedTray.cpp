@@ -87,10 +87,10 @@ private Q_SLOTS:
         const QSignalSpy changed(&watched, &XEmbedTray::Changed);
         for (int round = 1; round <= 2; ++round) {
             auto tray = std::make_unique<Tray>();
-            QTRY_VERIFY(watched.IsThere());
+            QTRY_VERIFY_WITH_TIMEOUT(watched.IsThere(), Patience);
             QCOMPARE(changed.count(), 2 * round - 1);
             tray.reset();
-            QTRY_VERIFY(!watched.IsThere());
+            QTRY_VERIFY_WITH_TIMEOUT(!watched.IsThere(), Patience);
             QCOMPARE(changed.count(), 2 * round);
         }
     }

@@ -11,10 +11,9 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-namespace Zentor::Tests {
+#include "Patience.h"
 
-/// Milliseconds that a test waits for something that happens: a loaded machine takes long.
-constexpr int Patience = 60000;
+namespace Zentor::Tests {
 
 /// The environment of all programs of a test: without a display, a session bus or a sound server of
 /// the machine.

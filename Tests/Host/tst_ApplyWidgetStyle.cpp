@@ -78,7 +78,7 @@ private Q_SLOTS:
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         Util::ApplyWidgetStyle(label, QStringLiteral("Hover"), SubStyle);
-        QTRY_VERIFY(!label->testAttribute(Qt::WA_PendingUpdate));
+        QTRY_VERIFY_WITH_TIMEOUT(!label->testAttribute(Qt::WA_PendingUpdate), Patience);
         QCoreApplication::sendPostedEvents();
 
         const auto* events = new StyleEvents(label);

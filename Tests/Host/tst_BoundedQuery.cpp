@@ -35,7 +35,7 @@ private Q_SLOTS:
         // Others are still answered.
         QCOMPARE(query.Ask("other", [] { return 2; }), std::int64_t(2));
         release.set_value();
-        QTRY_COMPARE(query.Ask("hangs", [] { return 3; }), std::int64_t(3));
+        QTRY_COMPARE_WITH_TIMEOUT(query.Ask("hangs", [] { return 3; }), std::int64_t(3), Patience);
     }
 
     void doesNotAskAgainWhileOneHangs()
@@ -50,7 +50,7 @@ private Q_SLOTS:
         };
         BoundedQuery query(20ms);
         QVERIFY(query.Ask("0", hang) < 0);
-        QTRY_COMPARE(started->load(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(started->load(), 1, Patience);
         for (int i = 0; i < 10; ++i) {
             QVERIFY(query.Ask("0", hang) < 0);
         }
@@ -58,9 +58,9 @@ private Q_SLOTS:
         for (int i = 1; i < 10; ++i) {
             QVERIFY(query.Ask(std::to_string(i), hang) < 0);
         }
-        QTRY_COMPARE(started->load(), 4);
+        QTRY_COMPARE_WITH_TIMEOUT(started->load(), 4, Patience);
         release.set_value();
-        QTRY_COMPARE(query.Ask("0", [] { return 3; }), std::int64_t(3));
+        QTRY_COMPARE_WITH_TIMEOUT(query.Ask("0", [] { return 3; }), std::int64_t(3), Patience);
     }
 
     void mayEndBeforeTheAnswer()
@@ -77,7 +77,7 @@ private Q_SLOTS:
             }) < 0);
         }
         release.set_value();
-        QTRY_VERIFY(finished->load());
+        QTRY_VERIFY_WITH_TIMEOUT(finished->load(), Patience);
     }
 };
 

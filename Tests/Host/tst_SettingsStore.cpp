@@ -281,7 +281,7 @@ private Q_SLOTS:
             QCOMPARE(changed.count(), 1);
             QCOMPARE(saved.count(), 0);
             QCOMPARE(PageOf(store.Settings()), QStringLiteral("7"));
-            QTRY_COMPARE(saved.count(), 1);
+            QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 1, Patience);
             QVERIFY(store.Flush());
             QCOMPARE(saved.count(), 1);
         }
@@ -303,7 +303,7 @@ private Q_SLOTS:
             SetPage(store, QString::number(i));
         }
         QCOMPARE(changed.count(), 1000);
-        QTRY_COMPARE(saved.count(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 1, Patience);
         QCoreApplication::sendPostedEvents();
         QVERIFY(store.Flush());
         QCOMPARE(saved.count(), 1);
@@ -590,7 +590,7 @@ private Q_SLOTS:
         QCOMPARE(place.DamagedFiles().count(), 1);
         QCOMPARE(place.Read(place.DamagedFiles().first()), content);
         // So that the next start does not find the same damage.
-        QTRY_COMPARE(saved.count(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 1, Patience);
         QCOMPARE(PX::ParseSettings(place.Read(), {AppearanceSection()}).problems, QStringList());
     }
 
@@ -660,7 +660,7 @@ private Q_SLOTS:
         {
             const FullDisk disk(rlim_t(before.size()));
             store.Change([](UserSettings& settings) { settings = State(1); });
-            QTRY_COMPARE(failed.count(), 1);
+            QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, Patience);
             QVERIFY(failed.at(0).at(0).toString().contains(place.Path()));
             QCOMPARE(place.Read(), before);
             // Said once, however often it is tried.
@@ -673,7 +673,7 @@ private Q_SLOTS:
             QCOMPARE(PageOf(store.Settings()), QStringLiteral("during"));
         }
         // Nothing but time is needed.
-        QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 1, 15000);
+        QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 1, Patience);
         const auto document = PX::ParseSettings(place.Read(), {AppearanceSection()});
         QCOMPARE(PageOf(document.settings), QStringLiteral("during"));
         QCOMPARE(document.settings.schedule.size(), std::size_t(50));

@@ -97,7 +97,7 @@ private Q_SLOTS:
             stored.watcher.OnScheduleStateChanged(true);
         }
         QCOMPARE(saved.count(), 0);
-        QTRY_COMPARE(saved.count(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 1, Patience);
         QVERIFY(stored.store->Flush());
         QCOMPARE(saved.count(), 1);
     }

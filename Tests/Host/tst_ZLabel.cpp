@@ -115,7 +115,7 @@ private Q_SLOTS:
         QFont font = label.font();
         font.setPixelSize(60);
         label.setFont(font);
-        QTRY_COMPARE(label.toolTip(), QStringLiteral("Duration"));
+        QTRY_COMPARE_WITH_TIMEOUT(label.toolTip(), QStringLiteral("Duration"), Patience);
     }
 
     void leavesOtherToolTipsAlone()

@@ -691,7 +691,7 @@ private Q_SLOTS:
             QCOMPARE(form.Start()->toolTip(), startTip);
             QCOMPARE(form.Create()->isEnabled(), error == NoError);
             const QString tip = nameTip + startTip;
-            QTRY_COMPARE(QToolTip::isVisible(), !tip.isEmpty());
+            QTRY_COMPARE_WITH_TIMEOUT(QToolTip::isVisible(), !tip.isEmpty(), Patience);
             if (!tip.isEmpty()) {
                 QCOMPARE(QToolTip::text(), tip);
             }
@@ -796,13 +796,13 @@ private Q_SLOTS:
         form.Back()->setFocus();
         form.widget->ShowValidateError(NoError);
         QSignalSpy ticks(form.Timer(), &QTimer::timeout);
-        QTRY_VERIFY(ticks.count() >= 1);
+        QTRY_VERIFY_WITH_TIMEOUT(ticks.count() >= 1, Patience);
         ChangeSpies spies(form.widget);
         const EventCounter events(form.widget,
                                   {QEvent::Paint, QEvent::UpdateRequest, QEvent::LayoutRequest,
                                    QEvent::Polish, QEvent::StyleChange, QEvent::ToolTipChange,
                                    QEvent::DynamicPropertyChange});
-        QTRY_VERIFY(ticks.count() >= 4);
+        QTRY_VERIFY_WITH_TIMEOUT(ticks.count() >= 4, Patience);
         QCOMPARE(events.count, 0);
         QCOMPARE(spies.Take(), QStringLiteral("0 0 0 0"));
     }

@@ -104,7 +104,7 @@ private Q_SLOTS:
         QVERIFY(Shows(form, {"DUMMY0", "DUMMY1", "DUMMY2"}));
         for (const char* primary : {"DUMMY1", "DUMMY2", "DUMMY0"}) {
             QVERIFY(XRandR({"--output", primary, "--primary"}));
-            QTRY_COMPARE(form.ScreenNames().first(), QString(primary));
+            QTRY_COMPARE_WITH_TIMEOUT(form.ScreenNames().first(), QString(primary), Patience);
             QVERIFY(Shows(form, {"DUMMY0", "DUMMY1", "DUMMY2"}));
             form.widget->ResetForm("Task 01");
             QCOMPARE(form.Screens()->currentText(), QString(primary));

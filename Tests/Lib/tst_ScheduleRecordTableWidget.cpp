@@ -508,7 +508,7 @@ private Q_SLOTS:
         table.widget->AddRecords(Tasks(20));
         window.show();
         auto* area = table.widget->findChild<QScrollArea*>();
-        QTRY_VERIFY(area->verticalScrollBar()->maximum() > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(area->verticalScrollBar()->maximum() > 0, Patience);
         QWheelEvent wheel(QPointF(5, 5), area->viewport()->mapToGlobal(QPoint(5, 5)), QPoint(),
                           QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(area->viewport(), &wheel);
@@ -553,7 +553,7 @@ private Q_SLOTS:
         table.ClickDelete(0);
         QVERIFY(!row.isNull());
         QVERIFY(row->isHidden());
-        QTRY_VERIFY(row.isNull());
+        QTRY_VERIFY_WITH_TIMEOUT(row.isNull(), Patience);
     }
 
     void keepsTheTaskWhenTheAnswerIsNo_data()

@@ -14,8 +14,6 @@ using namespace std::chrono_literals;
 using Schedule::DesktopNotification;
 using Schedule::DesktopNotifier;
 
-constexpr int Patience = 20000;
-
 DesktopNotification Saying(const QString& summary)
 {
     DesktopNotification notification;

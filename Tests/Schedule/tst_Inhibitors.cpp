@@ -12,8 +12,6 @@ namespace {
 
 using Schedule::Inhibitors;
 
-constexpr int Patience = 20000;
-
 QStringList Everything()
 {
     return {"sleep:idle by px-test, block", "shutdown by px-test, delay"};

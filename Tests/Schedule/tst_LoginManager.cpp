@@ -11,8 +11,6 @@ namespace {
 using PX::PowerAction;
 using Schedule::LoginManager;
 
-constexpr int Patience = 20000;
-
 /// What a manager has sent.
 class Events {
 public:

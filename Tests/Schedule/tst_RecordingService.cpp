@@ -20,8 +20,6 @@ using Schedule::RecordingService;
 using Schedule::RecordingsList;
 
 constexpr qint64 PlentyOfBytes = 1'000'000'000'000;
-constexpr int Patience = 60'000;
-
 class OneScreen final : public Schedule::IScreens {
 public:
     bool IsThere(int screenIndex) const override { return screenIndex <= 0; }
@@ -305,10 +303,10 @@ void tst_RecordingService::holdsTheTasksAgainstTheDisk()
     Begin();
     m_freeBytes = 20'000'000'000;
     SetTasks({Task("Short", SoonAfter(1h), 1h)});
-    QTRY_COMPARE(m_service->Status().next.has_value(), true);
+    QTRY_COMPARE_WITH_TIMEOUT(m_service->Status().next.has_value(), true, Patience);
     QVERIFY(NoticesOf(Notice::Kind::LowDisk).empty());
     SetTasks({Task("Short", SoonAfter(1h), 1h), Task("Long", SoonAfter(24h), 23h)});
-    QTRY_COMPARE(NoticesOf(Notice::Kind::LowDisk).size(), std::size_t(1));
+    QTRY_COMPARE_WITH_TIMEOUT(NoticesOf(Notice::Kind::LowDisk).size(), std::size_t(1), Patience);
     const Notice notice = NoticesOf(Notice::Kind::LowDisk).front();
     QCOMPARE(notice.freeBytes, m_freeBytes - 1'000'000'000);
     QVERIFY(notice.neededBytes > notice.freeBytes);

@@ -18,8 +18,6 @@ using Schedule::Length;
 using Schedule::Moment;
 using Schedule::WallClockTimer;
 
-constexpr int Patience = 20000;
-
 Moment Now()
 {
     return Schedule::MachineClock().Now().wall;

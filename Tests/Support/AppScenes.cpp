@@ -96,7 +96,8 @@ public:
         // The platform's news about the popup come before those about the window.
         QTest::qWait(0);
         QVERIFY(m_app.Show());
-        QTRY_COMPARE(QGuiApplication::focusWindow(), m_app.window->windowHandle());
+        QTRY_COMPARE_WITH_TIMEOUT(QGuiApplication::focusWindow(), m_app.window->windowHandle(),
+                                  Patience);
     }
 
     const AppWindow& App() const { return m_app; }
@@ -272,7 +273,7 @@ void ShowSound(const Stage& stage)
     const auto count = [&] {
         return stage.App().window->findChildren<QWidget*>("soundDeviceBox").size();
     };
-    QTRY_COMPARE_WITH_TIMEOUT(count(), 2, 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(count(), 2, Patience);
     stage.Show(QStringLiteral("sound devices"), true);
     ChangeRecording(stage, [](auto& settings) {
         settings.soundDevices = QStringList{QStringLiteral("mic"), AbsentDevice()};
@@ -292,7 +293,7 @@ void ShowTrial(const Stage& stage, FakeRecorder& recorder)
     stage.Show(QStringLiteral("cancelled trial recording"), result->isVisible());
     recorder.SetRecording("echo px-recorder: 7 >&2; exit 1");
     stage.Click("trialButton");
-    QTRY_VERIFY_WITH_TIMEOUT(result->isVisible(), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(result->isVisible(), Patience);
     stage.Show(QStringLiteral("trial recording that failed"), result->isVisible());
 }
 
@@ -364,7 +365,7 @@ void ShowRecordings(const Stage& stage)
     stage.Show(QStringLiteral("recordings"), view->isVisible());
     // The one that can be repaired.
     view->setCurrentIndex(view->model()->index(1, 0));
-    QTRY_VERIFY(stage.App().Button("repairRecordingButton")->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(stage.App().Button("repairRecordingButton")->isEnabled(), Patience);
     stage.Show(QStringLiteral("recording that can be repaired"), true);
     Q_EMIT view->customContextMenuRequested({});
     stage.Show(QStringLiteral("menu of a recording"), QApplication::activePopupWidget() != nullptr);

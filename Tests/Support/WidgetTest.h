@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "Patience.h"
+
 namespace Zentor::Tests {
 
 /// Base of the test classes: an unexpected warning fails the test that it came in, and so does a

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace Zentor::Tests {
+
+/// Milliseconds that a test waits for something that happens: a loaded machine takes long.
+constexpr int Patience = 60'000;
+
+} // namespace Zentor::Tests
