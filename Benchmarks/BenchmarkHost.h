@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 /// \file
 /// A panel for the benchmarks, with a host that stores nothing.
 #pragma once

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 // What the panel costs by itself, each row beside its floor: the bare Qt widgets that the same
 // thing is made of.
 //

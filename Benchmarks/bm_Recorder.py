@@ -1,4 +1,7 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 """bm_Recorder.py RECORDER: processor time of a recording beside that of ffmpeg with like settings.
 
 Both record the same moving desktop of 1920x1080 at 30 frames a second, in turns. The X server's time

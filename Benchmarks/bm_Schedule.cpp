@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 // What the schedule costs with many tasks, each figure beside its floor: the same widgets made
 // bare, in the same panel, by the same calls of Qt.
 //

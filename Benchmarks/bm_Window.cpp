@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 // What the application's window costs beside its floors: the panel alone under the same style sheet
 // for opening it, and opening the window for a change of theme or language.
 //

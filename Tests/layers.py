@@ -1,4 +1,7 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 """layers.py COMPILE_COMMANDS CORE_LIBRARY: proves who may include whom.
 
 Takes how a source of each layer is compiled, and asks the compiler in its place which headers of the

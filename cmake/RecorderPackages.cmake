@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 # Finds what px-recorder is built on. Where something is missing, says what, and switches the recorder
 # off for this build: the application works without it, but cannot record.
 find_package(PkgConfig QUIET)
@@ -10,11 +13,11 @@ if(TARGET PkgConfig::GStreamer)
     # With -pthread, a source could not use the precompiled headers of others.
     set_target_properties(PkgConfig::GStreamer PROPERTIES INTERFACE_COMPILE_OPTIONS "")
 endif()
-find_package(Qt5 5.15 QUIET COMPONENTS DBus)
+find_package(Qt${QT_MAJOR_VERSION} ${zentor_minimum_qt} QUIET COMPONENTS DBus)
 set(THREADS_PREFER_PTHREAD_FLAG ON)
 find_package(Threads REQUIRED)
 
-if(NOT GStreamer_FOUND OR NOT Display_FOUND OR NOT Qt5DBus_FOUND)
+if(NOT GStreamer_FOUND OR NOT Display_FOUND OR NOT Qt${QT_MAJOR_VERSION}DBus_FOUND)
     message(WARNING
         "px-recorder is not built: it needs the development files of GStreamer 1.20 "
         "(libgstreamer1.0-dev, libgstreamer-plugins-base1.0-dev), X11 (libx11-dev, libxcb1-dev, "

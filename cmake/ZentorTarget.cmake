@@ -1,5 +1,9 @@
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 # What every target of this project has in common.
 #
+#   zentor_find_qt(<component>...)                  finds these parts of the Qt that is built against
 #   zentor_target_defaults(<target> [ALLOW_ASCII])  language level, warnings, visibility, sanitizers,
 #                                                   coverage;
 #                                                   ALLOW_ASCII: QString from and to char texts
@@ -10,6 +14,19 @@
 #                                                   an interface target with which these headers, and
 #                                                   nothing else of their folder, can be included: by
 #                                                   name, or by the path that is given here
+
+if(QT_MAJOR_VERSION EQUAL 5)
+    set(zentor_minimum_qt 5.15)
+elseif(QT_MAJOR_VERSION EQUAL 6)
+    set(zentor_minimum_qt 6.4)
+else()
+    message(FATAL_ERROR "QT_MAJOR_VERSION is ${QT_MAJOR_VERSION}; it can be 5 or 6.")
+endif()
+
+# A macro: what Qt sets is wanted by who calls it.
+macro(zentor_find_qt)
+    find_package(Qt${QT_MAJOR_VERSION} ${zentor_minimum_qt} REQUIRED COMPONENTS ${ARGN})
+endmacro()
 
 function(zentor_target_defaults target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "ALLOW_ASCII" "" "")
@@ -46,7 +63,7 @@ endfunction()
 # CMake 3.25 drops AUTOMOC's output of an object library that is reached through
 # $<TARGET_OBJECTS>, so the libraries name their moc output as ordinary sources.
 function(zentor_target_moc target)
-    qt5_wrap_cpp(moc_sources ${ARGN})
+    qt_wrap_cpp(moc_sources ${ARGN})
     target_sources(${target} PRIVATE ${moc_sources})
 endfunction()
 
@@ -62,14 +79,14 @@ function(zentor_target_precompile target)
     if(NOT PROJECT_IS_TOP_LEVEL)
         return()
     endif()
-    if(NOT TARGET zentor-precompiled)
+    if(NOT TARGET pxuischeduler-precompiled)
         file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/precompiled.cpp" CONTENT "")
-        add_library(zentor-precompiled OBJECT "${PROJECT_BINARY_DIR}/precompiled.cpp")
-        zentor_target_defaults(zentor-precompiled)
-        target_link_libraries(zentor-precompiled PRIVATE Qt5::Widgets)
-        target_precompile_headers(zentor-precompiled PRIVATE ${zentor_precompiled_headers})
+        add_library(pxuischeduler-precompiled OBJECT "${PROJECT_BINARY_DIR}/precompiled.cpp")
+        zentor_target_defaults(pxuischeduler-precompiled)
+        target_link_libraries(pxuischeduler-precompiled PRIVATE Qt${QT_MAJOR_VERSION}::Widgets)
+        target_precompile_headers(pxuischeduler-precompiled PRIVATE ${zentor_precompiled_headers})
     endif()
-    target_precompile_headers(${target} REUSE_FROM zentor-precompiled)
+    target_precompile_headers(${target} REUSE_FROM pxuischeduler-precompiled)
 endfunction()
 
 # A layer that may use one header of another layer's folder links the view instead of the folder, so

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 // Paints an icon as a picture, while the application is built.
 //
 //   render-icon <icon.svg> <picture.png> <width and height in pixels>

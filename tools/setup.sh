@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 # Installs the Debian packages that this repository needs. Sourced by ./run and ./test.
 #
 #   install_missing <package>...    installs those that are not installed yet; quick and silent when
@@ -18,11 +21,11 @@ packages_to_run=(
     gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-plugins-ugly
     gstreamer1.0-x gstreamer1.0-pulseaudio gstreamer1.0-pipewire gstreamer1.0-libav)
 
-# To test it, in addition: linters; Qt's private headers, for stand-ins of a screen; a display that
-# nobody sees, with what works a window on it; the accessibility bus; what checks the files that the
-# application installs; what judges recordings; a sound server that no device belongs to.
+# To test it, in addition: linters, of licences too; Qt's private headers, for stand-ins of a screen; a
+# display that nobody sees, with what works a window on it; the accessibility bus; what checks the files
+# that the application installs; what judges recordings; a sound server that no device belongs to.
 packages_to_test=(
-    clang-format-14 clang-tidy-14 git python3
+    clang-format-14 clang-tidy-14 reuse git python3
     qtbase5-private-dev
     xvfb xauth xdotool openbox
     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils

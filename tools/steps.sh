@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 # Tells the steps of a script apart, and how long each took. Sourced by ./test.
 #
 #   step <name>       says that a step begins

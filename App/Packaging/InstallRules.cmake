@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 # Puts the application into a prefix. Its libraries are its own there: they lie in a folder that no
 # other program looks in.
 include(GNUInstallDirs)
@@ -6,10 +9,11 @@ set(private_library_dir "${CMAKE_INSTALL_LIBDIR}/px-scheduler")
 file(RELATIVE_PATH libraries_from_program
     "/${CMAKE_INSTALL_BINDIR}" "/${private_library_dir}")
 set_target_properties(px-scheduler PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_program}")
-set_target_properties(PXUiSchedulerWidgets ReferenceHostCore ReferenceHost PROPERTIES INSTALL_RPATH "$ORIGIN")
+set_target_properties(PXUiSchedulerWidgets PXUiSchedulerReferenceHostCore PXUiSchedulerReferenceHost
+    PROPERTIES INSTALL_RPATH "$ORIGIN")
 
 install(TARGETS px-scheduler RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
-install(TARGETS PXUiSchedulerWidgets ReferenceHostCore ReferenceHost
+install(TARGETS PXUiSchedulerWidgets PXUiSchedulerReferenceHostCore PXUiSchedulerReferenceHost
     LIBRARY DESTINATION "${private_library_dir}" NAMELINK_SKIP)
 install(FILES Packaging/org.zentor.PxScheduler.desktop
     DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 # Completion of px-scheduler for bash.
 _px_scheduler() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}

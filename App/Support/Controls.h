@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 /// \file
 /// The small controls of the pages, made alike. The parent owns each.
 #pragma once

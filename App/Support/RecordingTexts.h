@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 /// \file
 /// What the user reads about recordings, in the language in use.
 #pragma once

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 # What the program brings along: icons in the colours of each theme, texts in each language, style
 # sheet, sample. Sets resource_sources, to be compiled into one target.
 
@@ -30,10 +33,10 @@ paint_icons(dark)
 
 # The icons of the rows of the list, as pictures: for the "image" of a style sheet, Qt parses a file of
 # shapes anew for each widget. Four times their size, they are sharp on every screen.
-find_package(Qt5 5.15 REQUIRED COMPONENTS Gui)
+zentor_find_qt(Gui)
 add_executable(render-icon "${PROJECT_SOURCE_DIR}/tools/RenderIcon.cpp")
 zentor_target_defaults(render-icon)
-target_link_libraries(render-icon PRIVATE Qt5::Gui)
+target_link_libraries(render-icon PRIVATE Qt${QT_MAJOR_VERSION}::Gui)
 foreach(_theme light dark)
     foreach(_icon delete delete-hover)
         set(_name "${CMAKE_CURRENT_BINARY_DIR}/Icons/${_theme}/${_icon}")
@@ -48,11 +51,11 @@ endforeach()
 configure_file(Support/icons.qrc.in Icons/icons.qrc @ONLY)
 
 # Translators work on the .ts files with Qt Linguist.
-find_package(Qt5 5.15 REQUIRED COMPONENTS LinguistTools)
+zentor_find_qt(LinguistTools)
 set(languages en de fr es it pt_BR pl ru tr ja ko zh_CN ar he)
 list(TRANSFORM languages REPLACE "(.+)" "Translations/px-scheduler_\\1.ts"
     OUTPUT_VARIABLE translation_sources)
-qt5_add_translation(translations ${translation_sources})
+qt_add_translation(translations ${translation_sources})
 foreach(_translation IN LISTS translations)
     get_filename_component(_name "${_translation}" NAME)
     string(APPEND translation_entries "        <file>${_name}</file>\n")
@@ -63,9 +66,9 @@ configure_file(Support/translations.qrc.in translations.qrc @ONLY)
 # tree: cmake --build <folder> --target update-translations
 list(TRANSFORM translation_sources PREPEND App/)
 add_custom_target(update-translations
-    COMMAND Qt5::lupdate -no-obsolete -locations none App Host Lib Schedule -ts ${translation_sources}
+    COMMAND Qt${QT_MAJOR_VERSION}::lupdate -no-obsolete -locations none App Host Lib Schedule -ts ${translation_sources}
     WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
     VERBATIM)
 
-qt5_add_resources(resource_sources Support/px-scheduler.qrc "${CMAKE_CURRENT_BINARY_DIR}/Icons/icons.qrc"
+qt_add_resources(resource_sources Support/px-scheduler.qrc "${CMAKE_CURRENT_BINARY_DIR}/Icons/icons.qrc"
     "${CMAKE_CURRENT_BINARY_DIR}/translations.qrc")

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 /// \file
 /// Between the pixels of the X display, in which areas are stored and recorded, and the
 /// device-independent coordinates of Qt, in which the mouse and windows are. Both count from the

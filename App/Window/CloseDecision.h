@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 namespace Zentor::Desktop {

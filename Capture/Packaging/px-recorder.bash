@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 # Completion of px-recorder for bash.
 _px_recorder() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 /// \file
 /// Reading and replacing files that are the user's alone. A failure is told as a reason for the
 /// user, such as "No space left on device", or as nothing when there was none.

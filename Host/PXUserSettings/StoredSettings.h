@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 /// \file
 /// The settings objects that the panel reads, and the watcher that it reports to, on a
 /// SettingsStore. Each takes a share of the store, which must not be null.

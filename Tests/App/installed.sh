@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 # installed.sh BUILD_DIR: installs the application into a prefix and checks what came there.
 set -euo pipefail
 

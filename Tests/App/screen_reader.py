@@ -1,4 +1,7 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 """screen_reader.py PROGRAM: uses PROGRAM through the accessibility bus, as a screen reader does.
 
 Finds everything by role and name alone: chooses the schedule mode, adds a task, is told about a

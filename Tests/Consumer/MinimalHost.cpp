@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 // The least that a host has to implement: every declaration of HostInterfaces.h, in its plainest
 // form.
 #include <QAbstractButton>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 // Puts the panel into a window and restores two tasks: the exit code tells whether it worked.
 #include <QApplication>
 #include <QVBoxLayout>

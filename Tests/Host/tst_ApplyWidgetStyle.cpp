@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 #include <QLabel>
 
 #include "HostInterfaces.h"
@@ -78,7 +81,7 @@ private Q_SLOTS:
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         Util::ApplyWidgetStyle(label, QStringLiteral("Hover"), SubStyle);
-        QTRY_VERIFY_WITH_TIMEOUT(!label->testAttribute(Qt::WA_PendingUpdate), Patience);
+        QTRY_VERIFY_WITH_TIMEOUT(!label->testAttribute(Qt::WA_PendingUpdate), Tests::Patience);
         QCoreApplication::sendPostedEvents();
 
         const auto* events = new StyleEvents(label);

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 #include <atomic>
 #include <future>
 
@@ -35,7 +38,8 @@ private Q_SLOTS:
         // Others are still answered.
         QCOMPARE(query.Ask("other", [] { return 2; }), std::int64_t(2));
         release.set_value();
-        QTRY_COMPARE_WITH_TIMEOUT(query.Ask("hangs", [] { return 3; }), std::int64_t(3), Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(query.Ask("hangs", [] { return 3; }), std::int64_t(3),
+                                  Tests::Patience);
     }
 
     void doesNotAskAgainWhileOneHangs()
@@ -50,7 +54,7 @@ private Q_SLOTS:
         };
         BoundedQuery query(20ms);
         QVERIFY(query.Ask("0", hang) < 0);
-        QTRY_COMPARE_WITH_TIMEOUT(started->load(), 1, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(started->load(), 1, Tests::Patience);
         for (int i = 0; i < 10; ++i) {
             QVERIFY(query.Ask("0", hang) < 0);
         }
@@ -58,9 +62,10 @@ private Q_SLOTS:
         for (int i = 1; i < 10; ++i) {
             QVERIFY(query.Ask(std::to_string(i), hang) < 0);
         }
-        QTRY_COMPARE_WITH_TIMEOUT(started->load(), 4, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(started->load(), 4, Tests::Patience);
         release.set_value();
-        QTRY_COMPARE_WITH_TIMEOUT(query.Ask("0", [] { return 3; }), std::int64_t(3), Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(query.Ask("0", [] { return 3; }), std::int64_t(3),
+                                  Tests::Patience);
     }
 
     void mayEndBeforeTheAnswer()
@@ -77,7 +82,7 @@ private Q_SLOTS:
             }) < 0);
         }
         release.set_value();
-        QTRY_VERIFY_WITH_TIMEOUT(finished->load(), Patience);
+        QTRY_VERIFY_WITH_TIMEOUT(finished->load(), Tests::Patience);
     }
 };
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 #include <QPushButton>
 #include <QStyle>
 #include <QTextDocument>
@@ -115,7 +118,7 @@ private Q_SLOTS:
         QFont font = label.font();
         font.setPixelSize(60);
         label.setFont(font);
-        QTRY_COMPARE_WITH_TIMEOUT(label.toolTip(), QStringLiteral("Duration"), Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(label.toolTip(), QStringLiteral("Duration"), Tests::Patience);
     }
 
     void leavesOtherToolTipsAlone()

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 # Of its own classes the shared library exports the panel alone.
 execute_process(COMMAND "${NM}" --dynamic --demangle --defined-only "${LIBRARY}"
     OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)

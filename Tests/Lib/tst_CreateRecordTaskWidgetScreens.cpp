@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 #include <private/qguiapplication_p.h>
 #include <QGuiApplication>
 #include <QScreen>

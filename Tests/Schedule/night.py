@@ -1,4 +1,7 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 """night.py PROGRAM: a schedule of six tasks, kept by PROGRAM and its recorder while nobody looks.
 
 One task records an area, one follows it at once, of one the recorder is killed, one is due while the

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 """An X server that nobody sees, a private sound server, and how recordings are judged."""
 
 import json

@@ -1,4 +1,7 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 """soak.py RECORDER [PART...]: what takes longer than a gate may; prints a table at the end.
 
 The parts are recordings, sound, kills and speed; all of them without any.

@@ -1,4 +1,7 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 """line_recorder.py --lines: speaks the recorder's lines, and writes a file without a picture.
 
 Counts time like the recorder. LINE_RECORDER in the environment has it fail or die: "fail CODE" after

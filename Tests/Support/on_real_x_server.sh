@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 # Runs a program on a real X server with the dummy driver, whose outputs RandR can switch on and off.
 #
 #   on_real_x_server.sh <program> [<argument>...]

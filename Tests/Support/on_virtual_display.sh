@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 # Runs a program on a display that nobody sees, in windows that a window manager looks after.
 #
 #   on_virtual_display.sh <program> [<argument>...]

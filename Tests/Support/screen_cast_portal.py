@@ -1,4 +1,7 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
 """screen_cast_portal.py LOG PICTURE [PROPERTY...]: a portal for screen casts on the session bus.
 
 Its screen is what a GStreamer source element paints: "PICTURE PROPERTY... ! CAPS". As a desktop does,

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 /// \file
 /// A duration as a clock reading, which is how it is entered and shown: 01:30:00 is an hour and a
 /// half.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+// SPDX-License-Identifier: MIT
+
 /// \file
 /// The part of the host's contract that needs Qt Core alone: records, clock, path, schedule and
 /// settings objects.
