@@ -32,10 +32,18 @@ SoundServer::SoundServer(Surroundings& surroundings)
     surroundings.Set("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + bus);
     surroundings.Set("PIPEWIRE_RUNTIME_DIR", surroundings.Path({}));
     surroundings.Start("dbus-daemon", {"--session", "--nofork", "--address=unix:path=" + bus});
-    m_isRunning = Becomes([&] { return QFile::exists(bus); });
+    // A socket is there a moment before it is listened to, and who comes then gives up for good.
+    m_isRunning = Becomes([&] {
+        return surroundings
+            .Run("dbus-send",
+                 {"--session", "--print-reply", "--dest=org.freedesktop.DBus", "/",
+                  "org.freedesktop.DBus.GetId"})
+            .contains("string");
+    });
     surroundings.Start("pipewire", {});
-    m_isRunning =
-        m_isRunning && Becomes([&] { return QFile::exists(surroundings.Path("pipewire-0")); });
+    m_isRunning = m_isRunning && Becomes([&] {
+                      return surroundings.Run("pw-cli", {"info", "0"}).contains("id: 0");
+                  });
     surroundings.Start("wireplumber", {});
     surroundings.Start("pipewire-pulse", {});
     m_isRunning = m_isRunning
