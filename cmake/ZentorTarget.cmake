@@ -7,6 +7,8 @@
 #   zentor_target_defaults(<target> [ALLOW_ASCII])  language level, warnings, visibility, sanitizers,
 #                                                   coverage;
 #                                                   ALLOW_ASCII: QString from and to char texts
+#   zentor_library(<target> <name>)                 makes it a library for integrators: known as
+#                                                   Zentor::<name> and installed
 #   zentor_target_moc(<target> <header>...)         runs moc on the headers, without AUTOMOC
 #   zentor_target_precompile(<target>)              spares a target with widgets, built for its own sake,
 #                                                   the reading of Qt's headers in each source
@@ -58,6 +60,20 @@ function(zentor_target_defaults target)
         target_compile_options(${target} PRIVATE --coverage -fprofile-update=atomic)
         target_link_options(${target} PUBLIC --coverage)
     endif()
+endfunction()
+
+# A static library has the file name of its shared twin.
+function(zentor_library target name)
+    zentor_target_defaults(${target})
+    add_library(Zentor::${name} ALIAS ${target})
+    string(REGEX REPLACE "Static$" "" file_name "${target}")
+    set_target_properties(${target} PROPERTIES
+        EXPORT_NAME ${name}
+        OUTPUT_NAME ${file_name}
+        INSTALL_RPATH "$ORIGIN"
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR})
+    set_property(GLOBAL APPEND PROPERTY ZENTOR_LIBRARIES ${target})
 endfunction()
 
 # CMake 3.25 drops AUTOMOC's output of an object library that is reached through
