@@ -41,6 +41,7 @@ namespace Zentor::PX {
 
 /// A section of the file that another part of the program keeps for itself.
 struct SettingsSection {
+    /// Its key in the file, which no other section has.
     QString name;
     /// Returns what UserSettings::sections is to hold of what was \a found in the file: every field
     /// that is known, with its default where it is missing or cannot be used.
@@ -57,6 +58,7 @@ struct SettingsDocument {
     QStringList problems;
     /// How many tasks are left out.
     int droppedTasks = 0;
+    /// The settings, with defaults for what was missing or could not be used.
     UserSettings settings;
     /// All of the file, fields that are not known included.
     QJsonObject fields;
@@ -65,7 +67,8 @@ struct SettingsDocument {
 /// The settings of a user who has not changed any, with \a sections.
 ZENTOR_HOST_API UserSettings DefaultSettings(const std::vector<SettingsSection>& sections = {});
 
-/// Reads the settings in \a json, and in it \a sections.
+/// Reads the settings in \a json, and in it \a sections. There is no failure: what could not be
+/// used is in the problems of the result.
 ZENTOR_HOST_API SettingsDocument ParseSettings(const QByteArray& json,
                                                const std::vector<SettingsSection>& sections = {});
 
@@ -74,7 +77,7 @@ ZENTOR_HOST_API SettingsDocument ParseSettings(const QByteArray& json,
 ZENTOR_HOST_API QJsonObject FieldsOf(const UserSettings& settings,
                                      const QJsonObject& previousFields);
 
-/// Writes FieldsOf() \a settings as JSON.
+/// FieldsOf() \a settings and \a previousFields, written as JSON in UTF-8.
 ZENTOR_HOST_API QByteArray FormatSettings(const UserSettings& settings,
                                           const QJsonObject& previousFields);
 

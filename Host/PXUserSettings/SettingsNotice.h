@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
 // SPDX-License-Identifier: MIT
 
+/// \file
+/// What the user should be told of the settings file.
 #pragma once
 
 #include <QString>
@@ -12,6 +14,7 @@ namespace Zentor::PX {
 /// Something in the settings file that the program could not use, or that was not its own, and that
 /// it has kept in another file: what the user should be told, once.
 struct ZENTOR_HOST_API SettingsNotice {
+    /// What has happened to the file.
     enum class Cause {
         /// The file could not be understood: the settings are the defaults.
         NotUnderstood,
@@ -22,6 +25,7 @@ struct ZENTOR_HOST_API SettingsNotice {
         ChangedOutside,
     };
 
+    /// What has happened.
     Cause cause{};
     /// The file, with its folder, that holds what was found.
     QString keptPath;

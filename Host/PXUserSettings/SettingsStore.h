@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
 // SPDX-License-Identifier: MIT
 
+/// \file
+/// The settings file.
 #pragma once
 
 #include <functional>
@@ -40,41 +42,47 @@ namespace Zentor::PX {
 /// A second store, also one of another process, cannot open the file meanwhile. Symbolic links are
 /// followed: what counts is the file that they lead to, beside which its lock lies, and they stay
 /// links.
+///
+/// It needs a QCoreApplication, and is used on one thread, whose event loop runs. Its functions do
+/// not throw, save what they pass on of those that they are given.
 class ZENTOR_HOST_API SettingsStore final : public QObject {
     Q_OBJECT
 
 public:
-    /// A store that keeps its settings in \a filePath. Open() starts it; until then the settings
-    /// are the defaults and nothing is saved.
+    /// A store that keeps its settings in \a filePath, which is taken from the present folder when
+    /// it is relative. Open() starts it; until then the settings are the defaults and nothing is
+    /// saved. \a parent owns it; leave it null where a std::shared_ptr does.
     explicit SettingsStore(const QString& filePath, QObject* parent = nullptr);
 
     /// Saves what has not been saved yet, and frees the file for others.
     ~SettingsStore() override;
 
-    /// Adds a section that another part of the program keeps in the file, and reads and changes in
-    /// UserSettings::sections. Call it before Open().
+    /// Adds \a section, which another part of the program keeps in the file, and reads and changes
+    /// in UserSettings::sections. Call it before Open(): it resets the settings to the defaults.
     void AddSection(const SettingsSection& section);
 
-    /// Reads the file. Where there is none the defaults count; folders that are missing are
-    /// created.
+    /// Reads the file, and locks it for as long as the store lives. Where there is none the
+    /// defaults count; folders that are missing are created.
     ///
     /// A file that cannot be understood, or of which some values are unusable, is first kept under
     /// another name beside it (its own with ".damaged-", date and time added); the log says so in
     /// one line, and Notices() to the user.
     ///
-    /// Returns false, with the reason for the user in \a error, when the file can be neither read
-    /// nor created, when another store has it open, and when a damaged one cannot be kept. A file
-    /// that is there but cannot be read, or not to its end, is left as it is.
+    /// Returns false, with the reason for the user in \a error, which must not be null, when the
+    /// file can be neither read nor created, when another store has it open, and when a damaged one
+    /// cannot be kept. A file that is there but cannot be read, or not to its end, is left as it
+    /// is. After a failure nothing is saved; Open() may be tried again.
     bool Open(QString* error);
 
     /// The file as it was named, also where that is a link.
     const QString& FilePath() const { return m_filePath; }
 
-    /// The settings as they are now, whether or not they have been saved.
+    /// The settings as they are now, whether or not they have been saved. The reference is valid as
+    /// long as the store, and shows later changes.
     const UserSettings& Settings() const { return m_settings; }
 
-    /// Alters the settings by \a change, at once, and saves them in the next pass of the event
-    /// loop.
+    /// Alters the settings by \a change, which is called at once and must not call Change() itself,
+    /// sends Changed(), and saves them in the next pass of the event loop.
     void Change(const std::function<void(UserSettings&)>& change);
 
     /// Why the settings could not be saved last, in the language in use: the reason first, then the
@@ -85,11 +93,12 @@ public:
     /// program did to the file since.
     const std::vector<SettingsNotice>& Notices() const { return m_notices; }
 
-    /// Saves now what has not been saved yet. Whether everything is saved.
+    /// Saves now what has not been saved yet. Returns whether everything is saved; otherwise
+    /// SaveProblem() says why not, and it is tried again by itself.
     bool Flush();
 
 Q_SIGNALS:
-    /// The settings were altered by Change(). Not sent by Open().
+    /// The settings were altered by Change(), maybe to what they were. Not sent by Open().
     void Changed();
     /// The file was written. Not sent when it held the settings already.
     void Saved();

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
 // SPDX-License-Identifier: MIT
 
+/// \file
+/// The settings themselves.
 #pragma once
 
 #include <chrono>
@@ -14,17 +16,21 @@
 
 namespace Zentor::PX {
 
-/// The user's folder for videos, or the home folder where there is none.
+/// The user's folder for videos, as an absolute path, or the home folder where there is none. The
+/// folder need not exist.
 ZENTOR_HOST_API QString DefaultResultsFolderPath();
 
 /// Everything that is remembered for the user. The initial values are the defaults.
 struct UserSettings {
+    /// Whether a capture stops after a duration.
     bool limitedCaptureEnabled = false;
     /// At least ShortestCaptureDuration and below CaptureDurationLimit.
     std::chrono::microseconds limitedCaptureDuration{std::chrono::hours(1)};
+    /// Whether captures are scheduled; it comes before the limit when both are on.
     bool scheduledCaptureEnabled = false;
-    /// In display order.
+    /// The tasks, in display order.
     std::vector<RecordTime> schedule;
+    /// What to do when a limited capture ends.
     PowerAction captureFinishAction = DoNothing;
     /// The folder in which output videos are written.
     QString resultsFolderPath = DefaultResultsFolderPath();
