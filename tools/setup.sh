@@ -23,7 +23,8 @@ packages_to_run=(
 
 # To test it, in addition: linters, of licences too; Qt's private headers, for stand-ins of a screen; a
 # display that nobody sees, with what works a window on it; the accessibility bus; what checks the files
-# that the application installs; what judges recordings; a sound server that no device belongs to.
+# that the application installs; what judges recordings; a sound server that no device belongs to;
+# what writes the reference documents, with the names in Qt's.
 packages_to_test=(
     clang-format-14 clang-tidy-14 reuse git python3
     qtbase5-private-dev
@@ -32,7 +33,8 @@ packages_to_test=(
     dbus at-spi2-core python3-gi gir1.2-atspi-2.0 python3-dbusmock procps libglib2.0-bin
     appstream desktop-file-utils man-db
     ffmpeg
-    pipewire pipewire-bin pipewire-pulse wireplumber pulseaudio-utils)
+    pipewire pipewire-bin pipewire-pulse wireplumber pulseaudio-utils
+    doxygen qtbase5-doc-dev)
 
 missing_packages() {
     local package

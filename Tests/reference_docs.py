@@ -1,0 +1,108 @@
+#!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
+# SPDX-License-Identifier: MIT
+
+"""reference_docs.py DOXYGEN DOXYFILE OUTPUT HEADER...: proves that the reference documents are whole.
+
+Writes them into the folder OUTPUT, and fails when Doxygen warns, when a symbol of the headers that
+others can use has no description, when a header is missing, and when a link or a picture of a page
+leads nowhere.
+"""
+
+import os
+import re
+import shutil
+import subprocess
+import sys
+import urllib.parse
+import xml.etree.ElementTree as ElementTree
+
+KINDS = {"class", "struct", "union", "namespace", "file"}
+
+
+def is_described(element):
+    texts = [element.find(name) for name in ("briefdescription", "detaileddescription")]
+    return any("".join(text.itertext()).strip() for text in texts if text is not None)
+
+
+def name_of(element):
+    for tag in ("qualifiedname", "compoundname", "name"):
+        name = element.findtext(tag)
+        if name:
+            return name + (element.findtext("argsstring") or "")
+    return "?"
+
+
+def symbols(compound):
+    """The compound itself, its members and the values of its enumerations."""
+    yield compound
+    for member in compound.iter("memberdef"):
+        if member.get("prot") == "private" or member.get("kind") == "friend":
+            continue
+        yield member
+        yield from member.iter("enumvalue")
+
+
+def compounds(folder):
+    index = ElementTree.parse(os.path.join(folder, "index.xml")).getroot()
+    for entry in index.iter("compound"):
+        if entry.get("kind") in KINDS:
+            path = os.path.join(folder, entry.get("refid") + ".xml")
+            compound = ElementTree.parse(path).getroot().find("compounddef")
+            is_page = compound.get("kind") == "file" and name_of(compound).endswith(".md")
+            # Of namespaces of others only what ours refer to is listed.
+            if not is_page and name_of(compound) != "std":
+                yield compound
+
+
+def undocumented(folder, headers):
+    """What is wrong, and how many symbols there are."""
+    problems = []
+    files = set()
+    seen = set()
+    for compound in compounds(folder):
+        if compound.get("prot") == "private":
+            continue
+        if compound.get("kind") == "file":
+            files.add(os.path.basename(name_of(compound)))
+        for symbol in symbols(compound):
+            if symbol.get("id") in seen:
+                continue
+            seen.add(symbol.get("id"))
+            if not is_described(symbol):
+                problems.append("no description: " + name_of(symbol))
+    missing = sorted({os.path.basename(header) for header in headers} - files)
+    return problems + ["not in the documents: " + header for header in missing], len(seen)
+
+
+def broken_links(folder):
+    pages = {}
+    for name in os.listdir(folder):
+        if name.endswith(".html"):
+            with open(os.path.join(folder, name), encoding="utf-8") as page:
+                pages[name] = page.read()
+    ids = {name: set(re.findall(r'(?:id|name)="([^"]+)"', text)) for name, text in pages.items()}
+    for name, text in sorted(pages.items()):
+        for target in set(re.findall(r'(?:href|src)="([^"]+)"', text)):
+            if re.match(r"\w+:", target):
+                continue
+            path, _, anchor = urllib.parse.unquote(target).partition("#")
+            if path and not os.path.exists(os.path.join(folder, path)):
+                yield f"{name}: no file {path}"
+            elif anchor and anchor not in ids.get(path or name, {anchor}):
+                yield f"{name}: no anchor {target}"
+
+
+def main():
+    doxygen, doxyfile, output, *headers = sys.argv[1:]
+    for folder in ("html", "xml"):
+        shutil.rmtree(os.path.join(output, folder), ignore_errors=True)
+    written = subprocess.run([doxygen, doxyfile], check=False)
+    problems, count = undocumented(os.path.join(output, "xml"), headers)
+    problems += broken_links(os.path.join(output, "html"))
+    print("\n".join(problems))
+    print(f"{count} symbols, {len(problems)} problems")
+    sys.exit(written.returncode != 0 or bool(problems))
+
+
+main()
