@@ -80,12 +80,14 @@ QString FileSettingsLink()
 
 } // namespace
 
-/// The reactions of the panel, and its questions to the user.
-struct RecordSchedulerWidget::Private {
+/// What the panel keeps, its reactions, and its questions to the user. Hidden: a nested class would
+/// be exported with the one around it.
+struct Q_DECL_HIDDEN RecordSchedulerWidget::Private {
     explicit Private(RecordSchedulerWidget* panel);
 
     void ConnectControls();
     void ConnectForm();
+    void Retranslate();
 
     void OnLimitedModeToggled();
     void OnScheduledModeToggled();
@@ -98,18 +100,27 @@ struct RecordSchedulerWidget::Private {
     bool IsFormOpen() const;
     void ShowTable();
 
+    void UpdateControlsState(ValidateError error);
+    ValidateError ValidateRecord() const;
+    void ScheduleNewRecord();
+    bool ProcessUnsavedRecord();
+
     QMessageBox::StandardButton AskToLeaveSchedule();
     QMessageBox::StandardButton AskAboutUnsavedRecord();
     void ShowDiskSpaceAlert();
 
-    RecordSchedulerWidgetUi& ui;
     RecordSchedulerWidget* const owner;
+    RecordSchedulerWidgetUi ui;
+    // Hosts see in which order their objects are released: the last one first.
+    std::shared_ptr<SchedulerSettings> schedulerSettings;
+    std::shared_ptr<CaptureFinishActionSettings> captureFinishActionSettings;
+    std::shared_ptr<PathsSettings> pathsSettings;
+    std::shared_ptr<ISettingsWatcher> settingsWatcher;
     SignalSenders askingButtons;
 };
 
 RecordSchedulerWidget::Private::Private(RecordSchedulerWidget* panel)
-    : ui(*panel->m_ui)
-    , owner(panel)
+    : owner(panel)
 {
 }
 
@@ -117,18 +128,17 @@ RecordSchedulerWidget::RecordSchedulerWidget(
     const std::shared_ptr<App::ILookAndFeelManager>& lookAndFeel,
     const std::shared_ptr<App::ISettingsManager>& settingsManager, QWidget* parent)
     : ZFrame(parent, {})
-    , m_ui(std::make_unique<RecordSchedulerWidgetUi>())
     , d(std::make_unique<Private>(this))
 {
-    m_ui->setupUi(this, lookAndFeel, settingsManager);
-    m_ui->limitedCaptureDurationSettingsFrame->hide();
-    m_ui->scheduledCaptureStackedWidget->hide();
+    d->ui.setupUi(this, lookAndFeel, settingsManager);
+    d->ui.limitedCaptureDurationSettingsFrame->hide();
+    d->ui.scheduledCaptureStackedWidget->hide();
     // Takes effect with the display format that Retranslate() sets.
-    KeepLeftToRight(*m_ui->limitedCaptureDurationSettingsCaptureDuration);
-    new SeparatorKeyFilter(m_ui->limitedCaptureDurationSettingsCaptureDuration);
+    KeepLeftToRight(*d->ui.limitedCaptureDurationSettingsCaptureDuration);
+    new SeparatorKeyFilter(d->ui.limitedCaptureDurationSettingsCaptureDuration);
     d->ConnectControls();
     d->ConnectForm();
-    Retranslate();
+    d->Retranslate();
 }
 
 RecordSchedulerWidget::~RecordSchedulerWidget()
@@ -139,24 +149,24 @@ RecordSchedulerWidget::~RecordSchedulerWidget()
 void RecordSchedulerWidget::SetSchedulerSettings(
     const NotNull<std::shared_ptr<SchedulerSettings>>& settings)
 {
-    m_schedulerSettings = settings.Get();
+    d->schedulerSettings = settings.Get();
 }
 
 void RecordSchedulerWidget::SetCaptureFinishActionSettings(
     const NotNull<std::shared_ptr<CaptureFinishActionSettings>>& settings)
 {
-    m_captureFinishActionSettings = settings.Get();
+    d->captureFinishActionSettings = settings.Get();
 }
 
 void RecordSchedulerWidget::SetPathSettings(const NotNull<std::shared_ptr<PathsSettings>>& settings)
 {
-    m_pathsSettings = settings.Get();
+    d->pathsSettings = settings.Get();
 }
 
 void RecordSchedulerWidget::SetSettingsWatcher(
     const NotNull<std::shared_ptr<ISettingsWatcher>>& watcher)
 {
-    m_settingsWatcher = watcher.Get();
+    d->settingsWatcher = watcher.Get();
 }
 
 void RecordSchedulerWidget::Private::ConnectControls()
@@ -190,19 +200,18 @@ void RecordSchedulerWidget::Private::ConnectForm()
          {&CreateRecordTaskWidget::TaskNameChanged, &CreateRecordTaskWidget::RecordDateChanged,
           &CreateRecordTaskWidget::RecordStartTimeChanged,
           &CreateRecordTaskWidget::RecordDurationChanged}) {
-        connect(form, change, owner,
-                [this] { owner->UpdateControlsState(owner->ValidateRecord()); });
+        connect(form, change, owner, [this] { UpdateControlsState(ValidateRecord()); });
     }
     connect(
         form, &CreateRecordTaskWidget::BackButtonClicked, form,
         [this] {
-            if (owner->ProcessUnsavedRecord()) {
+            if (ProcessUnsavedRecord()) {
                 ShowTable();
             }
         },
         Qt::DirectConnection);
     connect(form, &CreateRecordTaskWidget::CreateTaskButtonClicked, owner,
-            &RecordSchedulerWidget::ScheduleNewRecord);
+            [this] { ScheduleNewRecord(); });
 }
 
 void RecordSchedulerWidget::Private::OnLimitedModeToggled()
@@ -210,8 +219,8 @@ void RecordSchedulerWidget::Private::OnLimitedModeToggled()
     const bool isOn = ui.limitedCaptureDurationRadioButton->isChecked();
     ui.limitedCaptureDurationSettingsFrame->setVisible(isOn);
     ApplyModeStyle(ui.limitedCaptureDurationRadioButtonFrame, isOn);
-    if (owner->m_settingsWatcher) {
-        owner->m_settingsWatcher->OnLimitedCaptureStateChanged(isOn);
+    if (settingsWatcher) {
+        settingsWatcher->OnLimitedCaptureStateChanged(isOn);
     }
 }
 
@@ -235,7 +244,7 @@ void RecordSchedulerWidget::Private::OnScheduledModeToggled()
     ApplyModeStyle(ui.scheduledCaptureRadioButtonFrame, isOn);
     if (isOn && IsFormOpen()) {
         // The tasks that the entered one was checked against may be gone.
-        owner->UpdateControlsState(owner->ValidateRecord());
+        UpdateControlsState(ValidateRecord());
     }
 }
 
@@ -270,23 +279,23 @@ void RecordSchedulerWidget::Private::OnLimitedDurationChanged()
     auto* durationEdit = ui.limitedCaptureDurationSettingsCaptureDuration;
     const QSignalBlocker blocker(durationEdit);
     ClampDuration(*durationEdit);
-    if (owner->m_settingsWatcher) {
-        owner->m_settingsWatcher->OnLimitedCaptureDurationChanged(DurationOf(durationEdit->time()));
+    if (settingsWatcher) {
+        settingsWatcher->OnLimitedCaptureDurationChanged(DurationOf(durationEdit->time()));
     }
 }
 
 void RecordSchedulerWidget::Private::OnFinishActionChanged(int index)
 {
-    if (owner->m_settingsWatcher) {
-        owner->m_settingsWatcher->OnCaptureFinishActionChanged(index);
+    if (settingsWatcher) {
+        settingsWatcher->OnCaptureFinishActionChanged(index);
     }
 }
 
 void RecordSchedulerWidget::Private::OnScheduleChanged()
 {
     const auto* table = ui.scheduledCaptureSettingsRecordTableWidget;
-    owner->m_settingsWatcher->OnScheduleChanged(table->GetPreparedSchedule());
-    owner->m_settingsWatcher->OnScheduleStateChanged(!table->IsScheduleEmpty());
+    settingsWatcher->OnScheduleChanged(table->GetPreparedSchedule());
+    settingsWatcher->OnScheduleStateChanged(!table->IsScheduleEmpty());
 }
 
 void RecordSchedulerWidget::Private::OpenForm()
@@ -303,7 +312,7 @@ void RecordSchedulerWidget::Private::OpenForm()
         const QSignalBlocker blocker(form);
         form->ResetForm(name);
     }
-    owner->UpdateControlsState(owner->ValidateRecord());
+    UpdateControlsState(ValidateRecord());
 }
 
 bool RecordSchedulerWidget::Private::IsFormOpen() const
@@ -316,15 +325,15 @@ void RecordSchedulerWidget::Private::ShowTable()
     ui.scheduledCaptureStackedWidget->setCurrentWidget(ui.scheduledCaptureRecordTablePage);
 }
 
-void RecordSchedulerWidget::UpdateControlsState(ValidateError error)
+void RecordSchedulerWidget::Private::UpdateControlsState(ValidateError error)
 {
-    m_ui->createRecordTaskWidget->ShowValidateError(error);
+    ui.createRecordTaskWidget->ShowValidateError(error);
 }
 
-ValidateError RecordSchedulerWidget::ValidateRecord() const
+ValidateError RecordSchedulerWidget::Private::ValidateRecord() const
 {
-    const auto* form = m_ui->createRecordTaskWidget;
-    const auto* table = m_ui->scheduledCaptureSettingsRecordTableWidget;
+    const auto* form = ui.createRecordTaskWidget;
+    const auto* table = ui.scheduledCaptureSettingsRecordTableWidget;
     const auto name = form->GetTaskName();
     if (name.isEmpty()) {
         return EmptyTitle;
@@ -338,29 +347,29 @@ ValidateError RecordSchedulerWidget::ValidateRecord() const
     return table->DoesCaptureTimeIntersected(probe) ? CaptureTimeIntersected : NoError;
 }
 
-void RecordSchedulerWidget::ScheduleNewRecord()
+void RecordSchedulerWidget::Private::ScheduleNewRecord()
 {
-    if (!m_settingsWatcher) {
+    if (!settingsWatcher) {
         return;
     }
-    const auto* form = m_ui->createRecordTaskWidget;
+    const auto* form = ui.createRecordTaskWidget;
     RecordTime record;
     record.duration = DurationOf(form->GetDuration());
     record.start = StartOf(form->GetStartDateTime());
     record.screenIndex = form->IsFullScreen() ? form->GetScreenIndex() : -1;
     record.finishAction = static_cast<PowerAction>(form->GetActionOnFinishIndex());
     record.title = form->GetTaskName();
-    m_ui->scheduledCaptureSettingsRecordTableWidget->AddRecord(record);
-    d->ShowTable();
+    ui.scheduledCaptureSettingsRecordTableWidget->AddRecord(record);
+    ShowTable();
 }
 
-bool RecordSchedulerWidget::ProcessUnsavedRecord()
+bool RecordSchedulerWidget::Private::ProcessUnsavedRecord()
 {
-    if (!d->IsFormOpen()) {
+    if (!IsFormOpen()) {
         return true;
     }
-    const QPointer<RecordSchedulerWidget> self(this);
-    const auto answer = d->AskAboutUnsavedRecord();
+    const QPointer<RecordSchedulerWidget> self(owner);
+    const auto answer = AskAboutUnsavedRecord();
     if (self.isNull() || (answer != QMessageBox::Yes && answer != QMessageBox::No)) {
         return false;
     }
@@ -396,15 +405,15 @@ QMessageBox::StandardButton RecordSchedulerWidget::Private::AskAboutUnsavedRecor
 
 bool RecordSchedulerWidget::ValidateSettings()
 {
-    if (!m_ui->scheduledCaptureRadioButton->isChecked()) {
+    if (!d->ui.scheduledCaptureRadioButton->isChecked()) {
         return true;
     }
-    if (!ProcessUnsavedRecord()) {
+    if (!d->ProcessUnsavedRecord()) {
         return false;
     }
     // The host may run an event loop until it knows, in which the panel may be destroyed.
     const QPointer<RecordSchedulerWidget> self(this);
-    const auto pathsSettings = m_pathsSettings;
+    const auto pathsSettings = d->pathsSettings;
     ioPath resultsFolder;
     resultsFolder = pathsSettings->GetResultsFolderPath().toStdString();
     const auto freeBytes = Zentor::Util::GetAvailableDiskSpace(resultsFolder);
@@ -454,24 +463,25 @@ void RecordSchedulerWidget::Private::ShowDiskSpaceAlert()
 
 void RecordSchedulerWidget::RestoreSettings()
 {
-    m_ui->limitedCaptureDurationSettingsActionOnFinishBox->setCurrentIndex(
-        m_captureFinishActionSettings->GetCaptureFinishAction());
-    m_ui->limitedCaptureDurationSettingsCaptureDuration->setTime(
-        ClockReadingOf(m_schedulerSettings->GetLimitedCaptureDuration()));
-    m_ui->scheduledCaptureSettingsRecordTableWidget->AddRecords(m_schedulerSettings->GetSchedule());
+    d->ui.limitedCaptureDurationSettingsActionOnFinishBox->setCurrentIndex(
+        d->captureFinishActionSettings->GetCaptureFinishAction());
+    d->ui.limitedCaptureDurationSettingsCaptureDuration->setTime(
+        ClockReadingOf(d->schedulerSettings->GetLimitedCaptureDuration()));
+    d->ui.scheduledCaptureSettingsRecordTableWidget->AddRecords(
+        d->schedulerSettings->GetSchedule());
 
-    const bool isScheduled = m_schedulerSettings->IsScheduledCaptureEnabled();
-    const bool isLimited = m_schedulerSettings->IsLimitedCaptureEnabled();
-    m_ui->disableScheduledCaptureRadioButton->setChecked(!isScheduled && !isLimited);
-    m_ui->limitedCaptureDurationRadioButton->setChecked(isLimited);
-    m_ui->scheduledCaptureRadioButton->setChecked(isScheduled);
+    const bool isScheduled = d->schedulerSettings->IsScheduledCaptureEnabled();
+    const bool isLimited = d->schedulerSettings->IsLimitedCaptureEnabled();
+    d->ui.disableScheduledCaptureRadioButton->setChecked(!isScheduled && !isLimited);
+    d->ui.limitedCaptureDurationRadioButton->setChecked(isLimited);
+    d->ui.scheduledCaptureRadioButton->setChecked(isScheduled);
 }
 
-void RecordSchedulerWidget::Retranslate()
+void RecordSchedulerWidget::Private::Retranslate()
 {
-    m_ui->retranslateUi();
+    ui.retranslateUi();
 
-    auto* finishActionBox = m_ui->limitedCaptureDurationSettingsActionOnFinishBox;
+    auto* finishActionBox = ui.limitedCaptureDurationSettingsActionOnFinishBox;
     const int index = finishActionBox->currentIndex();
     const QSignalBlocker blocker(finishActionBox);
     PX::UI::ClearAndFillPowerActionsComboBox(finishActionBox);
@@ -481,7 +491,7 @@ void RecordSchedulerWidget::Retranslate()
 void RecordSchedulerWidget::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange) {
-        Retranslate();
+        d->Retranslate();
     }
     QWidget::changeEvent(event);
 }

@@ -12,8 +12,6 @@
 
 namespace Zentor::PX::Scheduler::UI {
 
-struct RecordSchedulerWidgetUi;
-
 /// The panel on which the user decides how recording is timed: not at all, stop after a duration
 /// and then act, or a list of scheduled tasks.
 ///
@@ -104,19 +102,6 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void Retranslate();
-
-    void UpdateControlsState(ValidateError error);
-    ValidateError ValidateRecord() const;
-    void ScheduleNewRecord();
-    bool ProcessUnsavedRecord();
-
-    std::unique_ptr<RecordSchedulerWidgetUi> m_ui;
-    std::shared_ptr<SchedulerSettings> m_schedulerSettings;
-    std::shared_ptr<CaptureFinishActionSettings> m_captureFinishActionSettings;
-    std::shared_ptr<PathsSettings> m_pathsSettings;
-    std::shared_ptr<ISettingsWatcher> m_settingsWatcher;
-
     struct Private;
     std::unique_ptr<Private> d;
 };
