@@ -8,7 +8,8 @@
 #                                                   coverage;
 #                                                   ALLOW_ASCII: QString from and to char texts
 #   zentor_library(<target> <name>)                 makes it a library for integrators: known as
-#                                                   Zentor::<name> and installed
+#                                                   Zentor::<name> and installed; a shared one exports,
+#                                                   of what is visible at all, what exports.map names
 #   zentor_target_moc(<target> <header>...)         runs moc on the headers, without AUTOMOC
 #   zentor_target_precompile(<target>)              spares a target with widgets, built for its own sake,
 #                                                   the reading of Qt's headers in each source
@@ -16,6 +17,8 @@
 #                                                   an interface target with which these headers, and
 #                                                   nothing else of their folder, can be included: by
 #                                                   name, or by the path that is given here
+
+include(CheckLinkerFlag)
 
 if(QT_MAJOR_VERSION EQUAL 5)
     set(zentor_minimum_qt 5.15)
@@ -74,6 +77,14 @@ function(zentor_library target name)
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR})
     set_property(GLOBAL APPEND PROPERTY ZENTOR_LIBRARIES ${target})
+
+    set(map "${CMAKE_CURRENT_SOURCE_DIR}/exports.map")
+    check_linker_flag(CXX "LINKER:--version-script=${map}" ZENTOR_HAS_VERSION_SCRIPTS)
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL "SHARED_LIBRARY" AND ZENTOR_HAS_VERSION_SCRIPTS)
+        target_link_options(${target} PRIVATE "LINKER:--version-script=${map}")
+        set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${map}")
+    endif()
 endfunction()
 
 # CMake 3.25 drops AUTOMOC's output of an object library that is reached through

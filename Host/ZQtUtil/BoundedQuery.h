@@ -9,8 +9,6 @@
 #include <memory>
 #include <string>
 
-#include "HostData.h"
-
 namespace Zentor::Util {
 
 /// Query with a timeout, for questions that may hang in the operating system.
@@ -18,7 +16,7 @@ namespace Zentor::Util {
 /// Each question runs on a thread of its own. One that hangs keeps its thread until it is answered;
 /// so that such threads do not pile up, its subject is not asked about again meanwhile, and only a
 /// few subjects may hang at a time.
-class ZENTOR_HOST_API BoundedQuery {
+class BoundedQuery {
 public:
     /// Answers with a number, negative when there is no answer. Must not throw.
     using Question = std::function<std::int64_t()>;
