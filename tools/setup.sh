@@ -21,12 +21,12 @@ packages_to_run=(
     gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-plugins-ugly
     gstreamer1.0-x gstreamer1.0-pulseaudio gstreamer1.0-pipewire gstreamer1.0-libav)
 
-# To test it, in addition: linters, of licences too; Qt's private headers, for stand-ins of a screen; a
-# display that nobody sees, with what works a window on it; the accessibility bus; what checks the files
-# that the application installs; what judges recordings; a sound server that no device belongs to;
-# what writes the reference documents, with the names in Qt's.
+# To test it, in addition: linters, of licences too; a second compiler; Qt's private headers, for
+# stand-ins of a screen; a display that nobody sees, with what works a window on it; the accessibility
+# bus; what checks the files that the application installs; what judges recordings; a sound server that
+# no device belongs to; what writes the reference documents, with the names in Qt's.
 packages_to_test=(
-    clang-format-14 clang-tidy-14 reuse git python3
+    clang-format-14 clang-tidy-14 clang-14 reuse git python3
     qtbase5-private-dev
     xvfb xauth xdotool openbox
     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils
