@@ -10,6 +10,8 @@
 #   zentor_library(<target> <name>)                 makes it a library for integrators: known as
 #                                                   Zentor::<name> and installed; a shared one exports,
 #                                                   of what is visible at all, what exports.map names
+#   zentor_system_headers(<target> <library>...)    warnings in headers of these libraries are theirs,
+#                                                   wherever a parent project has the libraries from
 #   zentor_target_moc(<target> <header>...)         runs moc on the headers, without AUTOMOC
 #   zentor_target_precompile(<target>)              spares a target with widgets, built for its own sake,
 #                                                   the reading of Qt's headers in each source
@@ -50,9 +52,14 @@ function(zentor_target_defaults target)
     if(NOT arg_ALLOW_ASCII)
         target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
     endif()
-    target_compile_options(${target} PRIVATE
-        -Wall -Wextra -Wpedantic -Wconversion -Wshadow
-        $<$<BOOL:${SCHEDULER_WARNINGS_AS_ERRORS}>:-Werror>)
+    if(PROJECT_IS_TOP_LEVEL)
+        target_compile_options(${target} PRIVATE
+            -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+            $<$<BOOL:${SCHEDULER_WARNINGS_AS_ERRORS}>:-Werror>)
+    else()
+        # The flags of the parent project are made for its own sources.
+        target_compile_options(${target} PRIVATE -w)
+    endif()
     if(SCHEDULER_SANITIZE)
         set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all
             -fno-omit-frame-pointer)
@@ -63,6 +70,13 @@ function(zentor_target_defaults target)
         target_compile_options(${target} PRIVATE --coverage -fprofile-update=atomic)
         target_link_options(${target} PUBLIC --coverage)
     endif()
+endfunction()
+
+function(zentor_system_headers target)
+    foreach(library IN LISTS ARGN)
+        target_include_directories(${target} SYSTEM PRIVATE
+            $<TARGET_PROPERTY:${library},INTERFACE_INCLUDE_DIRECTORIES>)
+    endforeach()
 endfunction()
 
 # A static library has the file name of its shared twin.

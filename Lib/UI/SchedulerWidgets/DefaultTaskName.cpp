@@ -24,9 +24,10 @@ cpp_int ParseOctal(const std::string& digits)
     constexpr unsigned bitsPerDigit = 3;
     cpp_int number = 0;
     for (std::size_t position = 0; position < digits.size(); position += pieceLength) {
-        const auto piece = digits.substr(position, pieceLength);
-        number <<= bitsPerDigit * static_cast<unsigned>(piece.size());
-        number += cpp_int("0" + piece);
+        std::string piece = "0";
+        piece.append(digits, position, pieceLength);
+        number <<= bitsPerDigit * static_cast<unsigned>(piece.size() - 1);
+        number += cpp_int(piece);
     }
     return number;
 }
@@ -52,7 +53,8 @@ QString DefaultTaskName(const std::vector<RecordTime>& records)
             highest = std::max(highest, ParseNumber(rest.toStdString()));
         }
     }
-    return prefix + QString::fromStdString(cpp_int(highest + 1).str());
+    ++highest;
+    return prefix + QString::fromStdString(highest.str());
 }
 
 } // namespace Zentor::PX::Scheduler::UI
