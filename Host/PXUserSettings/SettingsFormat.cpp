@@ -238,8 +238,8 @@ SettingsDocument ParseSettings(const QByteArray& json, const std::vector<Setting
         document.isUnderstood = true;
         document.fields = fields;
         document.settings = ParseSections(fields, sections, document.problems);
-        document.droppedTasks =
-            TasksIn(fields).size() - static_cast<int>(document.settings.schedule.size());
+        document.droppedTasks = static_cast<int>(TasksIn(fields).size())
+            - static_cast<int>(document.settings.schedule.size());
         const QStringList duplicates = DuplicateKeys(json);
         for (const QString& key : duplicates) {
             document.problems << key + QLatin1String(": given more than once");

@@ -15,7 +15,7 @@ QString AccessibleNameFrom(const QLabel& caption)
 {
     QString name = caption.text();
     const QChar mark = QLatin1Char('&');
-    for (int at = name.indexOf(mark); at >= 0; at = name.indexOf(mark, at + 1)) {
+    for (auto at = name.indexOf(mark); at >= 0; at = name.indexOf(mark, at + 1)) {
         // A doubled mark stands for the character itself: one stays.
         name.remove(at, 1);
     }

@@ -5,6 +5,7 @@
 
 #include "FakeClock.h"
 #include "TaskForm.h"
+#include "UnixSeconds.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {
@@ -43,7 +44,7 @@ QString Fault(const TaskForm& form, const QDateTime& now)
     if (!start.isValid()) {
         return "no valid start";
     }
-    if (start < now || start.toTime_t() == uint(-1)) {
+    if (start < now || UnixSecondsOf(start) == NoUnixSeconds) {
         return "starts in the past";
     }
     if (form.Date()->date() != start.date()) {
@@ -615,7 +616,7 @@ private Q_SLOTS:
         for (const QByteArray& zone : zones) {
             const ZoneChange change(zone);
             const auto moments = ClockChangesAfter(QDateTime(QDate(2026, 11, 21), QTime(15, 0)));
-            changeCount += moments.size();
+            changeCount += int(moments.size());
             for (const QDateTime& moment : moments) {
                 FakeClock clock(moment.addSecs(-30));
                 const TaskForm form;

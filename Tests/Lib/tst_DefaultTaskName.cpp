@@ -72,6 +72,13 @@ private Q_SLOTS:
             {"Lecture", "task 4", "Task 4 ", "Task  4", "Task -4", "Task 4a", "Task", "Task ",
              "Task +4", "My Task 4", "Task 4.0"},
             "Task 1");
+        row("digits and what cannot be seen",
+            {"Task 4\n", "Task \n4", "Task 4\r\n", "Task 4\n4", "Task 4" + QString(QChar::Null),
+             "Task 4" + QString(QChar::ParagraphSeparator)},
+            "Task 1");
+        row("numbers that are no decimal digits", {QString::fromUtf8("Task Ⅳ"), "Task \u00b2"},
+            "Task 1");
+        row("digits of two code units", {QString::fromUtf8("Task 𝟒")}, "Task 1");
         row("octal", {"Task 010"}, "Task 9");
         row("zero", {"Task 0"}, "Task 1");
         row("zeros", {"Task 000"}, "Task 1");

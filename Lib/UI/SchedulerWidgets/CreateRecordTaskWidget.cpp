@@ -196,7 +196,8 @@ void CreateRecordTaskWidget::ResetForm(const QString& taskName)
     m_ui->scheduledCaptureSettingsNameLineEdit->setText(taskName);
     m_ui->scheduledCaptureSettingsActionOnFinishBox->setCurrentIndex(0);
     m_ui->scheduledCaptureSettingsFullScreenAreaButton->setChecked(true);
-    const auto primary = QGuiApplication::screens().indexOf(QGuiApplication::primaryScreen());
+    const auto primary =
+        static_cast<int>(QGuiApplication::screens().indexOf(QGuiApplication::primaryScreen()));
     m_ui->scheduledCaptureSettingsScreenSelectBox->setCurrentIndex(qMax(0, primary));
 }
 

@@ -9,7 +9,6 @@
 #include <boost/multiprecision/cpp_int.hpp>
 
 #include <QCoreApplication>
-#include <QRegExp>
 
 namespace Zentor::PX::Scheduler::UI {
 namespace {
@@ -32,6 +31,13 @@ cpp_int ParseOctal(const std::string& digits)
     return number;
 }
 
+/// Decimal digits of any script.
+bool IsNumber(const QString& text)
+{
+    return !text.isEmpty()
+        && std::all_of(text.begin(), text.end(), [](QChar letter) { return letter.isDigit(); });
+}
+
 cpp_int ParseNumber(const std::string& digits)
 {
     return digits.front() == '0' ? ParseOctal(digits) : cpp_int(digits);
@@ -42,14 +48,13 @@ cpp_int ParseNumber(const std::string& digits)
 QString DefaultTaskName(const std::vector<RecordTime>& records)
 {
     const auto prefix = QCoreApplication::translate("ScheduleRecordTableWidget", "Task ");
-    const QRegExp number(QStringLiteral("^\\d+$"));
     cpp_int highest = 0;
     for (const auto& record : records) {
         if (!record.title.startsWith(prefix)) {
             continue;
         }
         const auto rest = record.title.mid(prefix.length());
-        if (number.indexIn(rest) >= 0) {
+        if (IsNumber(rest)) {
             highest = std::max(highest, ParseNumber(rest.toStdString()));
         }
     }

@@ -32,6 +32,7 @@
 #include "ScheduleRecordTableWidget.h"
 #include "SeparatorKeyFilter.h"
 #include "SignalSenders.h"
+#include "UnixSeconds.h"
 
 namespace Zentor::PX::Scheduler::UI {
 namespace {
@@ -48,7 +49,7 @@ void ApplyModeStyle(QWidget* modeFrame, bool isActive)
 Time::IClock::time_point StartOf(const QDateTime& dateTime)
 {
     static const Time::SystemClock clock;
-    return clock.FromTimeT(dateTime.toTime_t());
+    return clock.FromTimeT(UnixSecondsOf(dateTime));
 }
 
 std::int64_t ToBits(std::int64_t bytes)
