@@ -109,10 +109,10 @@ def check_core(library):
     dynamic = subprocess.run(["readelf", "--dynamic", "--wide", library], text=True,
                              capture_output=True, check=True).stdout
     needed = re.findall(r"\(NEEDED\).*\[(.*)\]", dynamic)
-    if not any(name.startswith("libQt5Core.") for name in needed):
+    if not any(re.match(r"libQt\dCore\.", name) for name in needed):
         return ["the core does not say that it needs Qt Core"]
     return ["the core needs " + name for name in needed
-            if name.startswith("libQt5") and not name.startswith("libQt5Core.")]
+            if re.match(r"libQt\d(?!Core\.)", name)]
 
 
 def main():

@@ -460,13 +460,13 @@ void Walk::SwitchLanguage()
 
 void Walk::ChangeScreens()
 {
-    const int count = m_stage->screens.size();
+    const int count = int(m_stage->screens.size());
     if (count < 3 && (count == 0 || IsLucky(2))) {
         m_stage->PlugScreen();
     } else {
         m_stage->UnplugScreen(Below(count));
     }
-    m_model.CountScreens(1 + m_stage->screens.size());
+    m_model.CountScreens(1 + int(m_stage->screens.size()));
 }
 
 void Walk::Advance()

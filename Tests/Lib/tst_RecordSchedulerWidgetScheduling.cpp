@@ -541,7 +541,7 @@ private Q_SLOTS:
         ExpectedBox box{QMessageBox::StandardButton(answer)};
         QTEST(panel.widget->ValidateSettings(), "mayStart");
         QVERIFY(box.Came());
-        QTEST(TheDisk().queriedPaths.size(), "queryCount");
+        QTEST(int(TheDisk().queriedPaths.size()), "queryCount");
         QCOMPARE(panel.IsFormOpen(), answer != QMessageBox::Yes);
     }
 };

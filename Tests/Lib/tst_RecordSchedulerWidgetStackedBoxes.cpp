@@ -69,10 +69,12 @@ void Click(QAbstractButton* button)
 {
     const QPointer<QAbstractButton> guard(button);
     const QPointF middle = QRectF(button->rect()).center();
-    QMouseEvent press(QEvent::MouseButtonPress, middle, Qt::LeftButton, Qt::LeftButton, {});
+    const QPointF onScreen = button->mapToGlobal(middle.toPoint());
+    QMouseEvent press(QEvent::MouseButtonPress, middle, onScreen, Qt::LeftButton, Qt::LeftButton,
+                      {});
     QCoreApplication::sendEvent(button, &press);
     if (guard != nullptr) {
-        QMouseEvent release(QEvent::MouseButtonRelease, middle, Qt::LeftButton, {}, {});
+        QMouseEvent release(QEvent::MouseButtonRelease, middle, onScreen, Qt::LeftButton, {}, {});
         QCoreApplication::sendEvent(button, &release);
     }
 }

@@ -139,7 +139,7 @@ private Q_SLOTS:
             QCOMPARE(property.name(), expected[i].first);
             QCOMPARE(property.read(table.widget).toInt(), expected[i].second);
             QVERIFY(property.isWritable());
-            QCOMPARE(int(property.type()), int(QVariant::Int));
+            QCOMPARE(int(property.userType()), int(QMetaType::Int));
         }
     }
 
@@ -496,7 +496,8 @@ private Q_SLOTS:
     {
         Table table;
         table.widget->AddRecord(Record("A", "10:00"));
-        QMouseEvent press(QEvent::MouseButtonPress, QPointF(), Qt::LeftButton, Qt::LeftButton, {});
+        QMouseEvent press(QEvent::MouseButtonPress, QPointF(), QPointF(), Qt::LeftButton,
+                          Qt::LeftButton, {});
         QVERIFY(!table.widget->eventFilter(table.Row(0), &press));
         QVERIFY(!table.Row(0)->findChild<QToolButton*>()->property("SubStyle").isValid());
     }

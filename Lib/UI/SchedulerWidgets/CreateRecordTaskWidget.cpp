@@ -137,6 +137,9 @@ void CreateRecordTaskWidget::PrepareEditors()
         KeepLeftToRight(*editor);
         new SeparatorKeyFilter(editor);
     }
+    // Qt 6 has a time-only editor count in UTC, which knows nothing of DST.
+    m_ui->scheduledCaptureSettingsDate->setTimeSpec(Qt::LocalTime);
+    m_ui->scheduledCaptureSettingsStartTime->setTimeSpec(Qt::LocalTime);
 }
 
 void CreateRecordTaskWidget::LimitFields()
