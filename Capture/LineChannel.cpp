@@ -52,7 +52,7 @@ void LineChannel::Read()
 
 void LineChannel::Split()
 {
-    for (int end = m_received.indexOf('\n'); end >= 0; end = m_received.indexOf('\n')) {
+    for (auto end = m_received.indexOf('\n'); end >= 0; end = m_received.indexOf('\n')) {
         const QByteArray line = m_received.left(end);
         m_received.remove(0, end + 1);
         if (!m_isTooLong) {

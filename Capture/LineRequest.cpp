@@ -65,14 +65,14 @@ std::int64_t NumberIn(const QJsonObject& line, const char* name)
 std::optional<Quality> QualityNamed(const QString& name)
 {
     const QStringList names{QualityName::Small, QualityName::Normal, QualityName::High};
-    const int index = names.indexOf(name);
+    const auto index = names.indexOf(name);
     return index < 0 ? std::nullopt : std::optional(static_cast<Quality>(index));
 }
 
 std::optional<RecordingRequest::Source> SourceNamed(const QString& name)
 {
     const QStringList names{SourceType::X11, SourceType::Portal, SourceType::Test};
-    const int index = names.indexOf(name);
+    const auto index = names.indexOf(name);
     return index < 0 ? std::nullopt : std::optional(static_cast<RecordingRequest::Source>(index));
 }
 
