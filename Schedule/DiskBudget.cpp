@@ -157,7 +157,7 @@ qint64 Sum(qint64 first, qint64 second)
 
 RecordingShape ShapeOf(const RecordingSettings& settings, const QSize& size)
 {
-    const int devices = settings.soundDevices.size();
+    const auto devices = static_cast<int>(settings.soundDevices.size());
     return {size, settings.framesPerSecond, settings.quality,
             settings.mixSound ? std::min(1, devices) : devices};
 }

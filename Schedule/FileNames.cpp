@@ -38,15 +38,15 @@ QString Usable(const QString& title)
 }
 
 /// The beginning of \a text that takes at most \a bytes.
-QString CutToBytes(const QString& text, int bytes)
+QString CutToBytes(const QString& text, qint64 bytes)
 {
     if (text.toUtf8().size() <= bytes) {
         return text;
     }
     QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, text);
-    int used = 0;
-    int begin = 0;
-    for (int end = letters.toNextBoundary(); end > 0; end = letters.toNextBoundary()) {
+    qint64 used = 0;
+    auto begin = letters.position();
+    for (auto end = letters.toNextBoundary(); end > 0; end = letters.toNextBoundary()) {
         used += text.mid(begin, end - begin).toUtf8().size();
         if (used > bytes) {
             break;
@@ -76,7 +76,7 @@ QString RecordingFilePath(const QString& folder, const QString& title, Moment st
     const QDir place(folder);
     for (int number = 1;; ++number) {
         const QString rest = number == 1 ? time : QStringLiteral("%1 (%2)").arg(time).arg(number);
-        const int room = LongestName - RoomForConversion - (rest + container).toUtf8().size() - 1;
+        const auto room = LongestName - RoomForConversion - (rest + container).toUtf8().size() - 1;
         const QString path = place.absoluteFilePath(CutToBytes(usable, room) + rest);
         if (!IsTaken(path + QLatin1Char('.') + container)
             && !IsTaken(path + QLatin1String(".mkv"))) {

@@ -53,7 +53,7 @@ std::optional<QString> ToContainer(const QJsonValue& value)
 template <typename Enum> auto ToOneOf(const QStringList& names)
 {
     return [&names](const QJsonValue& value) {
-        const int index = names.indexOf(value.toString());
+        const auto index = names.indexOf(value.toString());
         return index < 0 ? std::nullopt : std::optional(static_cast<Enum>(index));
     };
 }

@@ -13,8 +13,8 @@ LineSplitter::LineSplitter(int longest)
 std::vector<QByteArray> LineSplitter::Take(const QByteArray& part)
 {
     std::vector<QByteArray> lines;
-    int begin = 0;
-    for (int end = part.indexOf('\n'); end >= 0; end = part.indexOf('\n', begin)) {
+    decltype(part.size()) begin = 0;
+    for (auto end = part.indexOf('\n'); end >= 0; end = part.indexOf('\n', begin)) {
         Append(part.mid(begin, end - begin));
         if (!m_isTooLong) {
             lines.push_back(m_rest);

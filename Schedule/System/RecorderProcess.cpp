@@ -5,14 +5,13 @@
 
 #include <cmath>
 
-#include <unistd.h>
-
 #include <QJsonDocument>
 
 #include <glog/logging.h>
 
 #include "CoreInt/Printable.h"
 #include "Protocol.h"
+#include "System/BackgroundProcess.h"
 #include "System/MachineClock.h"
 
 namespace Zentor::Schedule {
@@ -32,12 +31,6 @@ constexpr int ProgressPatience = 5;
 constexpr int ClosingPatience = 20;
 /// A process that waits for a broken disk cannot even be killed.
 constexpr int KillPatience = 5;
-
-/// A program that a terminal's Ctrl+C does not reach.
-class BackgroundProcess final : public QProcess {
-protected:
-    void setupChildProcess() override { setpgid(0, 0); }
-};
 
 qint64 NumberIn(const QJsonObject& event, const char* name, qint64 otherwise)
 {

@@ -172,7 +172,7 @@ void tst_FileNames::cutsTitlesThatAreTooLong()
     const QString title = letter.repeated(300);
     for (int i = 0; i < 11; ++i) {
         const QString path = RecordingFilePath(folder.path(), title, Evening(), "mkv");
-        const int bytes = NameOf(path).toUtf8().size();
+        const int bytes = int(NameOf(path).toUtf8().size());
         QVERIFY2(bytes <= mostBytes, qPrintable(QString::number(bytes)));
         QVERIFY2(bytes > mostBytes - 16, qPrintable(QString::number(bytes)));
         Touch(path);

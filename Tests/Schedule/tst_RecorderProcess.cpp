@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "RecorderTestSupport.h"
+#include "System/BackgroundProcess.h"
 #include "System/MachineClock.h"
 #include "WidgetTest.h"
 
@@ -80,7 +81,7 @@ RecorderRequest RequestFor(const QString& file)
 
 /// A program with a process group of its own, to which Ctrl+C is sent as a terminal would. It is
 /// ended with this object.
-class Host final : public QProcess {
+class Host final : public Schedule::BackgroundProcess {
 public:
     ~Host() override
     {
@@ -96,11 +97,8 @@ public:
     int Count(const char* text)
     {
         m_output += readAllStandardOutput();
-        return m_output.count(text);
+        return int(m_output.count(text));
     }
-
-protected:
-    void setupChildProcess() override { setpgid(0, 0); }
 
 private:
     QByteArray m_output;

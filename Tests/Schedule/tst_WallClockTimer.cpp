@@ -134,7 +134,7 @@ void tst_WallClockTimer::tellsThatTheClockWasSet()
     // Not exactly: other programs may set it, too.
     QTRY_VERIFY_WITH_TIMEOUT(clockSet.count() >= 1, Patience);
     QCOMPARE(reached.count(), 0);
-    const int before = clockSet.count();
+    const auto before = clockSet.count();
     QVERIFY(StepClock());
     QTRY_VERIFY_WITH_TIMEOUT(clockSet.count() > before, Patience);
 }

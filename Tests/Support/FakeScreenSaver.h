@@ -33,7 +33,7 @@ public:
     /// How often Inhibit() has been called.
     int Asked() const { return m_asked; }
     /// How many inhibit it now.
-    int Held() const { return m_cookies.size(); }
+    int Held() const { return static_cast<int>(m_cookies.size()); }
 
 public Q_SLOTS:
     uint Inhibit(const QString& application, const QString& reason);
