@@ -9,6 +9,8 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+#include "Application/Translations.h"
+
 namespace Zentor::Desktop {
 namespace {
 
@@ -24,6 +26,15 @@ constexpr Language Languages[] = {
     {"ja", "日本語"},  {"ko", "한국어"},   {"zh_CN", "简体中文"},
     {"ar", "العربية"}, {"he", "עברית"},
 };
+
+/// The texts of \a name in the language of \a locale; null when \a folder has none.
+std::unique_ptr<QTranslator> LoadFrom(const QString& folder, const QString& name,
+                                      const QLocale& locale)
+{
+    auto translator = std::make_unique<QTranslator>();
+    const bool isLoaded = translator->load(locale, name, QStringLiteral("_"), folder);
+    return isLoaded ? std::move(translator) : nullptr;
+}
 
 } // namespace
 
@@ -106,21 +117,20 @@ void Translations::Use(const QString& code)
     Remove();
     const QLocale locale = LocaleOf(code);
     QLocale::setDefault(locale);
-    const QString ofQt = QStringLiteral("qtbase");
-    const QString ofApplication = QStringLiteral("px-scheduler");
-    const QString separator = QStringLiteral("_");
-    const std::pair<QString, QString> sources[] = {
-        {ofQt, QLibraryInfo::location(QLibraryInfo::TranslationsPath)},
-        {ofApplication, QStringLiteral(":/translations")}};
-    for (const auto& [name, folder] : sources) {
-        auto translator = std::make_unique<QTranslator>();
-        if (translator->load(locale, name, separator, folder)) {
-            QCoreApplication::installTranslator(translator.get());
-            m_translators.push_back(std::move(translator));
-        }
-    }
+    Install(LoadFrom(QLibraryInfo::location(QLibraryInfo::TranslationsPath),
+                     QStringLiteral("qtbase"), locale));
+    Install(App::LoadTranslations(locale));
+    Install(LoadFrom(QStringLiteral(":/translations"), QStringLiteral("px-scheduler"), locale));
     if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr) {
         QGuiApplication::setLayoutDirection(locale.textDirection());
+    }
+}
+
+void Translations::Install(std::unique_ptr<QTranslator> translator)
+{
+    if (translator != nullptr) {
+        QCoreApplication::installTranslator(translator.get());
+        m_translators.push_back(std::move(translator));
     }
 }
 

@@ -45,14 +45,17 @@ public:
     Translations(const Translations&) = delete;
     Translations& operator=(const Translations&) = delete;
 
-    /// Replaces what was in use by \a code, one of LanguageCodes(): the texts of Qt and of the
-    /// application, the default locale and the direction of writing. Every widget receives
-    /// QEvent::LanguageChange. A text that has no translation stays English.
+    /// Replaces what was in use by \a code, one of LanguageCodes(): the texts of Qt, of
+    /// the panel with its host and of the application, the default locale and the direction of
+    /// writing. Every widget receives QEvent::LanguageChange. A text that has no translation stays
+    /// English.
     ///
     /// Needs an application object; a QCoreApplication is enough for the texts.
     void Use(const QString& code);
 
 private:
+    /// Takes over \a translator, which may be null.
+    void Install(std::unique_ptr<QTranslator> translator);
     void Remove();
 
     std::vector<std::unique_ptr<QTranslator>> m_translators;

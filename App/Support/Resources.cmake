@@ -50,25 +50,7 @@ foreach(_theme light dark)
 endforeach()
 configure_file(Support/icons.qrc.in Icons/icons.qrc @ONLY)
 
-# Translators work on the .ts files with Qt Linguist.
-zentor_find_qt(LinguistTools)
-set(languages en de fr es it pt_BR pl ru tr ja ko zh_CN ar he)
-list(TRANSFORM languages REPLACE "(.+)" "Translations/px-scheduler_\\1.ts"
-    OUTPUT_VARIABLE translation_sources)
-qt_add_translation(translations ${translation_sources})
-foreach(_translation IN LISTS translations)
-    get_filename_component(_name "${_translation}" NAME)
-    string(APPEND translation_entries "        <file>${_name}</file>\n")
-endforeach()
-configure_file(Support/translations.qrc.in translations.qrc @ONLY)
-
-# Takes the texts of the sources over into the .ts files. Only on demand, as it changes the source
-# tree: cmake --build <folder> --target update-translations
-list(TRANSFORM translation_sources PREPEND App/)
-add_custom_target(update-translations
-    COMMAND Qt${QT_MAJOR_VERSION}::lupdate -no-obsolete -locations none App Host Lib Schedule -ts ${translation_sources}
-    WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
-    VERBATIM)
+zentor_add_translations(px-scheduler PREFIX translations SOURCES App Schedule)
 
 qt_add_resources(resource_sources Support/px-scheduler.qrc "${CMAKE_CURRENT_BINARY_DIR}/Icons/icons.qrc"
-    "${CMAKE_CURRENT_BINARY_DIR}/translations.qrc")
+    "${px-scheduler_TRANSLATIONS_RESOURCE}")

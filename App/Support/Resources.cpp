@@ -10,7 +10,7 @@ static void InitializeResources()
 {
     Q_INIT_RESOURCE(px_scheduler);
     Q_INIT_RESOURCE(icons);
-    Q_INIT_RESOURCE(translations);
+    Q_INIT_RESOURCE(px_scheduler_translations);
 }
 
 namespace Zentor::Desktop {
