@@ -50,6 +50,10 @@ foreach(_theme light dark)
 endforeach()
 configure_file(Support/icons.qrc.in Icons/icons.qrc @ONLY)
 
+if(NOT SCHEDULER_BUILD_TRANSLATIONS)
+    message(FATAL_ERROR "px-scheduler needs the translations: with SCHEDULER_BUILD_TRANSLATIONS off, "
+        "SCHEDULER_BUILD_APP has to be off, too.")
+endif()
 zentor_add_translations(px-scheduler PREFIX translations SOURCES App Schedule)
 
 qt_add_resources(resource_sources Support/px-scheduler.qrc "${CMAKE_CURRENT_BINARY_DIR}/Icons/icons.qrc"
