@@ -12,6 +12,8 @@
 #include <QStyleFactory>
 #include <QWidget>
 
+#include "Application/PlainStyle.h"
+
 namespace Zentor::Desktop {
 namespace {
 
@@ -127,7 +129,8 @@ QString StyleSheetOf(Theme theme)
     ColorTable values = ColorsOf(theme);
     // Icons are painted in the colours of each theme, into a folder of its name.
     values.insert(QStringLiteral("theme"), ThemeName(theme));
-    return FillSheet(ReadResource(QStringLiteral(":/styles/px-scheduler.qss")), values).text;
+    return App::PlainStyleSheet()
+        + FillSheet(ReadResource(QStringLiteral(":/styles/px-scheduler.qss")), values).text;
 }
 
 QPalette PaletteOf(Theme theme)
