@@ -57,6 +57,10 @@ foreach(header IN LISTS host_headers)
         DESTINATION "${PXUISCHEDULER_INCLUDE_DIR}/ReferenceHost/${folder}" COMPONENT development)
 endforeach()
 
+get_property(library_translations GLOBAL PROPERTY ZENTOR_TRANSLATIONS)
+install(FILES ${library_translations}
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/PXUiSchedulerWidgets/translations" COMPONENT runtime)
+
 # For builds without CMake. The prefix is where the file lies, so that the tree can be moved.
 file(RELATIVE_PATH prefix_from_pkgconfig
     "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")

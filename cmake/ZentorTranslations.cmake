@@ -30,6 +30,8 @@ function(zentor_add_translations name)
         OUTPUT_VARIABLE sources)
     file(MAKE_DIRECTORY "${folder}")
     set_source_files_properties(${sources} PROPERTIES OUTPUT_LOCATION "${folder}")
+    # It adds to what the variable holds in any scope.
+    set(translations "")
     qt_add_translation(translations ${sources})
     foreach(translation IN LISTS translations)
         get_filename_component(file "${translation}" NAME)

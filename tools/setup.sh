@@ -36,6 +36,10 @@ packages_to_test=(
     pipewire pipewire-bin pipewire-pulse wireplumber pulseaudio-utils
     doxygen qtbase5-doc-dev)
 
+# To make Debian packages of it.
+packages_to_package=(
+    debhelper fakeroot doxygen qtbase5-doc-dev git lintian)
+
 missing_packages() {
     local package
     for package in "$@"; do
