@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QRegularExpressionValidator>
+#include <QStyle>
 
 #include "HostInterfaces.h"
 
@@ -146,7 +147,10 @@ AlertBox::AlertBox(Level /*level*/, const QString& title, const QString& text,
 
 QMessageBox::StandardButton AlertBox::Exec()
 {
-    return static_cast<QMessageBox::StandardButton>(exec());
+    // Nothing of the box is touched after this: it may have been deleted. The result is 0 then, as
+    // when it was rejected by no button.
+    const auto answer = static_cast<StandardButton>(exec());
+    return answer == NoButton ? Cancel : answer;
 }
 
 std::int64_t GetAvailableDiskSpace(const ioPath& /*path*/)
@@ -162,6 +166,9 @@ QValidator* GetFilenameValidator(QObject* parent)
 void ApplyWidgetStyle(QWidget* widget, const QString& style, const char* property)
 {
     widget->setProperty(property, style);
+    // A style sheet is not applied anew because of a property.
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
 }
 
 void bindWidgets(QWidget* /*label*/, QAbstractButton* /*button*/) { }
