@@ -55,8 +55,10 @@ Pipeline::~Pipeline()
 
 GstElement* Pipeline::Element(const char* name) const
 {
+    GstElement* element = gst_bin_get_by_name(GST_BIN(m_bin.get()), name);
     // The bin keeps a reference of its own.
-    return ElementHandle(gst_bin_get_by_name(GST_BIN(m_bin.get()), name)).get();
+    const ElementHandle released(element);
+    return element;
 }
 
 bool Pipeline::Play()
