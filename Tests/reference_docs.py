@@ -5,8 +5,8 @@
 """reference_docs.py DOXYGEN DOXYFILE OUTPUT HEADER...: proves that the reference documents are whole.
 
 Writes them into the folder OUTPUT, and fails when Doxygen warns, when a symbol of the headers that
-others can use has no description, when a header is missing, and when a link or a picture of a page
-leads nowhere.
+others can use has no description, when a header is missing, when a link or a picture of a page leads
+nowhere, and when the guide's tables of what a host provides are not the contract.
 """
 
 import os
@@ -17,6 +17,11 @@ import sys
 import urllib.parse
 import xml.etree.ElementTree as ElementTree
 
+ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+GUIDE = os.path.join(ROOT, "Docs", "IntegratorsGuide.md")
+# The headings above the tables of what a host defines and of what it hands over.
+CONTRACT_TABLES = ["### Functions that a host defines", "### Objects that a host hands over"]
+CONTRACT_HEADERS = {"HostData.h", "HostInterfaces.h"}
 KINDS = {"class", "struct", "union", "namespace", "file"}
 
 
@@ -75,6 +80,37 @@ def undocumented(folder, headers):
     return problems + ["not in the documents: " + header for header in missing], len(seen)
 
 
+def host_functions(folder):
+    """The names of the functions of the contract that have no definition in its headers: of a
+    constructor and a destructor, that of the class."""
+    for compound in compounds(folder):
+        if compound.get("kind") == "file":
+            continue
+        for member in compound.iter("memberdef"):
+            header = os.path.basename(member.find("location").get("file"))
+            is_defined = member.get("inline") == "yes" or re.search(
+                r"=\s*(default|delete)$", member.findtext("argsstring") or "")
+            if member.get("kind") == "function" and header in CONTRACT_HEADERS and not is_defined:
+                yield member.findtext("name").lstrip("~")
+
+
+def host_functions_in_guide():
+    with open(GUIDE, encoding="utf-8") as guide:
+        text = guide.read()
+    for heading in CONTRACT_TABLES:
+        table = text.split(f"\n{heading}\n")[1].split("\n#")[0]
+        for cell in re.findall(r"^\| (.*?) \|", table, re.MULTILINE):
+            for name in re.findall(r"`([^`]+)`", cell):
+                yield name.rstrip("()").split("::")[-1]
+
+
+def contract_problems(folder):
+    contract = set(host_functions(folder))
+    guide = set(host_functions_in_guide())
+    yield from ("not in the guide's tables: " + name for name in sorted(contract - guide))
+    yield from ("only in the guide's tables: " + name for name in sorted(guide - contract))
+
+
 def broken_links(folder):
     pages = {}
     for name in os.listdir(folder):
@@ -99,6 +135,7 @@ def main():
         shutil.rmtree(os.path.join(output, folder), ignore_errors=True)
     written = subprocess.run([doxygen, doxyfile], check=False)
     problems, count = undocumented(os.path.join(output, "xml"), headers)
+    problems += contract_problems(os.path.join(output, "xml"))
     problems += broken_links(os.path.join(output, "html"))
     print("\n".join(problems))
     print(f"{count} symbols, {len(problems)} problems")
