@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
 // SPDX-License-Identifier: MIT
 
+/// \file
+/// A style sheet for the panel, made from the palette.
 #pragma once
 
 #include <QString>
@@ -27,8 +29,9 @@ ZENTOR_HOST_API QString PlainStyleSheet();
 ZENTOR_HOST_API void ApplyPlainStyle(QApplication& application,
                                      const QString& ownSheet = QString());
 
-/// The same for \a widget and all that is in it, for applications that have a sheet of their own
-/// or another use for an object name of the panel. The panel is built inside \a widget afterwards.
+/// Does the same to \a widget and all that is in it, with \a ownSheet, for applications that have a
+/// sheet of their own or another use for an object name of the panel. The panel is built inside
+/// \a widget afterwards.
 ZENTOR_HOST_API void ApplyPlainStyle(QWidget& widget, const QString& ownSheet = QString());
 
 } // namespace Zentor::App

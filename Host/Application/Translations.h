@@ -1,6 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
 // SPDX-License-Identifier: MIT
 
+/// \file
+/// The texts of the library and of the reference host in the languages that these are translated
+/// into. English is one of them: some of its wordings are only in its translation.
+///
+/// Texts of Qt, as on the buttons of a message box, come with Qt ("qtbase").
 #pragma once
 
 #include <memory>
@@ -11,10 +16,6 @@
 
 #include "HostData.h"
 
-/// The texts of the library and of the reference host in the languages that these are translated
-/// into. English is one of them: some of its wordings are only in its translation.
-///
-/// Texts of Qt, as on the buttons of a message box, come with Qt ("qtbase").
 namespace Zentor::App {
 
 /// Codes of the languages, in alphabetical order, as QLocale names them: "de", "pt_BR", ...
