@@ -21,6 +21,8 @@ ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 GUIDE = os.path.join(ROOT, "Docs", "IntegratorsGuide.md")
 # The headings above the tables of what a host defines and of what it hands over.
 CONTRACT_TABLES = ["### Functions that a host defines", "### Objects that a host hands over"]
+# And the one that says what may be done inside of them: by function, or by class.
+PERMISSION_TABLE = "## What a host may do inside its functions"
 CONTRACT_HEADERS = {"HostData.h", "HostInterfaces.h"}
 KINDS = {"class", "struct", "union", "namespace", "file"}
 
@@ -81,34 +83,41 @@ def undocumented(folder, headers):
 
 
 def host_functions(folder):
-    """The names of the functions of the contract that have no definition in its headers: of a
-    constructor and a destructor, that of the class."""
+    """The functions of the contract that have no definition in its headers, with the names of their
+    class and of those derived from it. A constructor or a destructor has the name of its class."""
     for compound in compounds(folder):
         if compound.get("kind") == "file":
             continue
+        derived = [base.text for base in compound.iter("derivedcompoundref")]
+        classes = {name.split("::")[-1] for name in [name_of(compound), *derived]}
         for member in compound.iter("memberdef"):
             header = os.path.basename(member.find("location").get("file"))
             is_defined = member.get("inline") == "yes" or re.search(
                 r"=\s*(default|delete)$", member.findtext("argsstring") or "")
             if member.get("kind") == "function" and header in CONTRACT_HEADERS and not is_defined:
-                yield member.findtext("name").lstrip("~")
+                yield member.findtext("name").lstrip("~"), classes
 
 
-def host_functions_in_guide():
+def names_in_table(heading):
+    """The names in the first column of the table below a heading of the guide."""
     with open(GUIDE, encoding="utf-8") as guide:
-        text = guide.read()
-    for heading in CONTRACT_TABLES:
-        table = text.split(f"\n{heading}\n")[1].split("\n#")[0]
-        for cell in re.findall(r"^\| (.*?) \|", table, re.MULTILINE):
-            for name in re.findall(r"`([^`]+)`", cell):
-                yield name.rstrip("()").split("::")[-1]
+        table = guide.read().split(f"\n{heading}\n")[1].split("\n#")[0]
+    for cell in re.findall(r"^\| (.*?) \|", table, re.MULTILINE):
+        for name in re.findall(r"`([^`]+)`", cell):
+            yield name.rstrip("()").split("::")[-1]
+            yield from name.split("::")[:-1] if heading == PERMISSION_TABLE else []
 
 
 def contract_problems(folder):
-    contract = set(host_functions(folder))
-    guide = set(host_functions_in_guide())
+    functions = list(host_functions(folder))
+    contract = {name for name, classes in functions}
+    guide = {name for heading in CONTRACT_TABLES for name in names_in_table(heading)}
     yield from ("not in the guide's tables: " + name for name in sorted(contract - guide))
     yield from ("only in the guide's tables: " + name for name in sorted(guide - contract))
+    permissions = set(names_in_table(PERMISSION_TABLE))
+    for name, classes in functions:
+        if not permissions & {name, *classes}:
+            yield "not told what it may do: " + name
 
 
 def broken_links(folder):
