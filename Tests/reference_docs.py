@@ -6,7 +6,8 @@
 
 Writes them into the folder OUTPUT, and fails when Doxygen warns, when a symbol of the headers that
 others can use has no description, when a header is missing, when a link or a picture of a page leads
-nowhere, and when the guide's tables of what a host provides are not the contract.
+nowhere, when nothing links to Qt's documents though their names are known, when the guide's contents
+lack a section, and when its tables of what a host provides are not the contract.
 """
 
 import os
@@ -98,10 +99,22 @@ def host_functions(folder):
                 yield member.findtext("name").lstrip("~"), classes
 
 
+def guide_text():
+    with open(GUIDE, encoding="utf-8") as guide:
+        return guide.read()
+
+
+def unlisted_sections():
+    text = guide_text()
+    contents = text.split("\n## ")[0]
+    for title in re.findall(r"^## (.+)$", text, re.MULTILINE):
+        if f"[{title}](#" not in contents:
+            yield "not in the guide's contents: " + title
+
+
 def names_in_table(heading):
     """The names in the first column of the table below a heading of the guide."""
-    with open(GUIDE, encoding="utf-8") as guide:
-        table = guide.read().split(f"\n{heading}\n")[1].split("\n#")[0]
+    table = guide_text().split(f"\n{heading}\n")[1].split("\n#")[0]
     for cell in re.findall(r"^\| (.*?) \|", table, re.MULTILINE):
         for name in re.findall(r"`([^`]+)`", cell):
             yield name.rstrip("()").split("::")[-1]
@@ -138,12 +151,22 @@ def broken_links(folder):
                 yield f"{name}: no anchor {target}"
 
 
+def missing_qt_links(doxyfile, folder):
+    with open(doxyfile, encoding="utf-8") as settings:
+        known = re.search(r"^TAGFILES.*=(https://doc\.qt\.io/[^\"]+)", settings.read(), re.MULTILINE)
+    with open(os.path.join(folder, "classZentor_1_1ZFrame.html"), encoding="utf-8") as page:
+        if known and known.group(1) + "qframe.html" not in page.read():
+            yield "no link from ZFrame to QFrame"
+
+
 def main():
     doxygen, doxyfile, output, *headers = sys.argv[1:]
     for folder in ("html", "xml"):
         shutil.rmtree(os.path.join(output, folder), ignore_errors=True)
     written = subprocess.run([doxygen, doxyfile], check=False)
     problems, count = undocumented(os.path.join(output, "xml"), headers)
+    problems += missing_qt_links(doxyfile, os.path.join(output, "html"))
+    problems += unlisted_sections()
     problems += contract_problems(os.path.join(output, "xml"))
     problems += broken_links(os.path.join(output, "html"))
     print("\n".join(problems))
