@@ -1,14 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
 // SPDX-License-Identifier: MIT
 
-// The panel with the reference host: plans a task as the user does, and looks for it in the file.
-// The exit code tells whether it worked.
+// The panel with the reference host, in German: plans a task as the user does, and looks for it in
+// the file. The exit code tells whether it worked.
 #include <QApplication>
 #include <QPushButton>
 #include <QTemporaryDir>
 
 #include "Application/LookAndFeelManager.h"
 #include "Application/SettingsManager.h"
+#include "Application/Translations.h"
 #include "PXUserSettings/SettingsStore.h"
 #include "PXUserSettings/StoredSettings.h"
 #include "RecordSchedulerWidget.h"
@@ -16,6 +17,14 @@
 using namespace Zentor;
 
 namespace {
+
+/// Whether the texts came along, as a file inside the host's library.
+bool SpeaksGerman()
+{
+    return App::InstallTranslations(QLocale::German)
+        && QCoreApplication::translate("CreateRecordTaskWidget", "Back")
+        == QString::fromUtf8("Zurück");
+}
 
 /// What AUTOMOC has to find and no keyword of Qt's may stand in.
 class Watched final : public QObject {
@@ -60,8 +69,8 @@ int main(int argc, char** argv)
     int changes = 0;
     QObject::connect(store.get(), &PX::SettingsStore::Changed, &watched, [&] { ++changes; });
     QString error;
-    return store->Open(&error) && PlansATask(store) && store->Settings().schedule.size() == 1
-            && changes > 0
+    return SpeaksGerman() && store->Open(&error) && PlansATask(store)
+            && store->Settings().schedule.size() == 1 && changes > 0
         ? 0
         : 1;
 }
