@@ -150,8 +150,6 @@ private:
         if (std::exchange(m_isApplying, true)) {
             return;
         }
-        // Qt resolves the sheet's palette roles only for a sheet that is new to it.
-        m_setSheet(QString());
         m_setSheet(PlainStyleSheet() + m_ownSheet);
         m_isApplying = false;
     }
