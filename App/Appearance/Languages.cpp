@@ -6,10 +6,10 @@
 #include <algorithm>
 
 #include <QGuiApplication>
-#include <QLibraryInfo>
 #include <QTranslator>
 
 #include "Application/Translations.h"
+#include "QtNames.h"
 
 namespace Zentor::Desktop {
 namespace {
@@ -117,8 +117,7 @@ void Translations::Use(const QString& code)
     Remove();
     const QLocale locale = LocaleOf(code);
     QLocale::setDefault(locale);
-    Install(LoadFrom(QLibraryInfo::location(QLibraryInfo::TranslationsPath),
-                     QStringLiteral("qtbase"), locale));
+    Install(LoadFrom(QtTranslationsFolder(), QStringLiteral("qtbase"), locale));
     Install(App::LoadTranslations(locale));
     Install(LoadFrom(QStringLiteral(":/translations"), QStringLiteral("px-scheduler"), locale));
     if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr) {

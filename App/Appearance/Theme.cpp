@@ -106,18 +106,18 @@ FilledSheet FillSheet(const QString& sheetTemplate, const ColorTable& colors)
     QSet<QString> unknown;
     QSet<QString> used;
     FilledSheet sheet;
-    int copied = 0;
+    decltype(sheetTemplate.size()) copied = 0;
     auto matches = placeholder.globalMatch(sheetTemplate);
     while (matches.hasNext()) {
         const auto match = matches.next();
         const QString name = match.captured(1);
         const bool known = colors.contains(name);
         (known ? used : unknown).insert(name);
-        sheet.text += sheetTemplate.midRef(copied, match.capturedStart() - copied);
+        sheet.text += sheetTemplate.mid(copied, match.capturedStart() - copied);
         sheet.text += known ? colors.value(name) : match.captured();
         copied = match.capturedEnd();
     }
-    sheet.text += sheetTemplate.midRef(copied);
+    sheet.text += sheetTemplate.mid(copied);
     const auto names = colors.keys();
     sheet.unknownNames = Sorted(unknown);
     sheet.unusedNames = Sorted(QSet<QString>(names.begin(), names.end()) - used);

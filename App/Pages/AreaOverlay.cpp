@@ -13,6 +13,7 @@
 
 #include "AreaPicker.h"
 #include "Controls.h"
+#include "QtNames.h"
 #include "ScreenPixels.h"
 
 namespace Zentor::Desktop {
@@ -136,17 +137,23 @@ void AreaOverlay::PaintHelp(QPainter& painter) const
     PaintText(painter, text, atTop.intersects(AreaHere()) ? atBottom : atTop);
 }
 
+QPoint AreaOverlay::PixelUnder(const QMouseEvent& event) const
+{
+    const QPoint point = GlobalPosition(event);
+    return ToPixels(point, ScreenAt(point, m_screen));
+}
+
 void AreaOverlay::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
-        m_picker.BeginDrawing(ToPixels(event->globalPos(), ScreenAt(event->globalPos(), m_screen)));
+        m_picker.BeginDrawing(PixelUnder(*event));
     }
 }
 
 void AreaOverlay::mouseMoveEvent(QMouseEvent* event)
 {
     if (event->buttons().testFlag(Qt::LeftButton)) {
-        m_picker.DrawTo(ToPixels(event->globalPos(), ScreenAt(event->globalPos(), m_screen)));
+        m_picker.DrawTo(PixelUnder(*event));
     }
 }
 

@@ -40,6 +40,8 @@ protected:
 private:
     /// Of the area, in the coordinates of the overlay.
     QRect AreaHere() const;
+    /// Where the mouse is, in pixels of the screens.
+    QPoint PixelUnder(const QMouseEvent& event) const;
     QString Figures() const;
     void PaintText(QPainter& painter, const QString& text, QRect place) const;
     void PaintFigures(QPainter& painter) const;

@@ -9,6 +9,8 @@
 #include <QKeySequence>
 #include <QMessageBox>
 
+#include "QtNames.h"
+
 namespace Zentor::Desktop {
 namespace {
 
@@ -35,7 +37,7 @@ public:
     {
         const QKeySequence key = QKeySequence::mnemonic(button.text());
         if (!key.isEmpty()) {
-            m_taken += QChar(key[0] & ~int(Qt::ALT)).toUpper();
+            m_taken += QChar(FirstKey(key)).toUpper();
         }
     }
 

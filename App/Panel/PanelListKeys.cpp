@@ -185,11 +185,11 @@ bool PanelListKeys::MoveAmongRows(QObject* from, int key)
         return false;
     }
     const auto buttons = m_parts.DeleteButtons();
-    const int at = buttons.indexOf(qobject_cast<QToolButton*>(from));
+    const auto at = buttons.indexOf(qobject_cast<QToolButton*>(from));
     if (at < 0) {
         return false;
     }
-    const int next = at + (key == Qt::Key_Down ? 1 : -1);
+    const auto next = at + (key == Qt::Key_Down ? 1 : -1);
     if (next >= 0 && next < buttons.size()) {
         buttons.at(next)->setFocus(key == Qt::Key_Down ? Qt::TabFocusReason
                                                        : Qt::BacktabFocusReason);

@@ -29,6 +29,7 @@
 #include "Languages.h"
 #include "Log.h"
 #include "MainWindow.h"
+#include "QtNames.h"
 #include "RecordingControl.h"
 #include "RecordingSettings.h"
 #include "RecordingsList.h"
@@ -117,7 +118,7 @@ QString Open(PX::SettingsStore& store)
 void FollowSession(MainWindow& window)
 {
     // Qt's own way is to close the windows, which may ask.
-    QGuiApplication::setFallbackSessionManagementEnabled(false);
+    KeepWindowsInSession();
     QObject::connect(
         qGuiApp, &QGuiApplication::commitDataRequest, &window, [&] { window.SaveUnattended(); },
         Qt::DirectConnection);
@@ -294,8 +295,7 @@ int RunApplication(int argc, char** argv)
     if (IsForRunning(line.request)) {
         return PassOn(line, argc, argv);
     }
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    FollowScreenScale();
     const QVariantMap platformData = PlatformDataOfStart();
     const QApplication application(argc, argv);
     // So that the desktop finds name and icon of the window in the installed desktop entry.

@@ -45,7 +45,7 @@ QString RealPath(const QString& file)
 /// The value of \a line, when it has the form of an entry's line with \a key.
 QString ValueIn(const QString& line, const char* key)
 {
-    const int separator = line.indexOf(QLatin1Char('='));
+    const auto separator = line.indexOf(QLatin1Char('='));
     return separator >= 0 && line.left(separator).trimmed() == QLatin1String(key)
         ? line.mid(separator + 1).trimmed()
         : QString();

@@ -17,7 +17,7 @@ QString ThemeName(Theme theme)
 
 Theme ThemeFromName(const QString& name, Theme otherwise)
 {
-    const int index = ThemeNames().indexOf(name);
+    const auto index = ThemeNames().indexOf(name);
     return index < 0 ? otherwise : static_cast<Theme>(index);
 }
 

@@ -8,6 +8,8 @@
 #include <QMouseEvent>
 #include <QWidget>
 
+#include "QtNames.h"
+
 namespace Zentor::Desktop {
 namespace {
 
@@ -62,7 +64,7 @@ bool CountdownGuard::IsForButton(const QObject& watched, const QKeyEvent& event)
 bool CountdownGuard::IsForButton(const QMouseEvent& event) const
 {
     return event.button() == Qt::LeftButton
-        && QApplication::widgetAt(event.globalPos()) == m_nowButton;
+        && QApplication::widgetAt(GlobalPosition(event)) == m_nowButton;
 }
 
 bool CountdownGuard::Cancels(const QObject& watched, const QEvent& event) const

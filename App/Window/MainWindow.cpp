@@ -173,7 +173,7 @@ void MainWindow::Connect()
         m_readListProblems = ListProblems();
         ShowNotices();
     });
-    const auto* quit = new QShortcut(Qt::CTRL + Qt::Key_Q, this);
+    const auto* quit = new QShortcut(QKeySequence(QStringLiteral("Ctrl+Q")), this);
     connect(quit, &QShortcut::activated, this, &MainWindow::Quit);
 }
 
