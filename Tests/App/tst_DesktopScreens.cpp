@@ -33,7 +33,7 @@ void tst_DesktopScreens::knowsItsScreens()
     const QSize first = QGuiApplication::primaryScreen()->size();
     QVERIFY(screens.IsThere(0));
     QCOMPARE(screens.SizeOf(0), first);
-    const int count = QGuiApplication::screens().size();
+    const int count = int(QGuiApplication::screens().size());
     QVERIFY(!screens.IsThere(count));
     QVERIFY(screens.SizeOf(count).isEmpty());
 }
@@ -73,14 +73,14 @@ void tst_DesktopScreens::tellsOfScreensThatComeAndGo()
 {
     const DesktopScreens screens(OpenStoreIn(m_folder));
     const QSignalSpy changed(&screens, &DesktopScreens::Changed);
-    const int count = QGuiApplication::screens().size();
+    const int count = int(QGuiApplication::screens().size());
     auto* screen = new FakeScreen("second", {2000, 0, 640, 480});
     QWindowSystemInterface::handleScreenAdded(screen);
     QVERIFY(changed.count() > 0);
     QVERIFY(screens.IsThere(count));
     QCOMPARE(screens.SizeOf(count), QSize(640, 480));
 
-    const int before = changed.count();
+    const auto before = changed.count();
     screen->LeaveDesktop();
     QWindowSystemInterface::handleScreenRemoved(screen);
     QTRY_VERIFY_WITH_TIMEOUT(changed.count() > before, Patience);

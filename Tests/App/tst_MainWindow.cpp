@@ -21,6 +21,7 @@
 #include "MarkingTranslator.h"
 #include "PageRow.h"
 #include "PanelParts.h"
+#include "QtNames.h"
 #include "RecordingsList.h"
 #include "RecordSchedulerWidget.h"
 #include "Resources.h"
@@ -969,7 +970,7 @@ private Q_SLOTS:
                 new HeldClick(button);
             }
             Window().setFocus();
-            PressWithAlt(Window(), key[0] & ~int(Qt::ALT));
+            PressWithAlt(Window(), Desktop::FirstKey(key));
             QVERIFY2(field->hasFocus(), qPrintable(label->text()));
             ++reached;
         }

@@ -15,6 +15,7 @@
 #include "Boxes.h"
 #include "Languages.h"
 #include "PanelParts.h"
+#include "QtNames.h"
 #include "Resources.h"
 #include "Theme.h"
 #include "WidgetTest.h"
@@ -74,7 +75,7 @@ void AskAboutTask(const AppWindow& app)
 /// Presses a key with Alt, together with its text, for letters that Qt Test knows no key of.
 void PressWithAlt(const QMessageBox& box, const QKeySequence& mnemonic)
 {
-    const int letter = mnemonic[0] & ~int(Qt::ALT);
+    const int letter = Desktop::FirstKey(mnemonic);
     QTest::sendKeyEvent(QTest::Click, box.windowHandle(), Qt::Key(letter), QChar(letter),
                         Qt::AltModifier);
 }
@@ -113,7 +114,7 @@ void TryKeys(QMessageBox& box, QStringList& problems)
         }
         box.checkBox()->setChecked(false);
     }
-    const int cancel = buttons.indexOf(box.button(QMessageBox::Cancel));
+    const auto cancel = buttons.indexOf(box.button(QMessageBox::Cancel));
     PressWithAlt(box, keys.at(cancel));
     if (!QTest::qWaitFor([&] { return !box.isVisible(); })) {
         problems << buttons.at(cancel)->text();

@@ -56,7 +56,7 @@ QToolButton* DeleteButtonFor(const AppWindow& app, const QString& title)
 
 int RowCount(const AppWindow& app)
 {
-    return Desktop::PanelParts(*app.Find("recordSchedulerWidget")).DeleteButtons().size();
+    return int(Desktop::PanelParts(*app.Find("recordSchedulerWidget")).DeleteButtons().size());
 }
 
 /// Where on the screen the row of a task is.

@@ -151,7 +151,7 @@ bool tst_RecordingControl::HasOutcomes(const std::vector<Outcome>& outcomes) con
 
 int tst_RecordingControl::RowsInPanel() const
 {
-    return Window().findChildren<QAbstractButton*>(Desktop::PanelPart::RowDeleteButton).size();
+    return int(Window().findChildren<QAbstractButton*>(Desktop::PanelPart::RowDeleteButton).size());
 }
 
 void tst_RecordingControl::recordsFromTheWindow()

@@ -70,7 +70,7 @@ QStringList Marks(const QString& text)
 /// How often \a text names a key to reach it by: "&a", but not "&&".
 int Mnemonics(QString text)
 {
-    return text.remove(QStringLiteral("&&")).count(QLatin1Char('&'));
+    return int(text.remove(QStringLiteral("&&")).count(QLatin1Char('&')));
 }
 
 /// Whether the library shows \a entry beside a field. It knows of no keys; they come with the
@@ -130,7 +130,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, code);
         for (const Translation& entry : ReadAll(code)) {
-            const int mark = entry.translation.indexOf(QLatin1Char('&'));
+            const auto mark = entry.translation.indexOf(QLatin1Char('&'));
             const QString letters = entry.translation.mid(qMax(0, mark - 1), 4);
             const auto joined = std::count_if(letters.begin(), letters.end(), [](QChar letter) {
                 return letter.joiningType() > QChar::Joining_None;
