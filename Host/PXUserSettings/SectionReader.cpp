@@ -8,6 +8,14 @@
 #include <QVariant>
 
 namespace Zentor::PX {
+namespace {
+
+QString NameOf(const SectionReader& section, const QString& key)
+{
+    return section.Name().isEmpty() ? key : section.Name() + QLatin1Char('.') + key;
+}
+
+} // namespace
 
 std::optional<bool> ToBool(const QJsonValue& value)
 {
@@ -51,7 +59,7 @@ SectionReader::SectionReader(const QJsonObject& fields, const QString& name, QSt
 }
 
 SectionReader::SectionReader(const SectionReader& parent, const QString& key)
-    : SectionReader(parent.m_fields.value(key).toObject(), parent.NameOf(key), parent.m_problems)
+    : SectionReader(parent.m_fields.value(key).toObject(), NameOf(parent, key), parent.m_problems)
 {
     const QJsonValue section = parent.m_fields.value(key);
     if (!section.isUndefined() && !section.isObject()) {
@@ -61,12 +69,6 @@ SectionReader::SectionReader(const SectionReader& parent, const QString& key)
 
 void SectionReader::AddProblem(const QString& key, const char* problem) const
 {
-    m_problems << NameOf(key) + QLatin1String(": ") + QLatin1String(problem);
+    m_problems << NameOf(*this, key) + QLatin1String(": ") + QLatin1String(problem);
 }
-
-QString SectionReader::NameOf(const QString& key) const
-{
-    return m_name.isEmpty() ? key : m_name + QLatin1Char('.') + key;
-}
-
 } // namespace Zentor::PX

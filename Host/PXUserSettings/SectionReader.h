@@ -83,8 +83,6 @@ public:
     void AddProblem(const QString& key, const char* problem) const;
 
 private:
-    QString NameOf(const QString& key) const;
-
     QJsonObject m_fields;
     QString m_name;
     QStringList& m_problems;

@@ -28,25 +28,15 @@
 /// Other parts of the program may keep a section of their own there (SettingsSection).
 #pragma once
 
-#include <functional>
 #include <vector>
 
 #include <QJsonObject>
 #include <QStringList>
 
-#include "SectionReader.h"
+#include "SettingsSection.h"
 #include "UserSettings.h"
 
 namespace Zentor::PX {
-
-/// A section of the file that another part of the program keeps for itself.
-struct SettingsSection {
-    /// Its key in the file, which no other section has.
-    QString name;
-    /// Returns what UserSettings::sections is to hold of what was \a found in the file: every field
-    /// that is known, with its default where it is missing or cannot be used.
-    std::function<QJsonObject(const SectionReader& found)> read;
-};
 
 /// What was found in a settings file.
 struct SettingsDocument {

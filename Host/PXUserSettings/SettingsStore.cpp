@@ -9,11 +9,15 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <QLockFile>
+#include <QTimer>
 
 #include <glog/logging.h>
 
 #include "../CoreInt/MakePrivateFolder.h"
 #include "../CoreInt/Printable.h"
+#include "PrivateFile.h"
+#include "SettingsFormat.h"
 
 namespace Zentor::PX {
 namespace {
@@ -55,14 +59,50 @@ std::string Summary(const QStringList& problems)
 
 } // namespace
 
+struct Q_DECL_HIDDEN SettingsStore::Private {
+    Private(SettingsStore* owner, const QString& path)
+        : store(owner)
+        , filePath(path)
+    {
+    }
+
+    QString Lock();
+    bool TryLock();
+    QString Load();
+    QString KeepDamaged(const SettingsDocument& document);
+    QString KeepChanged();
+    QString Write(const QByteArray& content);
+
+    SettingsStore* const store;
+    const QString filePath;
+    /// Where it leads.
+    QString realPath;
+    std::unique_ptr<QLockFile> lock;
+    std::vector<SettingsSection> sections;
+    UserSettings settings;
+    /// The file as it was read or written last.
+    Util::FileVersion known;
+    /// What the file holds beside the settings that are known.
+    QJsonObject fields;
+    /// Fires in the next pass of the event loop after a change.
+    QTimer saveTimer;
+    /// Fires some time after a failure.
+    QTimer retryTimer;
+    bool isOpen = false;
+    bool isDirty = false;
+    /// Why saving failed last; empty after a success.
+    QString saveFailure;
+    std::vector<SettingsNotice> notices;
+};
+
 SettingsStore::SettingsStore(const QString& filePath, QObject* parent)
     : QObject(parent)
-    , m_filePath(QFileInfo(filePath).absoluteFilePath())
+    , d(std::make_unique<Private>(this, QFileInfo(filePath).absoluteFilePath()))
 {
-    m_saveTimer.setSingleShot(true);
-    m_retryTimer.setSingleShot(true);
-    connect(&m_saveTimer, &QTimer::timeout, this, &SettingsStore::Flush);
-    connect(&m_retryTimer, &QTimer::timeout, this, &SettingsStore::Flush);
+    d->saveTimer.setSingleShot(true);
+    d->retryTimer.setSingleShot(true);
+    connect(&d->saveTimer, &QTimer::timeout, this, &SettingsStore::Flush);
+    connect(&d->retryTimer, &QTimer::timeout, this, &SettingsStore::Flush);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &SettingsStore::Flush);
 }
 
@@ -73,50 +113,50 @@ SettingsStore::~SettingsStore()
 
 void SettingsStore::AddSection(const SettingsSection& section)
 {
-    m_sections.push_back(section);
-    m_settings = DefaultSettings(m_sections);
+    d->sections.push_back(section);
+    d->settings = DefaultSettings(d->sections);
 }
 
 bool SettingsStore::Open(QString* error)
 {
-    QString reason = Lock();
+    QString reason = d->Lock();
     if (reason.isEmpty()) {
-        reason = Load();
+        reason = d->Load();
     }
-    m_isOpen = reason.isEmpty();
-    if (m_isOpen && m_lock->isLocked()) {
-        Util::RemoveUnfinishedFiles(m_realPath);
+    d->isOpen = reason.isEmpty();
+    if (d->isOpen && d->lock->isLocked()) {
+        Util::RemoveUnfinishedFiles(d->realPath);
     }
-    if (!m_isOpen) {
-        m_lock.reset();
+    if (!d->isOpen) {
+        d->lock.reset();
         *error = reason;
     }
-    return m_isOpen;
+    return d->isOpen;
 }
 
 /// Takes the file for this store. Returns the reason of a failure, or nothing.
-QString SettingsStore::Lock()
+QString SettingsStore::Private::Lock()
 {
-    m_realPath = Util::RealPath(m_filePath);
-    m_lock = std::make_unique<QLockFile>(m_realPath + LockSuffix);
-    const QFileInfo file(m_realPath);
-    if (QFileInfo(m_filePath).fileName().isEmpty() || (file.exists() && !file.isFile())) {
+    realPath = Util::RealPath(filePath);
+    lock = std::make_unique<QLockFile>(realPath + LockSuffix);
+    const QFileInfo file(realPath);
+    if (QFileInfo(filePath).fileName().isEmpty() || (file.exists() && !file.isFile())) {
         return Text(QT_TRANSLATE_NOOP("SettingsStore", "The settings file %1 is not a file."),
-                    m_filePath);
+                    filePath);
     }
     if (!Util::MakePrivateFolder(file.path())) {
         return Text(QT_TRANSLATE_NOOP("SettingsStore",
                                       "The settings file %1 cannot be created: its folder is "
                                       "missing and cannot be created either."),
-                    m_filePath);
+                    filePath);
     }
     if (TryLock()) {
         return {};
     }
-    if (m_lock->error() == QLockFile::LockFailedError) {
+    if (lock->error() == QLockFile::LockFailedError) {
         return Text(QT_TRANSLATE_NOOP("SettingsStore",
                                       "The settings file %1 is in use by another process."),
-                    m_filePath);
+                    filePath);
     }
     if (file.exists()) {
         // In a folder that cannot be written to the file can be read still, and nobody else can
@@ -126,148 +166,163 @@ QString SettingsStore::Lock()
     return Text(QT_TRANSLATE_NOOP("SettingsStore",
                                   "The settings file %1 cannot be created: its folder cannot be "
                                   "written to."),
-                m_filePath);
+                filePath);
 }
 
-bool SettingsStore::TryLock()
+bool SettingsStore::Private::TryLock()
 {
-    const bool isLocked = m_lock->tryLock(0);
+    const bool isLocked = lock->tryLock(0);
     if (isLocked) {
-        QFile::setPermissions(m_realPath + LockSuffix, QFile::ReadOwner | QFile::WriteOwner);
+        QFile::setPermissions(realPath + LockSuffix, QFile::ReadOwner | QFile::WriteOwner);
     }
     return isLocked;
 }
 
 /// Reads the file. Returns the reason of a failure, or nothing.
-QString SettingsStore::Load()
+QString SettingsStore::Private::Load()
 {
-    QString failure = Util::ReadFile(m_realPath, m_known);
+    QString failure = Util::ReadFile(realPath, known);
     if (!failure.isEmpty()) {
         return Text(QT_TRANSLATE_NOOP("SettingsStore", "The settings file %1 cannot be read: %2"),
-                    m_filePath, failure);
+                    filePath, failure);
     }
-    if (!m_known.exists) {
+    if (!known.exists) {
         return {};
     }
-    const SettingsDocument document = ParseSettings(m_known.content, m_sections);
+    const SettingsDocument document = ParseSettings(known.content, sections);
     if (!document.problems.isEmpty()) {
         failure = KeepDamaged(document);
         if (!failure.isEmpty()) {
             return failure;
         }
-        m_isDirty = true;
-        m_saveTimer.start();
+        isDirty = true;
+        saveTimer.start();
     }
-    m_settings = document.settings;
-    m_fields = document.fields;
+    settings = document.settings;
+    fields = document.fields;
     return {};
 }
 
 /// Writes what was found in a damaged file beside it. Returns the reason of a failure, or nothing.
-QString SettingsStore::KeepDamaged(const SettingsDocument& document)
+QString SettingsStore::Private::KeepDamaged(const SettingsDocument& document)
 {
-    const QString keptPath = Util::FreePath(m_realPath, QStringLiteral(".damaged-"));
-    const QString failure = Util::KeepFile(keptPath, m_known);
+    const QString keptPath = Util::FreePath(realPath, QStringLiteral(".damaged-"));
+    const QString failure = Util::KeepFile(keptPath, known);
     if (!failure.isEmpty()) {
         return Text(
             QT_TRANSLATE_NOOP("SettingsStore",
                               "The settings file %1 is damaged, and it cannot be kept under "
                               "another name: %2"),
-            m_filePath, failure);
+            filePath, failure);
     }
-    LOG(WARNING) << "Zentor::PX::SettingsStore::Open: damaged=" << Util::Printable(m_filePath)
+    LOG(WARNING) << "Zentor::PX::SettingsStore::Open: damaged=" << Util::Printable(filePath)
                  << "; kept=" << Util::Printable(keptPath)
                  << "; problems=" << Summary(document.problems);
-    m_notices.push_back({document.isUnderstood ? SettingsNotice::Cause::PartlyUnusable
-                                               : SettingsNotice::Cause::NotUnderstood,
-                         keptPath, document.droppedTasks});
+    notices.push_back({document.isUnderstood ? SettingsNotice::Cause::PartlyUnusable
+                                             : SettingsNotice::Cause::NotUnderstood,
+                       keptPath, document.droppedTasks});
     return {};
 }
 
 /// Writes what another program has made of the file beside it. Returns the reason of a failure, or
 /// nothing.
-QString SettingsStore::KeepChanged()
+QString SettingsStore::Private::KeepChanged()
 {
-    if (Util::IsUntouched(m_realPath, m_known)) {
+    if (Util::IsUntouched(realPath, known)) {
         return {};
     }
     Util::FileVersion found;
-    QString failure = Util::ReadFile(m_realPath, found);
-    const bool isChanged = found.exists && (!m_known.exists || found.content != m_known.content);
+    QString failure = Util::ReadFile(realPath, found);
+    const bool isChanged = found.exists && (!known.exists || found.content != known.content);
     if (!failure.isEmpty() || !isChanged) {
         return failure;
     }
-    const QString keptPath = Util::FreePath(m_realPath, QStringLiteral(".changed-"));
+    const QString keptPath = Util::FreePath(realPath, QStringLiteral(".changed-"));
     failure = Util::KeepFile(keptPath, found);
     if (failure.isEmpty()) {
         // Once is enough, also when saving fails now.
-        m_known = found;
-        LOG(WARNING) << "Zentor::PX::SettingsStore::Flush: changed=" << Util::Printable(m_filePath)
+        known = found;
+        LOG(WARNING) << "Zentor::PX::SettingsStore::Flush: changed=" << Util::Printable(filePath)
                      << "; kept=" << Util::Printable(keptPath);
-        m_notices.push_back({SettingsNotice::Cause::ChangedOutside, keptPath});
-        Q_EMIT NoticeAdded();
+        notices.push_back({SettingsNotice::Cause::ChangedOutside, keptPath});
+        Q_EMIT store->NoticeAdded();
     }
     return failure;
 }
 
+const QString& SettingsStore::FilePath() const
+{
+    return d->filePath;
+}
+
+const UserSettings& SettingsStore::Settings() const
+{
+    return d->settings;
+}
+
+const std::vector<SettingsNotice>& SettingsStore::Notices() const
+{
+    return d->notices;
+}
+
 void SettingsStore::Change(const std::function<void(UserSettings&)>& change)
 {
-    change(m_settings);
-    m_isDirty = true;
-    m_saveTimer.start();
+    change(d->settings);
+    d->isDirty = true;
+    d->saveTimer.start();
     Q_EMIT Changed();
 }
 
 QString SettingsStore::SaveProblem() const
 {
-    return m_failure.isEmpty()
+    return d->saveFailure.isEmpty()
         ? QString()
         : Text(QT_TRANSLATE_NOOP("SettingsStore", "%2: your changes are not saved in %1"),
-               m_filePath, m_failure);
+               d->filePath, d->saveFailure);
 }
 
 bool SettingsStore::Flush()
 {
-    if (!m_isOpen || !m_isDirty) {
-        return !m_isDirty;
+    if (!d->isOpen || !d->isDirty) {
+        return !d->isDirty;
     }
-    m_saveTimer.stop();
-    m_retryTimer.stop();
-    const QJsonObject fields = FieldsOf(m_settings, m_fields);
+    d->saveTimer.stop();
+    d->retryTimer.stop();
+    const QJsonObject fields = FieldsOf(d->settings, d->fields);
     const QByteArray content = QJsonDocument(fields).toJson();
     // After a failure nobody knows how much of it has reached the disk.
-    if (m_failure.isEmpty() && m_known.exists && content == m_known.content
-        && Util::IsUntouched(m_realPath, m_known)) {
-        m_isDirty = false;
+    if (d->saveFailure.isEmpty() && d->known.exists && content == d->known.content
+        && Util::IsUntouched(d->realPath, d->known)) {
+        d->isDirty = false;
         return true;
     }
-    const QString failure = Write(content);
+    const QString failure = d->Write(content);
     if (failure.isEmpty()) {
         // A task that is gone takes its unknown fields along.
-        m_fields = fields;
-        m_isDirty = false;
-        m_failure.clear();
+        d->fields = fields;
+        d->isDirty = false;
+        d->saveFailure.clear();
         Q_EMIT Saved();
         return true;
     }
-    m_retryTimer.start(RetryInterval);
-    if (failure != m_failure) {
-        m_failure = failure;
+    d->retryTimer.start(RetryInterval);
+    if (failure != d->saveFailure) {
+        d->saveFailure = failure;
         LOG(ERROR) << "Zentor::PX::SettingsStore::Flush: error=" << Util::Printable(failure)
-                   << "; file=" << Util::Printable(m_filePath);
+                   << "; file=" << Util::Printable(d->filePath);
         Q_EMIT SaveFailed(SaveProblem());
     }
     return false;
 }
 
 /// Replaces the file by \a content. Returns the reason of a failure, or nothing.
-QString SettingsStore::Write(const QByteArray& content)
+QString SettingsStore::Private::Write(const QByteArray& content)
 {
-    if (!m_lock->isLocked() && !TryLock()) {
-        return LockProblem(m_lock->error());
+    if (!lock->isLocked() && !TryLock()) {
+        return LockProblem(lock->error());
     }
     const QString failure = KeepChanged();
-    return failure.isEmpty() ? Util::ReplaceFile(m_realPath, content, m_known) : failure;
+    return failure.isEmpty() ? Util::ReplaceFile(realPath, content, known) : failure;
 }
 
 } // namespace Zentor::PX

@@ -9,14 +9,11 @@
 #include <memory>
 #include <vector>
 
-#include <QJsonObject>
-#include <QLockFile>
 #include <QObject>
-#include <QTimer>
+#include <QString>
 
-#include "PrivateFile.h"
-#include "SettingsFormat.h"
 #include "SettingsNotice.h"
+#include "SettingsSection.h"
 #include "UserSettings.h"
 
 namespace Zentor::PX {
@@ -75,11 +72,11 @@ public:
     bool Open(QString* error);
 
     /// The file as it was named, also where that is a link.
-    const QString& FilePath() const { return m_filePath; }
+    const QString& FilePath() const;
 
     /// The settings as they are now, whether or not they have been saved. The reference is valid as
     /// long as the store, and shows later changes.
-    const UserSettings& Settings() const { return m_settings; }
+    const UserSettings& Settings() const;
 
     /// Alters the settings by \a change, which is called at once and must not call Change() itself,
     /// sends Changed(), and saves them in the next pass of the event loop.
@@ -91,7 +88,7 @@ public:
 
     /// What the user should be told of, oldest first: what Open() could not use, and what another
     /// program did to the file since.
-    const std::vector<SettingsNotice>& Notices() const { return m_notices; }
+    const std::vector<SettingsNotice>& Notices() const;
 
     /// Saves now what has not been saved yet. Returns whether everything is saved; otherwise
     /// SaveProblem() says why not, and it is tried again by itself.
@@ -109,32 +106,8 @@ Q_SIGNALS:
     void NoticeAdded();
 
 private:
-    QString Lock();
-    bool TryLock();
-    QString Load();
-    QString KeepDamaged(const SettingsDocument& document);
-    QString KeepChanged();
-    QString Write(const QByteArray& content);
-
-    const QString m_filePath;
-    /// Where it leads.
-    QString m_realPath;
-    std::unique_ptr<QLockFile> m_lock;
-    std::vector<SettingsSection> m_sections;
-    UserSettings m_settings;
-    /// The file as it was read or written last.
-    Util::FileVersion m_known;
-    /// What the file holds beside the settings that are known.
-    QJsonObject m_fields;
-    /// Fires in the next pass of the event loop after a change.
-    QTimer m_saveTimer;
-    /// Fires some time after a failure.
-    QTimer m_retryTimer;
-    bool m_isOpen = false;
-    bool m_isDirty = false;
-    /// Why saving failed last; empty after a success.
-    QString m_failure;
-    std::vector<SettingsNotice> m_notices;
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace Zentor::PX
