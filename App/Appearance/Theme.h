@@ -40,8 +40,8 @@ ColorTable ColorsOf(Theme theme);
 /// \a colors stays as it is and is reported.
 FilledSheet FillSheet(const QString& sheetTemplate, const ColorTable& colors);
 
-/// The application's style sheet: the reference host's plain one, and after it the application's own
-/// in the colours of \a theme.
+/// The application's style sheet: the reference host's plain one, and after it the application's
+/// own in the colours of \a theme.
 QString StyleSheetOf(Theme theme);
 
 /// The palette in the colours of \a theme, for what the style sheet does not reach.

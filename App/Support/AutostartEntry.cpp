@@ -13,6 +13,7 @@
 #include "DefaultSettingsFile.h"
 #include "DesktopEntryName.h"
 #include "PXUserSettings/PrivateFile.h"
+#include "PXUserSettings/SettingsFormat.h"
 
 namespace Zentor::Desktop {
 namespace {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "DefaultSettingsFile.h"
+#include "PXUserSettings/SettingsFormat.h"
 
 #include <QDir>
 #include <QStandardPaths>
