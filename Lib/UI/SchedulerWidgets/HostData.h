@@ -164,10 +164,10 @@ enum PowerAction : std::int32_t {
 /// One scheduled recording.
 struct RecordTime {
     /// Name of the task, without white space at its ends; unique within a schedule. From the task
-    /// form: 1 to 100 characters that the host's GetFilenameValidator() accepts.
+    /// form: 1 to 100 characters that the host's GetFilenameValidator() does not refuse.
     QString title;
-    /// When the recording starts, in whole seconds. From the task form: not before the moment at
-    /// which it was entered, nor beyond 2106-02-07 06:28:15 UTC, where 32 bits end.
+    /// When the recording starts, in whole seconds. From the task form: now at the earliest, give
+    /// or take a second, and 2106-02-07 06:28:15 UTC, where 32 bits end, at the latest.
     Time::IClock::time_point start;
     /// How long it records. From the task form: at least ShortestCaptureDuration and below
     /// CaptureDurationLimit, in whole seconds.
