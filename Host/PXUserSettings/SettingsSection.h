@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
 // SPDX-License-Identifier: MIT
 
+/// \file
+/// Sections of the settings file that other parts of a program keep.
 #pragma once
 
 #include <functional>
