@@ -88,6 +88,14 @@ def check_headers(prefix):
         raise Failure("installed headers:\n" + "\n".join(sorted(found)))
 
 
+def check_translations(prefix):
+    """Each language is there for hosts that load the texts from files."""
+    languages = {name[:-3] for name in os.listdir(os.path.join(SOURCE, "Host", "Translations"))}
+    found = os.listdir(os.path.join(prefix, "share", "PXUiSchedulerWidgets", "translations"))
+    if {name[:-3] for name in found} != languages or not all(name.endswith(".qm") for name in found):
+        raise Failure("installed translations: " + " ".join(sorted(found)))
+
+
 def check_components(folder):
     """Each file belongs to one part, and together they are all."""
     parts = {}
@@ -111,6 +119,7 @@ def rows(everything, work):
     def install():
         run("cmake", "--install", BUILD, "--prefix", installed)
         check_headers(installed)
+        check_translations(installed)
 
     yield "install", install
     yield "parts", lambda: check_components(os.path.join(work, "parts"))

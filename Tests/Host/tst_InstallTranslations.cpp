@@ -134,6 +134,24 @@ private Q_SLOTS:
         QVERIFY(InstalledTranslators().empty());
     }
 
+    /// What hosts do that are not this one.
+    void loadsFromFiles_data() { speaksEveryLanguage_data(); }
+
+    void loadsFromFiles()
+    {
+        QFETCH(const QString, code);
+        QTranslator translator;
+        QVERIFY(
+            translator.load(QLocale(code), "PXUiSchedulerWidgets", "_", PX_COMPILED_TRANSLATIONS));
+        QCOMPARE(translator.language(), code);
+        const auto fromResource = App::LoadTranslations(QLocale(code));
+        const auto back = [](const QTranslator& from) {
+            return from.translate("CreateRecordTaskWidget", "Back");
+        };
+        QVERIFY(!back(translator).isEmpty());
+        QCOMPARE(back(translator), back(*fromResource));
+    }
+
     void takesTheDefaultLocale()
     {
         QLocale::setDefault(QLocale(QLocale::Polish));
