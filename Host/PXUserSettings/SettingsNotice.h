@@ -13,7 +13,7 @@ namespace Zentor::PX {
 
 /// Something in the settings file that the program could not use, or that was not its own, and that
 /// it has kept in another file: what the user should be told, once.
-struct ZENTOR_HOST_API SettingsNotice {
+struct SettingsNotice {
     /// What has happened to the file.
     enum class Cause {
         /// The file could not be understood: the settings are the defaults.
@@ -34,7 +34,7 @@ struct ZENTOR_HOST_API SettingsNotice {
 
     /// The notice as plain text, a few sentences in the language in use. It names the file.
     /// Ask anew after a change of language.
-    QString Text() const;
+    ZENTOR_HOST_API QString Text() const;
 };
 
 } // namespace Zentor::PX
