@@ -14,6 +14,7 @@
 #include "MarkingTranslator.h"
 #include "Palettes.h"
 #include "Panel.h"
+#include "PanelPlaces.h"
 #include "WidgetTest.h"
 
 namespace Zentor::Tests {
@@ -21,7 +22,6 @@ namespace {
 
 constexpr double TextContrast = 4.5;
 constexpr double ShapeContrast = 3.0;
-const char* const Columns[] = {"title", "date", "time", "duration"};
 
 QStringList Titles(int count)
 {
@@ -45,11 +45,6 @@ std::unique_ptr<Panel> ShowPanel(int taskCount)
     return panel;
 }
 
-QRect OnScreen(const QWidget& widget)
-{
-    return QRect(widget.mapToGlobal(QPoint()), widget.size());
-}
-
 QWidget* Row(const Panel& panel, int index)
 {
     return panel.widget->findChildren<QWidget*>(Desktop::PanelPart::Row).at(index);
@@ -60,49 +55,9 @@ QToolButton* DeleteButton(const Panel& panel)
     return Row(panel, 0)->findChild<QToolButton*>();
 }
 
-QLabel* Header(const Panel& panel, const QString& column)
-{
-    const QString name = column.at(0).toUpper() + column.mid(1);
-    return panel.Find<QLabel>(QStringLiteral("header%1Label").arg(name));
-}
-
-/// Whether \a label shows all of its text.
-bool HasRoom(const QLabel& label)
-{
-    return label.fontMetrics().horizontalAdvance(label.text()) <= label.contentsRect().width()
-        && label.fontMetrics().height() <= label.contentsRect().height();
-}
-
-/// Which of \a panel 's cells and headers do not lie below each other or do not show their text.
-QStringList MisplacedCells(const Panel& panel)
-{
-    QStringList misplaced;
-    const auto rows = panel.widget->findChildren<QWidget*>(Desktop::PanelPart::Row);
-    for (const char* column : Columns) {
-        const auto* header = Header(panel, column);
-        if (!HasRoom(*header)) {
-            misplaced << header->objectName();
-        }
-        for (const QWidget* row : rows) {
-            const auto* cell = row->findChild<QLabel*>(QString(column) + "Label");
-            const QRect place = OnScreen(*cell);
-            if (place.left() != OnScreen(*header).left()
-                || place.right() != OnScreen(*header).right() || !HasRoom(*cell)) {
-                misplaced << cell->objectName() + ' ' + cell->text();
-            }
-        }
-    }
-    return misplaced;
-}
-
 QScrollArea* List(const Panel& panel)
 {
     return panel.Find<QScrollArea>(Desktop::PanelPart::List);
-}
-
-bool IsInside(const QWidget& inner, const QWidget& outer)
-{
-    return OnScreen(outer).contains(OnScreen(inner));
 }
 
 /// What changes with the palette, as pictures: the list with its header, and a field with an error.
@@ -110,7 +65,7 @@ QList<QImage> Pictures(const Panel& panel)
 {
     Util::ApplyWidgetStyle(panel.Name(), QStringLiteral("Invalid"), "SubStyle");
     QCoreApplication::sendPostedEvents();
-    return {panel.window->grab().toImage(), Header(panel, "title")->grab().toImage(),
+    return {panel.window->grab().toImage(), ColumnHeader(*panel.widget, "title")->grab().toImage(),
             Row(panel, 0)->grab().toImage(), DeleteButton(panel)->grab().toImage(),
             panel.Name()->grab().toImage()};
 }
@@ -186,7 +141,7 @@ private Q_SLOTS:
         QApplication::setLayoutDirection(direction);
 
         const auto panel = ShowPanel(8);
-        QCOMPARE(MisplacedCells(*panel), QStringList());
+        QCOMPARE(MisplacedCells(*panel->widget), QStringList());
         const auto* list = List(*panel);
         for (int i = 0; i < 5; ++i) {
             QVERIFY(IsInside(*Row(*panel, i), *list->viewport()));
@@ -224,8 +179,8 @@ private Q_SLOTS:
         LanguageSwitch language;
         language.Toggle();
         QCoreApplication::sendPostedEvents();
-        QCOMPARE(Header(*panel, "duration")->text(), QStringLiteral("~Duration"));
-        QCOMPARE(MisplacedCells(*ShowPanel(2)), QStringList());
+        QCOMPARE(ColumnHeader(*panel->widget, "duration")->text(), QStringLiteral("~Duration"));
+        QCOMPARE(MisplacedCells(*ShowPanel(2)->widget), QStringList());
     }
 
     void keepsCaptionsBesideTheirButtons()
@@ -264,8 +219,9 @@ private Q_SLOTS:
         const auto text = [](const QWidget* widget) {
             return widget->palette().color(widget->foregroundRole());
         };
-        QVERIFY(Contrast(text(Header(*panel, "date")), palette.color(QPalette::Window))
-                >= TextContrast);
+        QVERIFY(
+            Contrast(text(ColumnHeader(*panel->widget, "date")), palette.color(QPalette::Window))
+            >= TextContrast);
         QVERIFY(Contrast(text(DeleteButton(*panel)), base) >= TextContrast);
 
         Util::ApplyWidgetStyle(panel->Name(), QStringLiteral("Invalid"), "SubStyle");
@@ -335,7 +291,7 @@ private Q_SLOTS:
         const auto panel = ShowPanel(1);
         panel->widget->setEnabled(false);
         const QColor disabled = m_palette.color(QPalette::Disabled, QPalette::Text);
-        const QWidgetList widgets{Header(*panel, "time"),
+        const QWidgetList widgets{ColumnHeader(*panel->widget, "time"),
                                   Row(*panel, 0)->findChild<QLabel*>(Desktop::PanelPart::RowTitle),
                                   DeleteButton(*panel)};
         for (const QWidget* widget : widgets) {
