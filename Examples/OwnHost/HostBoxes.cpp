@@ -124,13 +124,13 @@ QMessageBox::StandardButton ConfirmationAlertBox::Exec()
     const auto settingsManager = m_settingsManager;
     const QString confirmationId = m_confirmationId;
     const StandardButton accepting = AcceptingButton(*this);
-    if (!confirmationId.isEmpty() && settingsManager->IsConfirmed(confirmationId)) {
+    const bool canRemember = !confirmationId.isEmpty() && accepting != NoButton;
+    if (canRemember && settingsManager->IsConfirmed(confirmationId)) {
         return accepting;
     }
     const QPointer<QCheckBox> remember(checkBox());
     const StandardButton answer = AlertBox::Exec();
-    if (!confirmationId.isEmpty() && answer == accepting && !remember.isNull()
-        && remember->isChecked()) {
+    if (canRemember && answer == accepting && !remember.isNull() && remember->isChecked()) {
         settingsManager->SetConfirmed(confirmationId, true);
     }
     return answer;

@@ -3,10 +3,34 @@
 
 // What HostData.h declares: path, clock and schedule. No widgets here.
 #include <algorithm>
+#include <tuple>
 
 #include "HostInterfaces.h"
 
 namespace Zentor {
+namespace {
+
+/// Whether \a early, which does not start after \a late, reaches into it. Spans are half-open: a
+/// task may start the moment another ends.
+bool ReachesInto(const PX::RecordTime& early, const PX::RecordTime& late)
+{
+    if (early.start == late.start) {
+        return early.duration.count() > 0 && late.duration.count() > 0;
+    }
+    // Unsigned: a stored schedule may hold any two moments, whose distance must not overflow.
+    const auto distance = static_cast<std::uint64_t>(late.start.time_since_epoch().count())
+        - static_cast<std::uint64_t>(early.start.time_since_epoch().count());
+    return distance < static_cast<std::uint64_t>(early.duration.count());
+}
+
+/// The order of the rows: by start. Tasks without length may share theirs.
+bool IsBefore(const PX::RecordTime& one, const PX::RecordTime& other)
+{
+    return std::tie(one.start, one.duration, one.title)
+        < std::tie(other.start, other.duration, other.title);
+}
+
+} // namespace
 
 ioPath& ioPath::operator=(const std::string& utf8Path)
 {
@@ -29,7 +53,10 @@ IClock::time_point SystemClock::Now() const
 
 IClock::time_point SystemClock::FromTimeT(std::int64_t seconds) const
 {
-    return time_point(std::chrono::seconds(seconds));
+    // Beyond these the count of microseconds would overflow.
+    constexpr auto earliest = std::chrono::ceil<std::chrono::seconds>(duration::min());
+    constexpr auto latest = std::chrono::floor<std::chrono::seconds>(duration::max());
+    return time_point(std::clamp(std::chrono::seconds(seconds), earliest, latest));
 }
 
 } // namespace Time
@@ -37,7 +64,7 @@ IClock::time_point SystemClock::FromTimeT(std::int64_t seconds) const
 namespace PX {
 
 struct SchedulerHelper::Private {
-    /// In the order of their starts, which is the order of the rows.
+    /// In the order of the rows.
     std::vector<RecordTime> records;
 };
 
@@ -51,14 +78,12 @@ SchedulerHelper::~SchedulerHelper() = default;
 int SchedulerHelper::AddRecord(const RecordTime& record)
 {
     // A stored schedule may hold anything: what is refused here gets no row.
-    if (record.title.trimmed().isEmpty() || DoesTitleAlreadyExists(record.title)
-        || DoesCaptureTimeIntersected(record)) {
+    if (record.title.trimmed().isEmpty() || record.duration.count() < 0
+        || DoesTitleAlreadyExists(record.title) || DoesCaptureTimeIntersected(record)) {
         return -1;
     }
     auto& records = d->records;
-    const auto place = std::upper_bound(
-        records.begin(), records.end(), record,
-        [](const RecordTime& one, const RecordTime& other) { return one.start < other.start; });
+    const auto place = std::upper_bound(records.begin(), records.end(), record, IsBefore);
     const auto index = place - records.begin();
     records.insert(place, record);
     // The row is inserted exactly there.
@@ -86,10 +111,8 @@ bool SchedulerHelper::DoesTitleAlreadyExists(const QString& title) const
 
 bool SchedulerHelper::DoesCaptureTimeIntersected(const RecordTime& record) const
 {
-    // Half-open: a task may start the moment another ends.
     return std::any_of(d->records.begin(), d->records.end(), [&](const RecordTime& other) {
-        return record.start < other.start + other.duration
-            && other.start < record.start + record.duration;
+        return record.start < other.start ? ReachesInto(record, other) : ReachesInto(other, record);
     });
 }
 

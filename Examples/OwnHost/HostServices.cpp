@@ -70,7 +70,8 @@ QValidator* GetFilenameValidator(QObject* parent)
 void ApplyWidgetStyle(QWidget* widget, const QString& style, const char* property)
 {
     // Called often, with the style that the widget has already.
-    if (widget->property(property).toString() == style) {
+    const QVariant current = widget->property(property);
+    if (current.isValid() && current.toString() == style) {
         return;
     }
     widget->setProperty(property, style);

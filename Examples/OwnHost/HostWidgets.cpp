@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 // The widgets that the panel is made of.
+#include <utility>
+
 #include <QAbstractButton>
 #include <QMouseEvent>
 #include <QPointer>
@@ -23,26 +25,42 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::MouseButtonPress) {
-            // Who takes the press gets the release.
-            return true;
-        }
-        if (event->type() != QEvent::MouseButtonRelease || m_button.isNull()) {
+        const auto type = event->type();
+        // The second press of a double click is one, too.
+        const bool isPress =
+            type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+        if ((!isPress && type != QEvent::MouseButtonRelease) || m_button.isNull()) {
             return QObject::eventFilter(watched, event);
         }
         const auto* mouse = static_cast<QMouseEvent*>(event);
-        if (mouse->button() == Qt::LeftButton
-            && static_cast<QWidget*>(watched)->rect().contains(mouse->pos())) {
+        if (mouse->button() != Qt::LeftButton) {
+            return QObject::eventFilter(watched, event);
+        }
+        const bool isInside = static_cast<QWidget*>(watched)->rect().contains(mouse->pos());
+        const bool wasPressed = std::exchange(m_isPressed, isPress);
+        if (!isPress && wasPressed && isInside) {
             m_button->setFocus(Qt::MouseFocusReason);
             // It may ask a question in which all of this is deleted: nothing is touched after it.
             m_button->click();
         }
+        // Who takes the press gets the release.
         return true;
     }
 
 private:
     const QPointer<QAbstractButton> m_button;
+    bool m_isPressed = false;
 };
+
+/// What a screen reader calls a field or button: the text of its caption without the mark of the
+/// key.
+void NameBuddy(const QLabel& caption)
+{
+    if (caption.buddy() != nullptr) {
+        QString name = caption.text();
+        caption.buddy()->setAccessibleName(name.remove(QLatin1Char('&')));
+    }
+}
 
 } // namespace
 
@@ -62,6 +80,7 @@ void ZLabel::setOriginalText(const QString& text)
 {
     // A host may shorten here what does not fit, and keep the whole text for originalText().
     setText(text);
+    NameBuddy(*this);
 }
 
 QString ZLabel::originalText() const
@@ -74,9 +93,10 @@ namespace Util {
 void bindWidgets(QWidget* label, QAbstractButton* button)
 {
     new CaptionClicks(label, button);
-    // As its buddy the button follows the caption's mnemonic, and screen readers read it out.
+    // As its buddy the button follows the caption's key.
     if (auto* caption = qobject_cast<QLabel*>(label)) {
         caption->setBuddy(button);
+        NameBuddy(*caption);
     }
 }
 
