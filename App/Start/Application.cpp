@@ -29,7 +29,6 @@
 #include "Languages.h"
 #include "Log.h"
 #include "MainWindow.h"
-#include "PXUserSettings/SettingsFormat.h"
 #include "QtNames.h"
 #include "RecordingControl.h"
 #include "RecordingSettings.h"

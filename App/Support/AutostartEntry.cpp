@@ -13,7 +13,6 @@
 #include "DefaultSettingsFile.h"
 #include "DesktopEntryName.h"
 #include "PXUserSettings/PrivateFile.h"
-#include "PXUserSettings/SettingsFormat.h"
 
 namespace Zentor::Desktop {
 namespace {

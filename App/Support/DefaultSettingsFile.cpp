@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "DefaultSettingsFile.h"
-#include "PXUserSettings/SettingsFormat.h"
 
 #include <QDir>
 #include <QStandardPaths>

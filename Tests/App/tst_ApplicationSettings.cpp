@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 
 #include "ApplicationSettings.h"
+#include "PXUserSettings/SettingsFormat.h"
 #include "StoreIn.h"
 #include "ThemeName.h"
 #include "WidgetTest.h"

@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 
 #include "BackgroundSettings.h"
+#include "PXUserSettings/SettingsFormat.h"
 #include "StoreIn.h"
 #include "WidgetTest.h"
 

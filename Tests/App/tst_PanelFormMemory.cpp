@@ -8,6 +8,7 @@
 
 #include "AppWindow.h"
 #include "Boxes.h"
+#include "PXUserSettings/SettingsFormat.h"
 #include "Resources.h"
 #include "Theme.h"
 #include "WidgetTest.h"

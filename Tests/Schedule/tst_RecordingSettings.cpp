@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QTemporaryDir>
 
+#include "PXUserSettings/SettingsFormat.h"
 #include "RecordingSettings.h"
 #include "WidgetTest.h"
 

@@ -136,8 +136,8 @@ public:
     };
 
     /// Creates a box, which is not shown yet, with the standard buttons \a buttons. It shows
-    /// \a level, \a title, which is empty for the boxes of the panel, and \a text, which may have an
-    /// HTML link in it; \a parent is its owner, \a flags are for its window.
+    /// \a level, \a title, which is empty for the boxes of the panel, and \a text, which may have
+    /// an HTML link in it; \a parent is its owner, \a flags are for its window.
     AlertBox(Level level, const QString& title, const QString& text,
              QMessageBox::StandardButtons buttons, QWidget* parent, Qt::WindowFlags flags);
 
