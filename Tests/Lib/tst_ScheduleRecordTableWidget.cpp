@@ -492,6 +492,35 @@ private Q_SLOTS:
         QCOMPARE(styles(0), QString("Normal,Normal,Normal,Normal,Normal"));
     }
 
+    void clearsTheScheduleUnderTheMouse_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"titleLabel", "durationLabel", "deleteToolButton"}) {
+            QTest::newRow(name) << QString(name);
+        }
+    }
+
+    /// The row is told that the mouse is on it once more, when it has begun to lose its children.
+    void clearsTheScheduleUnderTheMouse()
+    {
+        QFETCH(QString, name);
+        QWidget window;
+        window.setStyleSheet(QStringLiteral(
+            "Zentor--PX--Scheduler--UI--ScheduleRecordTableWidget { min-width: 400px;"
+            " qproperty-heightStep: 30; }"
+            "#recordTableScrollArea { qproperty-widgetResizable: true; }"
+            "#infoRecordFrame { min-height: 30px; }"));
+        const Table table(&window);
+        table.widget->AddRecords(Tasks(2));
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const auto* child = table.Row(0)->findChild<QWidget*>(name);
+        QTest::mouseMove(window.windowHandle(), child->mapTo(&window, child->rect().center()));
+        QCOMPARE(child->property("SubStyle").toString(), QStringLiteral("Hover"));
+        table.widget->ClearSchedule();
+        QCOMPARE(table.Rows(), QStringLiteral("-"));
+    }
+
     void letsOtherEventsOfRowsPass()
     {
         Table table;

@@ -146,6 +146,9 @@ void ScheduleRecordTableWidget::Private::RemoveAtOnce(QWidget* row)
 {
     askingButtons.DetachFrom(*row);
     ui->recordLayout->removeWidget(row);
+    // As each child under the mouse goes, Qt has the mouse enter the row, whose children are no
+    // longer all there.
+    row->removeEventFilter(owner);
     delete row;
 }
 
