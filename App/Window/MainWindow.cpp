@@ -374,7 +374,8 @@ void MainWindow::ShowPageTitles()
     for (int index = 0; index < m_frames.size(); ++index) {
         const QString title = m_frames.at(index)->Content()->Title();
         QListWidgetItem* entry = m_pageList->item(index);
-        entry->setText(m_isSidebarNarrow ? QString() : title);
+        // No text at all: Qt 6 keeps room for an empty one.
+        entry->setData(Qt::DisplayRole, m_isSidebarNarrow ? QVariant() : title);
         entry->setToolTip(m_isSidebarNarrow ? title : QString());
         entry->setData(Qt::AccessibleTextRole, title);
     }
