@@ -54,13 +54,13 @@ void Fill(QString& sheet, const char* name, int value)
 void FillColors(QString& sheet)
 {
     const QPalette palette = QApplication::palette();
-    const QColor base = palette.color(QPalette::Base);
-    const QColor window = palette.color(QPalette::Window);
-    const QColor text = palette.color(QPalette::Text);
+    const QColor& base = palette.color(QPalette::Base);
+    const QColor& window = palette.color(QPalette::Window);
+    const QColor& text = palette.color(QPalette::Text);
     const QColor hover = Mixed(base, text, 0.07);
     const QColor red(0xd0, 0x21, 0x21);
     const QColor errorGround = Mixed(base, red, 0.12);
-    const auto readable = [](QColor color, const QColor& ground, const QColor& other,
+    const auto readable = [](const QColor& color, const QColor& ground, const QColor& other,
                              double contrast) {
         return Readable(Readable(color, ground, contrast), other, contrast).name();
     };

@@ -42,10 +42,10 @@ QColor Readable(const QColor& color, const QColor& ground, double contrast)
 {
     const QColor black(Qt::black);
     const QColor white(Qt::white);
-    const QColor end = Contrast(black, ground) > Contrast(white, ground) ? black : white;
+    QColor end = Contrast(black, ground) > Contrast(white, ground) ? black : white;
     constexpr int steps = 20;
     for (int step = 0; step < steps; ++step) {
-        const QColor candidate = Mixed(color, end, static_cast<double>(step) / steps);
+        QColor candidate = Mixed(color, end, static_cast<double>(step) / steps);
         if (Contrast(candidate, ground) >= contrast) {
             return candidate;
         }

@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include "Contrast.h"
 #include "MarkingTranslator.h"
