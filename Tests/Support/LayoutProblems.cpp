@@ -8,11 +8,13 @@
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QBitmap>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -73,6 +75,22 @@ QSize SizeOf(const QString& text, const QWidget& widget)
     return line.boundedTo({qMax(0, letters.x()) + letters.width(), letters.height()});
 }
 
+/// The columns of \a document that have something of its letters in them.
+int PaintedWidth(QTextDocument& document)
+{
+    const QSize size(qCeil(document.idealWidth()), qCeil(document.size().height()));
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    document.drawContents(&painter);
+    painter.end();
+    const QRect all(QPoint(0, 0), size);
+    return QRegion(QBitmap::fromImage(picture.createAlphaMask()))
+        .boundingRect()
+        .intersected(all)
+        .width();
+}
+
 QSize NeededBy(const QLabel& label, int width)
 {
     const QString text = label.text();
@@ -83,7 +101,10 @@ QSize NeededBy(const QLabel& label, int width)
         document.setDocumentMargin(0);
         document.setHtml(text);
         document.setTextWidth(width);
-        return QSizeF(document.idealWidth(), document.size().height()).toSize();
+        const int idealWidth = qRound(document.idealWidth());
+        // Qt 6 lets a line stand out by what is free behind its last letter.
+        return {idealWidth > width ? PaintedWidth(document) : idealWidth,
+                qRound(document.size().height())};
     }
     const int flags = label.buddy() != nullptr ? Qt::TextShowMnemonic : 0;
     if (label.wordWrap()) {
