@@ -151,7 +151,8 @@ private Q_SLOTS:
         QCoreApplication::sendEvent(m_page.get(), &languageChange);
         QLocale::setDefault(QLocale::c());
         const QString text = Label("freeSpaceLabel")->text();
-        const int number = int(text.indexOf(QRegularExpression(QStringLiteral("[0-9]"))));
+        // Not its first digit: a cursor there may be shown on either side of the number.
+        const int number = int(text.lastIndexOf(QRegularExpression(QStringLiteral("[0-9]"))));
         const int unit = int(text.indexOf(QRegularExpression(QStringLiteral("\\p{L}")), number));
         QVERIFY2(number >= 0 && unit > number, qPrintable(text));
         QTextLayout layout(text, Label("freeSpaceLabel")->font());
