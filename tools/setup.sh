@@ -22,12 +22,15 @@ packages_to_run=(
     gstreamer1.0-x gstreamer1.0-pulseaudio gstreamer1.0-pipewire gstreamer1.0-libav)
 
 # To test it, in addition: linters, of licences too; a second compiler; Qt's private headers, for
-# stand-ins of a screen; a display that nobody sees, with what works a window on it; the accessibility
-# bus; what checks the files that the application installs; what judges recordings; a sound server that
-# no device belongs to; what writes the reference documents, with the names in Qt's.
+# stand-ins of a screen; Qt 6 with its plugins and translations; a display that nobody sees, with what
+# works a window on it; the accessibility bus; what checks the files that the application installs; what
+# judges recordings; a sound server that no device belongs to; what writes the reference documents, with
+# the names in Qt's.
 packages_to_test=(
     clang-format-14 clang-tidy-14 clang-14 reuse git python3
     qtbase5-private-dev
+    qt6-base-dev qt6-base-private-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+    libqt6svg6 qt6-wayland qt6-translations-l10n
     xvfb xauth xdotool openbox
     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils
     dbus at-spi2-core python3-gi gir1.2-atspi-2.0 python3-dbusmock procps libglib2.0-bin
