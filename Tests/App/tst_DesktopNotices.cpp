@@ -54,7 +54,11 @@ public:
     {
         return QTest::qWaitFor([&] { return desktop.Shown().size() == count; }, Patience);
     }
-    QString Summary() const { return desktop.Shown().back().summary; }
+    /// Of the last notification on the screen; empty while there is none.
+    QString Summary() const
+    {
+        return desktop.Shown().empty() ? QString() : desktop.Shown().back().summary;
+    }
 
     FakeNotifications desktop;
     Schedule::DesktopNotifier notifier;
