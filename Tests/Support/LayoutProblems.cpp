@@ -24,6 +24,7 @@
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
 #include <QTextDocument>
+#include <QtMath>
 
 #include "PanelParts.h"
 
