@@ -11,6 +11,7 @@ cd "$(dirname "$0")/../.."
 source tools/setup.sh
 
 work=$(mktemp -d)
+files=()
 names=(pxuischedulerwidgets-doc libpxuischedulerwidgets-dev px-scheduler libpxuischedulerwidgets0)
 remove() {
     as_root dpkg --purge "${names[@]}" >/dev/null
@@ -33,7 +34,10 @@ files_of_the_system() {
 }
 
 files_of_the_system >"$work/before"
-as_root dpkg --install "$packages"/*.deb >/dev/null
+for name in "${names[@]}"; do
+    files+=("$packages/${name}"_*.deb)
+done
+as_root dpkg --install "${files[@]}" >/dev/null
 
 cmake -S Tests/Consumer/Installed -B "$work/shared" -G Ninja >/dev/null
 cmake --build "$work/shared" >/dev/null
