@@ -27,7 +27,7 @@ packages_to_run=(
 # judges recordings; a sound server that no device belongs to; what writes the reference documents, with
 # the names in Qt's.
 packages_to_test=(
-    clang-format-14 clang-tidy-14 clang-14 reuse git python3
+    clang-format-14 clang-tidy-14 clang-14 reuse git make python3
     qtbase5-private-dev
     qt6-base-dev qt6-base-private-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     libqt6svg6 qt6-wayland qt6-translations-l10n
