@@ -9,7 +9,7 @@
 
 /// \def PXUISCHEDULERWIDGETS_API
 /// Export of the library's public class. By default it is a shared library that is used; the CMake
-/// target and the pkg-config file of the static one define `PXUISCHEDULERWIDGETS_STATIC`, and
+/// target of the static one defines `PXUISCHEDULERWIDGETS_STATIC`, and
 /// `PXUISCHEDULERWIDGETS_LIBRARY` is defined while the library itself is compiled.
 #if defined(PXUISCHEDULERWIDGETS_STATIC)
 #define PXUISCHEDULERWIDGETS_API
