@@ -42,7 +42,7 @@ as_root dpkg --install "${files[@]}" >/dev/null
 cmake -S Tests/Consumer/Installed -B "$work/shared" -G Ninja >/dev/null
 cmake --build "$work/shared" >/dev/null
 ctest --test-dir "$work/shared" --output-on-failure --no-tests=error
-ldd "$work/shared/consumer" | grep -F /usr/lib | grep -F libPXUiSchedulerWidgets.so.0
+ldd "$work/shared/consumer" | grep -E "libPXUiSchedulerWidgets\.so\.0 => (/usr)?/lib/"
 
 cmake -S Tests/Consumer/Installed -B "$work/static" -G Ninja -DSTATIC=ON >/dev/null
 cmake --build "$work/static" >/dev/null
