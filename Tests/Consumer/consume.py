@@ -128,7 +128,7 @@ def rows(everything, work):
               "build tree": "-DPXUiSchedulerWidgets_DIR=" + BUILD,
               "subfolder": "-DPANEL_SOURCE_DIR=" + SOURCE}
     usual = [("installed", CLANG, "20", "static"), ("moved", GCC, "20", "shared"),
-             ("build tree", GCC, "17", "shared")]
+             ("build tree", CLANG, "17", "static")]
     every = itertools.product(places, (GCC, CLANG), ("17", "20"), ("shared", "static"))
     for row in every if everything else usual:
         place, compiler, standard, kind = row
