@@ -23,10 +23,19 @@ LIBRARY = "Lib/UI/SchedulerWidgets"
 # The folders of each layer, and what it may include besides its own: folders or headers.
 DATA = [LIBRARY + "/HostData.h"]
 CONTRACT = DATA + [LIBRARY + "/HostInterfaces.h"]
+# What others may include: where the headers that are installed come from.
+with open(os.path.join(ROOT, "Tests/Consumer/headers.txt"), encoding="utf-8") as file:
+    PUBLIC = [line.strip().replace("PXUiSchedulerWidgets/ReferenceHost", "Host")
+              .replace("PXUiSchedulerWidgets", LIBRARY) for line in file if line.startswith("PXUi")]
+PANEL = [path for path in PUBLIC if path.startswith(LIBRARY)]
+# What the static panel shows of itself besides.
+CLASSES = ["%s/%s.h" % (LIBRARY, name) for name in (
+    "CreateRecordTaskUi", "CreateRecordTaskWidget", "RecordSchedulerWidgetUi",
+    "ScheduleRecordTableUi", "ScheduleRecordTableWidget")]
 CORE = ["Host/CoreInt", "Host/CoreTime", "Host/PXScheduler", "Host/PXUserSettings"]
 HOST = ["Host/Application", "Host/PXUtilUI", "Host/ZQtUtil", "Host/ZentorWidget"]
 SCHEDULE = ["Schedule", "Schedule/System"]
-SUPPORT = [LIBRARY] + CORE + HOST + SCHEDULE + ["App/Support"]
+SUPPORT = PANEL + CORE + HOST + SCHEDULE + ["App/Support"]
 PAGES = SUPPORT + ["App/Appearance", "App/Panel", "App/Pages"]
 LAYERS = [
     ([LIBRARY], CONTRACT),
@@ -43,6 +52,9 @@ LAYERS = [
     (["App/Tray"], SUPPORT + ["App/Appearance"]),
     (["App/Notices"], SUPPORT),
     (["App/Start"], PAGES + ["App/Window", "App/Tour", "App/Tray", "App/Notices"]),
+    # What a program of others finds, with the reference host and with a host of its own.
+    (["Examples/Minimal"], PUBLIC),
+    (["Examples/OwnHost"], PANEL + CLASSES),
 ]
 # What a header's name in an #include is relative to, where that is not its own folder.
 SEARCHED = dict({folder: "Host" for folder in CORE + HOST}, **{"Schedule/System": "Schedule"})

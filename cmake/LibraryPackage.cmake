@@ -6,7 +6,7 @@ include(CMakePackageConfigHelpers)
 
 get_property(libraries GLOBAL PROPERTY ZENTOR_LIBRARIES)
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/PXUiSchedulerWidgets")
-set(panel_headers HostData.h HostInterfaces.h RecordSchedulerWidget.h SchedulerWidgetsExport.h)
+get_property(panel_headers GLOBAL PROPERTY ZENTOR_PANEL_HEADERS)
 list(TRANSFORM panel_headers PREPEND "${PROJECT_SOURCE_DIR}/Lib/UI/SchedulerWidgets/")
 
 # The same file serves both: beside it lie the targets of its kind.

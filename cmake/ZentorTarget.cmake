@@ -131,17 +131,20 @@ function(zentor_target_precompile target)
 endfunction()
 
 # A layer that may use one header of another layer's folder links the view instead of the folder, so
-# that the compiler refuses the others.
+# that the compiler refuses the others. Links, as moc reads what lies there.
 function(zentor_header_view target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "WITH_FOLDERS" "" "")
     set(folder "${CMAKE_CURRENT_BINARY_DIR}/include/${target}")
+    file(REMOVE_RECURSE "${folder}")
     foreach(name IN LISTS arg_UNPARSED_ARGUMENTS)
         set(header "${name}")
         if(NOT arg_WITH_FOLDERS)
             get_filename_component(name "${header}" NAME)
         endif()
-        file(CONFIGURE OUTPUT "${folder}/${name}"
-            CONTENT "#include \"${CMAKE_CURRENT_SOURCE_DIR}/${header}\"\n" @ONLY)
+        get_filename_component(header_folder "${folder}/${name}" DIRECTORY)
+        file(MAKE_DIRECTORY "${header_folder}")
+        file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}/${header}" "${folder}/${name}"
+            SYMBOLIC COPY_ON_ERROR)
     endforeach()
     add_library(${target} INTERFACE)
     target_include_directories(${target} INTERFACE "${folder}")
