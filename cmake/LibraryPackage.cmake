@@ -9,12 +9,20 @@ set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/PXUiSchedulerWidgets")
 get_property(panel_headers GLOBAL PROPERTY ZENTOR_PANEL_HEADERS)
 list(TRANSFORM panel_headers PREPEND "${PROJECT_SOURCE_DIR}/Lib/UI/SchedulerWidgets/")
 
-# The same file serves both: beside it lie the targets of its kind.
+# Each lies beside the targets of its kind.
 set(package_include_dir "${PXUISCHEDULER_INCLUDE_DIR}")
+set(translations_dir "${CMAKE_INSTALL_DATADIR}/PXUiSchedulerWidgets/translations")
+set(package_translations_dir "${translations_dir}")
+set(installed_config "${PROJECT_BINARY_DIR}/installed/PXUiSchedulerWidgetsConfig.cmake")
+configure_package_config_file(cmake/PXUiSchedulerWidgetsConfig.cmake.in "${installed_config}"
+    INSTALL_DESTINATION "${package_dir}"
+    PATH_VARS package_include_dir package_translations_dir)
+set(package_translations_dir Host/Translations)
 configure_package_config_file(cmake/PXUiSchedulerWidgetsConfig.cmake.in
     "${PROJECT_BINARY_DIR}/PXUiSchedulerWidgetsConfig.cmake"
-    INSTALL_DESTINATION "${package_dir}"
-    PATH_VARS package_include_dir)
+    INSTALL_DESTINATION "${PROJECT_BINARY_DIR}"
+    INSTALL_PREFIX "${PROJECT_BINARY_DIR}"
+    PATH_VARS package_include_dir package_translations_dir)
 # Before 1.0, a new minor version may change the interface.
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/PXUiSchedulerWidgetsConfigVersion.cmake"
     COMPATIBILITY SameMinorVersion)
@@ -45,7 +53,7 @@ foreach(set IN ITEMS PXUiSchedulerWidgetsTargets PXUiSchedulerWidgetsStaticTarge
     install(EXPORT ${set} NAMESPACE Zentor:: DESTINATION "${package_dir}" COMPONENT development)
 endforeach()
 install(FILES
-        "${PROJECT_BINARY_DIR}/PXUiSchedulerWidgetsConfig.cmake"
+        "${installed_config}"
         "${PROJECT_BINARY_DIR}/PXUiSchedulerWidgetsConfigVersion.cmake"
     DESTINATION "${package_dir}" COMPONENT development)
 
@@ -59,7 +67,7 @@ endforeach()
 
 get_property(library_translations GLOBAL PROPERTY ZENTOR_TRANSLATIONS)
 install(FILES ${library_translations}
-    DESTINATION "${CMAKE_INSTALL_DATADIR}/PXUiSchedulerWidgets/translations" COMPONENT runtime)
+    DESTINATION "${translations_dir}" COMPONENT runtime)
 
 # For builds without CMake. The prefix is where the file lies, so that the tree can be moved.
 file(RELATIVE_PATH prefix_from_pkgconfig
