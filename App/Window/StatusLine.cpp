@@ -52,7 +52,9 @@ void StatusLine::paintEvent(QPaintEvent* event)
     option.initFrom(this);
     style()->drawPrimitive(QStyle::PE_PanelStatusBar, &option, &painter, this);
     const auto alignment = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
-    style()->drawItemText(&painter, MessageRect(), static_cast<int>(alignment | Qt::AlignVCenter),
+    // The last letter of a message that just fits may lean out into the margin.
+    style()->drawItemText(&painter, MessageRect(),
+                          static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextDontClip,
                           palette(), isEnabled(), ShortenedMessage(), foregroundRole());
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <QPaintEvent>
+#include <QtMath>
 
 #include "StatusLine.h"
 #include "WidgetTest.h"
@@ -88,6 +89,26 @@ private Q_SLOTS:
         };
         QVERIFY(hasInk(6, 60));
         QVERIFY(!hasInk(195, 199));
+    }
+
+    /// The last letter of an italic text leans out of the room that the text takes.
+    void paintsTheLastLetterWhole()
+    {
+        Desktop::StatusLine line;
+        line.setSizeGripEnabled(false);
+        QFont font = line.font();
+        font.setItalic(true);
+        font.setPixelSize(20);
+        line.setFont(font);
+        line.showMessage("Stuff");
+        constexpr int margin = 6;
+        const qreal width = QFontMetricsF(line.font()).horizontalAdvance("Stuff");
+        line.resize(qCeil(width) + 2 * margin, 60);
+        line.show();
+        QCOMPARE(line.toolTip(), QString());
+        const QImage picture = line.grab().toImage();
+        line.resize(line.width() + 100, line.height());
+        QCOMPARE(picture, line.grab().toImage().copy(picture.rect()));
     }
 };
 

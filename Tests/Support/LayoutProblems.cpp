@@ -232,9 +232,10 @@ TextRooms RoomsOf(const QStatusBar& bar)
     if (bar.currentMessage().isEmpty() || !bar.toolTip().isEmpty()) {
         return {};
     }
+    // At its end, letters may lean out into the margin.
     constexpr int margin = 6;
     return {{bar.currentMessage(), SizeOf(bar.currentMessage(), bar),
-             bar.rect().adjusted(margin, 0, -margin, 0).size()}};
+             bar.rect().adjusted(margin, 0, 0, 0).size()}};
 }
 
 TextRooms RoomsOf(const QWidget& widget)
