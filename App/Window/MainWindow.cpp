@@ -300,8 +300,11 @@ void MainWindow::FitScreen()
     const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
     const QRect room = screen()->availableGeometry().adjusted(frame, title, -frame, -frame);
     resize(size().boundedTo(room.size()));
-    const QPoint place(qBound(room.left(), geometry().x(), room.right() + 1 - width()),
-                       qBound(room.top(), geometry().y(), room.bottom() + 1 - height()));
+    // A screen that is too small for the window shows its upper left part.
+    const QPoint last(qMax(room.left(), room.right() + 1 - width()),
+                      qMax(room.top(), room.bottom() + 1 - height()));
+    const QPoint place(qBound(room.left(), geometry().x(), last.x()),
+                       qBound(room.top(), geometry().y(), last.y()));
     // Only from a place that was remembered: where a new window comes is the desktop's choice.
     if (testAttribute(Qt::WA_Moved) && place != geometry().topLeft()) {
         setGeometry({place, size()});
