@@ -30,6 +30,13 @@ else()
     message(FATAL_ERROR "QT_MAJOR_VERSION is ${QT_MAJOR_VERSION}; it can be 5 or 6.")
 endif()
 
+# Both at once would fail later, and say nothing of the reason.
+math(EXPR zentor_other_qt "11 - ${QT_MAJOR_VERSION}")
+if(TARGET Qt${zentor_other_qt}::Core AND NOT TARGET Qt${QT_MAJOR_VERSION}::Core)
+    message(FATAL_ERROR "This project uses Qt ${zentor_other_qt}, but QT_MAJOR_VERSION is "
+        "${QT_MAJOR_VERSION}: set it to ${zentor_other_qt} before add_subdirectory().")
+endif()
+
 # A macro: what Qt sets is wanted by who calls it.
 macro(zentor_find_qt)
     find_package(Qt${QT_MAJOR_VERSION} ${zentor_minimum_qt} REQUIRED COMPONENTS ${ARGN})

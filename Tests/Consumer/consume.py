@@ -116,6 +116,28 @@ def check_components(folder):
             whole.symmetric_difference(set.union(*parts.values()))))
 
 
+def check_refusals(folder, place):
+    """What cannot work is refused where it is asked for, and the reason said."""
+    other_qt = "find_package(Qt%d REQUIRED COMPONENTS Core)" % (11 - int(QT))
+    find = "find_package(PXUiSchedulerWidgets REQUIRED COMPONENTS %s)"
+    for number, (commands, reason) in enumerate((
+            ((other_qt, find % "ReferenceHost"), "this project uses Qt"),
+            ((other_qt, 'add_subdirectory("%s" panel)' % SOURCE), "This project uses Qt"),
+            (("set(CMAKE_DISABLE_FIND_PACKAGE_glog ON)", find % "Static"), "needs the development files"),
+            ((find % "Recorder",), "not Recorder"))):
+        project = os.path.join(folder, str(number))
+        os.makedirs(project)
+        with open(os.path.join(project, "CMakeLists.txt"), "w", encoding="utf-8") as file:
+            file.write("\n".join(("cmake_minimum_required(VERSION 3.25)",
+                                  "project(Refused LANGUAGES CXX)") + commands))
+        result = subprocess.run(
+            ["cmake", "-S", project, "-B", os.path.join(project, "build"), "-G", "Ninja", place]
+            + (["-DQT_MAJOR_VERSION=" + QT] if "subdirectory" in commands[-1] else []),
+            text=True, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
+        if result.returncode == 0 or reason not in " ".join(result.stdout.split()):
+            raise Failure("not refused with the reason '%s':\n%s" % (reason, result.stdout))
+
+
 def rows(everything, work):
     installed = os.path.join(work, "prefix")
     moved = os.path.join(work, "moved")
@@ -143,6 +165,8 @@ def rows(everything, work):
             with_reference_host, folder, compiler, standard, kind, places[place])
     yield "moved, own host", functools.partial(
         with_own_host, os.path.join(work, "own-host"), places["moved"])
+    yield "moved, refusals", functools.partial(
+        check_refusals, os.path.join(work, "refused"), places["moved"])
     for compiler in (GCC, CLANG) if everything else (GCC,):
         yield "pkg-config, " + compiler, functools.partial(
             by_make, os.path.join(work, "make-" + compiler), compiler, moved)
