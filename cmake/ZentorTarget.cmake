@@ -94,9 +94,9 @@ function(zentor_library target name)
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${name}
         OUTPUT_NAME ${file_name}
-        INSTALL_RPATH "$ORIGIN"
+        INSTALL_RPATH "$ORIGIN;${CMAKE_INSTALL_RPATH}"
         VERSION ${PROJECT_VERSION}
-        SOVERSION ${PROJECT_VERSION_MAJOR})
+        SOVERSION ${PXUISCHEDULER_SOVERSION})
     set_property(GLOBAL APPEND PROPERTY ZENTOR_LIBRARIES ${target})
 
     set(map "${CMAKE_CURRENT_SOURCE_DIR}/exports.map")

@@ -12,7 +12,8 @@ source tools/setup.sh
 
 work=$(mktemp -d)
 files=()
-names=(pxuischedulerwidgets-doc libpxuischedulerwidgets-dev px-scheduler libpxuischedulerwidgets0)
+names=(pxuischedulerwidgets-doc libpxuischedulerwidgets-dev libpxuischedulerwidgets-data px-scheduler
+    libpxuischedulerwidgets0.1)
 remove() {
     as_root dpkg --purge "${names[@]}" >/dev/null
 }
@@ -20,7 +21,7 @@ clean_up() {
     remove 2>/dev/null || true
     rm -rf "$work"
 }
-if [[ -n "$(dpkg-query -W -f '${Package}' libpxuischedulerwidgets0 2>/dev/null)" ]]; then
+if [[ -n "$(dpkg-query -W -f '${Package}' libpxuischedulerwidgets0.1 2>/dev/null)" ]]; then
     echo "The packages are installed already: this test would remove them." >&2
     exit 1
 fi
@@ -42,7 +43,7 @@ as_root dpkg --install "${files[@]}" >/dev/null
 cmake -S Tests/Consumer/Installed -B "$work/shared" -G Ninja >/dev/null
 cmake --build "$work/shared" >/dev/null
 ctest --test-dir "$work/shared" --output-on-failure --no-tests=error
-ldd "$work/shared/consumer" | grep -E "libPXUiSchedulerWidgets\.so\.0 => (/usr)?/lib/"
+ldd "$work/shared/consumer" | grep -E "libPXUiSchedulerWidgets\.so\.0\.1 => (/usr)?/lib/"
 
 cmake -S Tests/Consumer/Installed -B "$work/static" -G Ninja -DSTATIC=ON >/dev/null
 cmake --build "$work/static" >/dev/null
