@@ -18,12 +18,15 @@ configure_package_config_file(cmake/PXUiSchedulerWidgetsConfig.cmake.in "${insta
     INSTALL_DESTINATION "${package_dir}"
     PATH_VARS package_include_dir package_translations_dir)
 set(package_translations_dir Host/Translations)
+set(PXUiSchedulerWidgets_TRANSLATIONS_DIR "${PROJECT_BINARY_DIR}/${package_translations_dir}")
+if(NOT PROJECT_IS_TOP_LEVEL)
+    set(PXUiSchedulerWidgets_TRANSLATIONS_DIR "${PXUiSchedulerWidgets_TRANSLATIONS_DIR}" PARENT_SCOPE)
+endif()
 configure_package_config_file(cmake/PXUiSchedulerWidgetsConfig.cmake.in
     "${PROJECT_BINARY_DIR}/PXUiSchedulerWidgetsConfig.cmake"
     INSTALL_DESTINATION "${PROJECT_BINARY_DIR}"
     INSTALL_PREFIX "${PROJECT_BINARY_DIR}"
     PATH_VARS package_include_dir package_translations_dir)
-# Before 1.0, a new minor version may change the interface.
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/PXUiSchedulerWidgetsConfigVersion.cmake"
     COMPATIBILITY SameMinorVersion)
 

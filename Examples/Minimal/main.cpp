@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QVBoxLayout>
 
 #include "Application/LookAndFeelManager.h"
@@ -24,7 +25,8 @@ int main(int argc, char** argv)
     const auto store = std::make_shared<PX::SettingsStore>(QStringLiteral("settings.json"));
     QString error;
     if (!store->Open(&error)) {
-        qFatal("%s", qPrintable(error));
+        QMessageBox::critical(nullptr, QString(), error);
+        return 1;
     }
     QWidget window;
     auto* panel = new PX::Scheduler::UI::RecordSchedulerWidget(

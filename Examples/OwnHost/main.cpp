@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The PXUiSchedulerWidgets maintainers
 // SPDX-License-Identifier: MIT
 
-// The panel with a host of one's own: settings in an INI file, message boxes of Qt, a style sheet.
-// What the panel calls is in the files Host*.cpp.
+// The panel with a host of one's own: settings in an INI file, message boxes of Qt, a style sheet,
+// the panel's texts from where it is installed. What the panel calls is in the files Host*.cpp.
 #include <QApplication>
 #include <QFile>
 #include <QLocale>
+#include <QTranslator>
 #include <QVBoxLayout>
 
 #include "IniSettings.h"
@@ -26,11 +27,25 @@ QString StyleSheet()
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
+/// In the user's language or English, which is more than the texts in the source, too.
+void InstallTranslations()
+{
+    auto* translator = new QTranslator(qApp);
+    const auto load = [translator](const QLocale& locale) {
+        return translator->load(locale, QStringLiteral("PXUiSchedulerWidgets"), QStringLiteral("_"),
+                                QStringLiteral(TRANSLATIONS_DIR));
+    };
+    if (load(QLocale()) || load(QLocale(QStringLiteral("en")))) {
+        QCoreApplication::installTranslator(translator);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
+    InstallTranslations();
     // Before the panel is built: it takes its width from the sheet while it is.
     application.setStyleSheet(StyleSheet());
 

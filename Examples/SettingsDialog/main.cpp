@@ -3,6 +3,7 @@
 
 // A program with a settings dialog, in which the panel is one page of three.
 #include <QApplication>
+#include <QMessageBox>
 
 #include "Application/Translations.h"
 #include "PXUserSettings/SettingsStore.h"
@@ -16,7 +17,8 @@ int main(int argc, char** argv)
     const auto store = std::make_shared<Zentor::PX::SettingsStore>(QStringLiteral("settings.json"));
     QString error;
     if (!store->Open(&error)) {
-        qFatal("%s", qPrintable(error));
+        QMessageBox::critical(nullptr, QString(), error);
+        return 1;
     }
     // Closing it by OK or Cancel ends the program: it is the only window.
     SettingsDialog dialog(store);

@@ -294,8 +294,9 @@ public:
     /// Runs when the panel and the host have released their shares.
     virtual ~IFinishActionWatcher() = default;
 
-    /// \a index is the PowerAction chosen for the limited capture; -1 where the stored one is no
-    /// entry of the combo box. Not called for the action of a task, nor for a change of language.
+    /// \a index is the PowerAction chosen for the limited capture; -1 when a stored one that is no
+    /// entry of the combo box takes a choice away, which a new panel has not made yet. Not called
+    /// for the action of a task, nor for a change of language.
     virtual void OnCaptureFinishActionChanged(int index) = 0;
 };
 

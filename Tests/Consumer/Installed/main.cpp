@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTranslator>
 
 #include "Application/LookAndFeelManager.h"
 #include "Application/SettingsManager.h"
@@ -18,9 +19,15 @@ using namespace Zentor;
 
 namespace {
 
-/// Whether the texts came along, as a file inside the host's library.
+/// Whether the texts came along, as a file inside the host's library, and beside it where the build
+/// says so.
 bool SpeaksGerman()
 {
+#ifdef TRANSLATIONS_DIR
+    if (!QTranslator().load(QStringLiteral(TRANSLATIONS_DIR "/PXUiSchedulerWidgets_de.qm"))) {
+        return false;
+    }
+#endif
     return App::InstallTranslations(QLocale::German)
         && QCoreApplication::translate("CreateRecordTaskWidget", "Back")
         == QString::fromUtf8("Zurück");
