@@ -361,6 +361,21 @@ private Q_SLOTS:
         QCOMPARE(panel.Duration()->time(), QTime(1, 0));
     }
 
+    /// An action of a newer host, of which the box has no entry, takes a choice away.
+    void restoresAnActionThatIsNoEntry()
+    {
+        Panel panel;
+        panel.finishAction->action = static_cast<PX::PowerAction>(int(PX::ShutDown) + 1);
+        panel.widget->RestoreSettings();
+        QCOMPARE(panel.FinishAction()->currentIndex(), -1);
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList());
+        panel.FinishAction()->setCurrentIndex(PX::Sleep);
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList("FinishAction 2"));
+        panel.widget->RestoreSettings();
+        QCOMPARE(panel.FinishAction()->currentIndex(), -1);
+        QCOMPARE(panel.watcher->TakeCalls(), QStringList("FinishAction -1"));
+    }
+
     void restoresWhatItShowsAlreadyWithoutACall()
     {
         Panel panel;
