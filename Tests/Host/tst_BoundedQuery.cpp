@@ -12,6 +12,17 @@ using namespace Zentor;
 using namespace std::chrono_literals;
 using Util::BoundedQuery;
 
+namespace {
+
+/// Whether there is an answer to \a key, asked again while it does not come in time: on a loaded
+/// machine that is no wonder.
+bool Answers(BoundedQuery& query, const std::string& key)
+{
+    return QTest::qWaitFor([&] { return query.Ask(key, [] { return 3; }) == 3; }, Tests::Patience);
+}
+
+} // namespace
+
 class tst_BoundedQuery : public Tests::WidgetTest {
     Q_OBJECT
 
@@ -36,10 +47,9 @@ private Q_SLOTS:
             return 1;
         }) < 0);
         // Others are still answered.
-        QCOMPARE(query.Ask("other", [] { return 2; }), std::int64_t(2));
+        QVERIFY(Answers(query, "other"));
         release.set_value();
-        QTRY_COMPARE_WITH_TIMEOUT(query.Ask("hangs", [] { return 3; }), std::int64_t(3),
-                                  Tests::Patience);
+        QVERIFY(Answers(query, "hangs"));
     }
 
     void doesNotAskAgainWhileOneHangs()
@@ -64,8 +74,7 @@ private Q_SLOTS:
         }
         QTRY_COMPARE_WITH_TIMEOUT(started->load(), 4, Tests::Patience);
         release.set_value();
-        QTRY_COMPARE_WITH_TIMEOUT(query.Ask("0", [] { return 3; }), std::int64_t(3),
-                                  Tests::Patience);
+        QVERIFY(Answers(query, "0"));
     }
 
     void mayEndBeforeTheAnswer()
