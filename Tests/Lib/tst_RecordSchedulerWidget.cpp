@@ -361,14 +361,16 @@ private Q_SLOTS:
         QCOMPARE(panel.Duration()->time(), QTime(1, 0));
     }
 
-    /// An action of a newer host, of which the box has no entry, takes a choice away.
+    /// An action of a newer host, of which the box has no entry, takes a choice away. A box of Qt 6
+    /// reports that where there was none, too.
     void restoresAnActionThatIsNoEntry()
     {
         Panel panel;
         panel.finishAction->action = static_cast<PX::PowerAction>(int(PX::ShutDown) + 1);
         panel.widget->RestoreSettings();
         QCOMPARE(panel.FinishAction()->currentIndex(), -1);
-        QCOMPARE(panel.watcher->TakeCalls(), QStringList());
+        QCOMPARE(panel.watcher->TakeCalls(),
+                 QT_VERSION_MAJOR < 6 ? QStringList() : QStringList("FinishAction -1"));
         panel.FinishAction()->setCurrentIndex(PX::Sleep);
         QCOMPARE(panel.watcher->TakeCalls(), QStringList("FinishAction 2"));
         panel.widget->RestoreSettings();

@@ -295,8 +295,8 @@ public:
     virtual ~IFinishActionWatcher() = default;
 
     /// \a index is the PowerAction chosen for the limited capture; -1 when a stored one that is no
-    /// entry of the combo box takes a choice away, which a new panel has not made yet. Not called
-    /// for the action of a task, nor for a change of language.
+    /// entry of the combo box takes a choice away, and on Qt 6 also where there was none. Not
+    /// called for the action of a task, nor for a change of language.
     virtual void OnCaptureFinishActionChanged(int index) = 0;
 };
 
