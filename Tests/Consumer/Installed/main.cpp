@@ -19,16 +19,11 @@ using namespace Zentor;
 
 namespace {
 
-/// Whether the texts came along, as a file inside the host's library, and beside it where the build
-/// says so.
+/// Whether the texts came along, inside the host's library and as a file.
 bool SpeaksGerman()
 {
-#ifdef TRANSLATIONS_DIR
-    if (!QTranslator().load(QStringLiteral(TRANSLATIONS_DIR "/PXUiSchedulerWidgets_de.qm"))) {
-        return false;
-    }
-#endif
-    return App::InstallTranslations(QLocale::German)
+    return QTranslator().load(QStringLiteral(TRANSLATIONS_DIR "/PXUiSchedulerWidgets_de.qm"))
+        && App::InstallTranslations(QLocale::German)
         && QCoreApplication::translate("CreateRecordTaskWidget", "Back")
         == QString::fromUtf8("Zurück");
 }
